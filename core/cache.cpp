@@ -1,0 +1,39 @@
+// The size of the largest data or unified cache, by cpuid.
+
+#include <cpuid.h>
+
+#include <algorithm>
+#include <climits>
+#include <cstdint>
+
+#include "vorcore/vorcore.h"
+
+namespace {
+
+// Deterministic cache parameters: one subleaf per cache, ended by type 0 (1 data, 3 unified).
+int64_t largestCache(unsigned leaf)
+{
+    int64_t largest = 0;
+    for (unsigned index = 0; index < 16; ++index) {
+        unsigned eax, ebx, ecx, edx;
+        if (!__get_cpuid_count(leaf, index, &eax, &ebx, &ecx, &edx)) break;
+        const unsigned type = eax & 0x1f;
+        if (type == 0) break;
+        if (type != 1 && type != 3) continue;
+        const int64_t ways = (ebx >> 22) + 1, partitions = ((ebx >> 12) & 0x3ff) + 1, line = (ebx & 0xfff) + 1;
+        largest = std::max(largest, ways * partitions * line * (int64_t{ecx} + 1));
+    }
+    return largest;
+}
+
+}  // namespace
+
+extern "C" int vorGetMaxCacheSizeB(int* sizeBytes)
+{
+    if (!sizeBytes) return VorCoreNullPointer;
+    constexpr unsigned intelLeaf = 4, amdLeaf = 0x8000001d;  // the same format under two numbers
+    const int64_t size = std::max(largestCache(intelLeaf), largestCache(amdLeaf));
+    if (size == 0) return VorCoreUnknown;
+    *sizeBytes = static_cast<int>(std::min<int64_t>(size, INT_MAX));
+    return VorCoreOk;
+}

@@ -1,0 +1,45 @@
+// vormAdd_vac: public layers, and the kernels for elements anywhere.
+
+#include "elementwise/vac.hpp"
+
+using namespace vorm;
+
+extern "C" {
+
+VormStatus n8_vormAdd_vac_32f(VAC_PARAMS(float))
+{
+    return vacChecked<4800, Work::elements>(n8_ownOMP_vormAdd_vac_32f, n8_ownvormAdd_vac_32f, n8_ownvormAdd_vac_32f_S2,
+                                            VAC_ARGS);
+}
+VormStatus n8_vormAdd_vac_64f(VAC_PARAMS(double))
+{
+    return vacChecked<1400, Work::elements>(n8_ownOMP_vormAdd_vac_64f, n8_ownvormAdd_vac_64f, n8_ownvormAdd_vac_64f_S2,
+                                            VAC_ARGS);
+}
+VormStatus n8_vormAdd_vac_32f_L(VAC_PARAMS_L(float))
+{
+    return vacCheckedL<2500, Work::elements>(n8_ownOMP_vormAdd_vac_32f_L, n8_ownvormAdd_vac_32f_L,
+                                             n8_ownvormAdd_vac_32f_LS2, VAC_ARGS_L);
+}
+VormStatus n8_vormAdd_vac_64f_L(VAC_PARAMS_L(double))
+{
+    return vacCheckedL<2500, Work::elements>(n8_ownOMP_vormAdd_vac_64f_L, n8_ownvormAdd_vac_64f_L,
+                                             n8_ownvormAdd_vac_64f_LS2, VAC_ARGS_L);
+}
+VormStatus n8_vormAdd_vac_32f_P(VAC_PARAMS_P(float))
+{
+    return vacCheckedP<1500, Work::elements>(n8_ownOMP_vormAdd_vac_32f_P, n8_ownvormAdd_vac_32f_P, VAC_ARGS_P);
+}
+VormStatus n8_vormAdd_vac_64f_P(VAC_PARAMS_P(double))
+{
+    return vacCheckedP<1500, Work::elements>(n8_ownOMP_vormAdd_vac_64f_P, n8_ownvormAdd_vac_64f_P, VAC_ARGS_P);
+}
+
+VormStatus n8_ownvormAdd_vac_32f_S2(VAC_PARAMS(float)) { return vacAnyStride<Add>(VAC_ARGS); }
+VormStatus n8_ownvormAdd_vac_64f_S2(VAC_PARAMS(double)) { return vacAnyStride<Add>(VAC_ARGS); }
+VormStatus n8_ownvormAdd_vac_32f_LS2(VAC_PARAMS_L(float)) { return vacAnyStrideL<Add>(VAC_ARGS_L); }
+VormStatus n8_ownvormAdd_vac_64f_LS2(VAC_PARAMS_L(double)) { return vacAnyStrideL<Add>(VAC_ARGS_L); }
+VormStatus n8_ownvormAdd_vac_32f_P(VAC_PARAMS_P(float)) { return vacPointers<Add>(VAC_ARGS_P); }
+VormStatus n8_ownvormAdd_vac_64f_P(VAC_PARAMS_P(double)) { return vacPointers<Add>(VAC_ARGS_P); }
+
+}

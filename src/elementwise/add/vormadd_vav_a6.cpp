@@ -1,0 +1,12 @@
+// vormAdd_vav: the kernels for contiguous elements, single precision.
+
+#include "elementwise/vav.hpp"
+
+using namespace vorm;
+
+extern "C" {
+
+VormStatus n8_ownvormAdd_vav_32f(VAV_PARAMS(float)) { return vavContiguous<Add>(VAV_ARGS); }
+VormStatus n8_ownvormAdd_vav_32f_L(VAV_PARAMS_L(float)) { return vavContiguousL<Add>(VAV_ARGS_L); }
+
+}

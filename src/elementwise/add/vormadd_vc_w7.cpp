@@ -1,0 +1,11 @@
+// vormAdd_vc: the kernel for contiguous elements, double precision.
+
+#include "elementwise/vc.hpp"
+
+using namespace vorm;
+
+extern "C" {
+
+VormStatus n8_ownvormAdd_vc_64f(VC_PARAMS(double)) { return vcContiguous<Add>(VC_ARGS); }
+
+}

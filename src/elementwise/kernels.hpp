@@ -1,0 +1,176 @@
+// The kernels of the element-wise families, written once over an operation and operand views. A
+// shape header says which views its operands are; nothing else tells the shapes apart.
+#pragma once
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "elementwise/objects.hpp"
+#include "elementwise/packed.hpp"
+#include "elementwise/runs.hpp"
+
+namespace vorm {
+
+// Elements side by side: the contiguous and the _L kernels. ---------------------------------------
+
+// Object n of an operand as the source of a run.
+template <class T, class View>
+VORM_INLINE auto runSource(const View& view, int n)
+{
+    if constexpr (isConstant<View>)
+        return Everywhere<T>{view(n, 0)};
+    else
+        return Along<T>{view.object(n)};
+}
+
+// Whether three floats of each object but the last can be read as 16 bytes inside the operand.
+template <class View>
+VORM_INLINE bool inSlots(const View& view)
+{
+    if constexpr (View::isCommon || isConstant<View>)
+        return true;
+    else
+        return view.stride0 >= 16;
+}
+
+template <class Op, class A, class B, class D>
+VORM_INLINE void slotObjects(const A& a, const B& b, const D& dst, int count)
+{
+    eachObject<Op, SlotVector>(a, b, dst, 0, count - 1);
+    eachObject<Op, SmallVector<float, 3>>(a, b, dst, count - 1, count);  // its slot may end with the page
+}
+
+template <class Op, int Len, class T, class A, class B>
+VORM_INLINE void smallObjects(const A& a, const B& b, const VectorArray<T, Adjacent>& dst, int count)
+{
+    if constexpr (!(isRun<A> && isRun<B>)) {
+        if (isPacked(a, Len) && isPacked(b, Len) && isPacked(dst, Len)) return packedBlocks<Op, Len>(a, b, dst, count);
+    }
+    if constexpr (Len == 3 && sizeof(T) == sizeof(float)) {
+        if (inSlots(a) && inSlots(b)) return slotObjects<Op>(a, b, dst, count);
+    }
+    eachObject<Op, SmallVector<T, Len>>(a, b, dst, 0, count);
+}
+
+template <class Op, int Len, class T, class A, class B>
+VORM_INLINE void smallObjects(const A& a, const B& b, const VectorList<T, Adjacent>& dst, int count)
+{
+    eachObject<Op, SmallVector<T, Len>>(a, b, dst, 0, count);
+}
+
+template <class Op, class A, class B, class T, template <class, class> class Dst>
+VORM_INLINE VormStatus contiguousObjects(const A& a, const B& b, const Dst<T, Adjacent>& dst, int len, int count)
+{
+    if constexpr (isRun<A> && isRun<B> && isRun<Dst<T, Adjacent>>) {
+        if (isPacked(a, len) && isPacked(b, len) && isPacked(dst, len)) {
+            run<Op>(runSource<T>(a, 0), runSource<T>(b, 0), dst.p, std::ptrdiff_t{len} * count);
+            return StatusOk;
+        }
+    }
+    switch (len) {
+    case 3: smallObjects<Op, 3>(a, b, dst, count); break;
+    case 4: smallObjects<Op, 4>(a, b, dst, count); break;
+    case 5: smallObjects<Op, 5>(a, b, dst, count); break;
+    case 6: smallObjects<Op, 6>(a, b, dst, count); break;
+    default:
+        for (int n = 0; n < count; ++n) run<Op>(runSource<T>(a, n), runSource<T>(b, n), dst.object(n), len);
+    }
+    return StatusOk;
+}
+
+// The single shapes behave as a loop over ascending elements, however their operands overlap.
+template <class Op, class T, class A, class B>
+VORM_INLINE VormStatus contiguousObject(const A& a, const B& b, const Vector<T, Adjacent>& dst, int len)
+{
+    const auto asLoop = [&](const auto& view) VORM_INLINE_LAMBDA {
+        if constexpr (isConstant<std::decay_t<decltype(view)>>)
+            return true;
+        else
+            return runsAsLoop<T>(view.p, dst.p);
+    };
+    switch (len) {
+    case 3: eachObject<Op, SmallVector<T, 3>>(a, b, dst, 0, 1); break;
+    case 4: eachObject<Op, SmallVector<T, 4>>(a, b, dst, 0, 1); break;
+    case 5: eachObject<Op, SmallVector<T, 5>>(a, b, dst, 0, 1); break;
+    case 6: eachObject<Op, SmallVector<T, 6>>(a, b, dst, 0, 1); break;
+    default:
+        if (asLoop(a) && asLoop(b))
+            run<Op>(runSource<T>(a, 0), runSource<T>(b, 0), dst.p, len);
+        else
+            eachElement<Op>(a, b, dst, len, 1);
+    }
+    return StatusOk;
+}
+
+// Elements anywhere: the _S2 and _LS2 kernels, and pointer tables. -----------------------------------
+
+template <class Op, class A, class B, class D>
+VORM_INLINE VormStatus anyStride(const A& a, const B& b, const D& dst, int len, int count)
+{
+    using T = std::remove_const_t<decltype(Op::apply(a(0, 0), a(0, 0)))>;
+    switch (len) {
+    case 3: eachObject<Op, ScatteredVector<T, 3>>(a, b, dst, 0, count); break;
+    case 4: eachObject<Op, ScatteredVector<T, 4>>(a, b, dst, 0, count); break;
+    case 5: eachObject<Op, ScatteredVector<T, 5>>(a, b, dst, 0, count); break;
+    case 6: eachObject<Op, ScatteredVector<T, 6>>(a, b, dst, 0, count); break;
+    default: eachElement<Op>(a, b, dst, len, count);
+    }
+    return StatusOk;
+}
+
+// Structure of arrays: element i of all objects lies side by side, so that the whole registers run
+// along the objects. ----------------------------------------------------------------------------------
+
+template <class View>
+VORM_INLINE bool inPlanes(const View& view)
+{
+    if constexpr (View::isCommon)
+        return true;
+    else
+        return view.stride0 == static_cast<int>(sizeof(view(0, 0)));
+}
+
+// Element i of the objects from n on as the source of a run.
+template <class T, class View>
+VORM_INLINE auto planeSource(const View& view, int n, int i)
+{
+    if constexpr (View::isCommon)
+        return Everywhere<T>{view(0, i)};
+    else if constexpr (isConstant<View>)
+        return Along<T>{view.p + n};
+    else
+        return Along<T>{view.element(i) + n};
+}
+
+// Whether no two planes of the destination share memory: only then may an element of a later object
+// be stored before one of an earlier object.
+template <class T>
+VORM_INLINE bool planesDisjoint(const VectorArrayPointers<T>& dst, int len, int count)
+{
+    const auto span = static_cast<std::ptrdiff_t>(sizeof(T)) * count;
+    for (int i = 1; i < len; ++i)
+        for (int j = 0; j < i; ++j) {
+            const auto apart = reinterpret_cast<const char*>(dst.pp[i]) - reinterpret_cast<const char*>(dst.pp[j]);
+            if (std::abs(apart) < span) return false;
+        }
+    return true;
+}
+
+template <class Op, class T, class A, class B>
+VORM_INLINE VormStatus pointerObjects(const A& a, const B& b, const VectorArrayPointers<T>& dst, int len, int count)
+{
+    // Testing the planes pair by pair has to stay small beside the work.
+    const bool worthwhile = count >= Lanes<T>::width && len / 2 < count;
+    if (!(worthwhile && inPlanes(a) && inPlanes(b) && inPlanes(dst) && planesDisjoint(dst, len, count)))
+        return anyStride<Op>(a, b, dst, len, count);
+
+    constexpr int objectsAtOnce = 1024;  // what is read again for each element stays in the cache
+    for (int n = 0; n < count; n += objectsAtOnce) {
+        const int objects = std::min(objectsAtOnce, count - n);
+        for (int i = 0; i < len; ++i)
+            run<Op>(planeSource<T>(a, n, i), planeSource<T>(b, n, i), dst.element(i) + n, objects);
+    }
+    return StatusOk;
+}
+
+}  // namespace vorm

@@ -1,0 +1,106 @@
+// Packed arrays, no gap between the objects: they run as one long vector. Where the objects share
+// an operand, it repeats with a period of Len registers.
+#pragma once
+
+#include <utility>
+
+#include "elementwise/objects.hpp"
+#include "elementwise/runs.hpp"
+
+namespace vorm {
+
+// As many objects as a register has lanes make a block of Len registers: lane k of register j is
+// element (width j + k) % Len of object (width j + k) / Len.
+template <class T, int Len, class View>
+struct Block;
+
+template <class T, int Len, class U>
+struct Block<T, Len, VectorArray<U, Adjacent>> {
+    U* p;
+    VORM_INLINE explicit Block(const VectorArray<U, Adjacent>& view) : p(view.p) {}
+    VORM_INLINE void enter(int) {}
+    VORM_INLINE void leave() { p += Len * Lanes<T>::width; }
+    template <int j>
+    VORM_INLINE Lanes<T> get() const { return Lanes<T>::load(p + j * Lanes<T>::width); }
+    template <int j>
+    VORM_INLINE void put(Lanes<T> v) const { v.store(p + j * Lanes<T>::width); }
+};
+
+template <class T, int Len>
+struct Block<T, Len, Vector<const T, Adjacent>> {
+    Lanes<T> tile[Len];
+    VORM_INLINE explicit Block(const Vector<const T, Adjacent>& view)
+    {
+        T repeated[Len * Lanes<T>::width];
+        for (int k = 0; k < Len * Lanes<T>::width; ++k) repeated[k] = view(0, k % Len);
+        for (int j = 0; j < Len; ++j) tile[j] = Lanes<T>::load(repeated + j * Lanes<T>::width);
+    }
+    VORM_INLINE void enter(int) {}
+    VORM_INLINE void leave() {}
+    template <int j>
+    VORM_INLINE Lanes<T> get() const { return tile[j]; }
+};
+
+template <class T, int Len>
+struct Block<T, Len, ConstantArray<T>> {  // the constants of the block's objects, spread over their elements
+    ConstantArray<T> view;
+    Lanes<T> constants;
+    VORM_INLINE explicit Block(const ConstantArray<T>& view_) : view(view_) {}
+    VORM_INLINE void enter(int n)
+    {
+        if constexpr (sizeof(T) == sizeof(float))
+            constants = _mm_setr_ps(view(n, 0), view(n + 1, 0), view(n + 2, 0), view(n + 3, 0));
+        else
+            constants = _mm_setr_pd(view(n, 0), view(n + 1, 0));
+    }
+    VORM_INLINE void leave() {}
+    template <int j>
+    VORM_INLINE Lanes<T> get() const
+    {
+        constexpr int width = Lanes<T>::width;
+        constexpr auto object = [](int k) { return (width * j + k) / Len; };
+        if constexpr (width == 4)
+            return _mm_shuffle_ps(constants.v, constants.v, object(0) | object(1) << 2 | object(2) << 4 | object(3) << 6);
+        else
+            return _mm_shuffle_pd(constants.v, constants.v, object(0) | object(1) << 1);
+    }
+};
+
+template <class Op, int Len, class T, class A, class B>
+VORM_INLINE void packedBlocks(const A& a, const B& b, const VectorArray<T, Adjacent>& dst, int count)
+{
+    constexpr int width = Lanes<T>::width;
+    const int inBlocks = count / width * width;
+    if (inBlocks > 0) {
+        Block<T, Len, A> blockA(a);
+        Block<T, Len, B> blockB(b);
+        Block<T, Len, VectorArray<T, Adjacent>> blockDst(dst);
+        for (int n = 0; n < inBlocks; n += width) {
+            blockA.enter(n), blockB.enter(n);
+            [&]<int... j>(std::integer_sequence<int, j...>) VORM_INLINE_LAMBDA {
+                (..., blockDst.template put<j>(Op::apply(blockA.template get<j>(), blockB.template get<j>())));
+            }(std::make_integer_sequence<int, Len>{});
+            blockA.leave(), blockB.leave(), blockDst.leave();
+        }
+    }
+    eachObject<Op, SmallVector<T, Len>>(a, b, dst, inBlocks, count);
+}
+
+// Whether the objects of an operand follow each other without a gap.
+template <class T>
+VORM_INLINE bool isPacked(const VectorArray<T, Adjacent>& view, int len)
+{
+    return view.stride0 == len * std::ptrdiff_t{sizeof(T)};
+}
+template <class View>
+VORM_INLINE bool isPacked(const View&, int)
+{
+    return true;  // one for all objects, or one constant per object
+}
+
+// Packed arrays with nothing that repeats: one run through all objects.
+template <class View> constexpr bool isRun = false;
+template <class T> constexpr bool isRun<VectorArray<T, Adjacent>> = true;
+template <class T> constexpr bool isRun<Constant<T>> = true;
+
+}  // namespace vorm

@@ -1,0 +1,45 @@
+// vormSub_vac: public layers, and the kernels for elements anywhere.
+
+#include "elementwise/vac.hpp"
+
+using namespace vorm;
+
+extern "C" {
+
+VormStatus n8_vormSub_vac_32f(VAC_PARAMS(float))
+{
+    return vacChecked<4800, Work::elements>(n8_ownOMP_vormSub_vac_32f, n8_ownvormSub_vac_32f, n8_ownvormSub_vac_32f_S2,
+                                            VAC_ARGS);
+}
+VormStatus n8_vormSub_vac_64f(VAC_PARAMS(double))
+{
+    return vacChecked<1400, Work::elements>(n8_ownOMP_vormSub_vac_64f, n8_ownvormSub_vac_64f, n8_ownvormSub_vac_64f_S2,
+                                            VAC_ARGS);
+}
+VormStatus n8_vormSub_vac_32f_L(VAC_PARAMS_L(float))
+{
+    return vacCheckedL<2500, Work::elements>(n8_ownOMP_vormSub_vac_32f_L, n8_ownvormSub_vac_32f_L,
+                                             n8_ownvormSub_vac_32f_LS2, VAC_ARGS_L);
+}
+VormStatus n8_vormSub_vac_64f_L(VAC_PARAMS_L(double))
+{
+    return vacCheckedL<2500, Work::elements>(n8_ownOMP_vormSub_vac_64f_L, n8_ownvormSub_vac_64f_L,
+                                             n8_ownvormSub_vac_64f_LS2, VAC_ARGS_L);
+}
+VormStatus n8_vormSub_vac_32f_P(VAC_PARAMS_P(float))
+{
+    return vacCheckedP<1500, Work::elements>(n8_ownOMP_vormSub_vac_32f_P, n8_ownvormSub_vac_32f_P, VAC_ARGS_P);
+}
+VormStatus n8_vormSub_vac_64f_P(VAC_PARAMS_P(double))
+{
+    return vacCheckedP<1500, Work::elements>(n8_ownOMP_vormSub_vac_64f_P, n8_ownvormSub_vac_64f_P, VAC_ARGS_P);
+}
+
+VormStatus n8_ownvormSub_vac_32f_S2(VAC_PARAMS(float)) { return vacAnyStride<Sub>(VAC_ARGS); }
+VormStatus n8_ownvormSub_vac_64f_S2(VAC_PARAMS(double)) { return vacAnyStride<Sub>(VAC_ARGS); }
+VormStatus n8_ownvormSub_vac_32f_LS2(VAC_PARAMS_L(float)) { return vacAnyStrideL<Sub>(VAC_ARGS_L); }
+VormStatus n8_ownvormSub_vac_64f_LS2(VAC_PARAMS_L(double)) { return vacAnyStrideL<Sub>(VAC_ARGS_L); }
+VormStatus n8_ownvormSub_vac_32f_P(VAC_PARAMS_P(float)) { return vacPointers<Sub>(VAC_ARGS_P); }
+VormStatus n8_ownvormSub_vac_64f_P(VAC_PARAMS_P(double)) { return vacPointers<Sub>(VAC_ARGS_P); }
+
+}

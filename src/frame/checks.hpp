@@ -1,0 +1,45 @@
+// Argument tests of the public layers. Each folds into plain integer comparisons.
+#pragma once
+
+#include "frame/layers.hpp"
+#include "frame/wrapping.hpp"
+
+namespace vorm {
+
+// What a member of a family deliberately leaves untested; the member says so by name.
+enum class Untested { none, srcStride0, shifts };
+
+template <class... Pointer>
+constexpr bool anyNull(Pointer... pointers)
+{
+    return (... || (pointers == nullptr));
+}
+
+template <class... Size>
+constexpr bool anyBelowOne(Size... sizes)
+{
+    return (... || (sizes < 1));
+}
+
+// A stride is a positive multiple of the element size, a shift a non-negative one.
+template <class T, class... Int>
+constexpr bool anyBadStride(Int... strides)
+{
+    return ((... | strides) & int{sizeof(T) - 1}) != 0 || anyBelowOne(strides...);
+}
+
+template <class T, class... Int>
+constexpr bool anyBadShift(Int... shifts)
+{
+    return ((... | shifts) & int{sizeof(T) - 1}) != 0 || (... | shifts) < 0;
+}
+
+// One comparison for all: the compiler then passes the strides on as they came, and the transfer
+// to the kernel stays a jump.
+template <class T, class... Int>
+constexpr bool contiguous(Int... stride2s)
+{
+    return (... | (stride2s ^ int{sizeof(T)})) == 0;
+}
+
+}  // namespace vorm

@@ -1,0 +1,188 @@
+// Operands as the kernels see them: object(n) is the address of the n-th object and element (n, i)
+// or (n, r, c) one of its elements. Views exist inside kernels only; all of it is inlined away.
+//
+// A view of a const type reads elements by value, one of a plain type gives a reference to assign
+// to. Single operands ignore n, so that a kernel need not know which of its operands are arrays;
+// isCommon tells it where it matters.
+#pragma once
+
+#include "frame/memory.hpp"
+
+namespace vorm {
+
+// stride2 of a contiguous operand: known to be the element size when the kernel is compiled.
+struct Adjacent {};
+constexpr Adjacent adjacent;
+
+template <class T>
+constexpr std::ptrdiff_t bytes(int stride)
+{
+    return stride;
+}
+template <class T>
+constexpr std::ptrdiff_t bytes(Adjacent)
+{
+    return sizeof(T);
+}
+
+// Standard layout. Step is int or Adjacent. ----------------------------------------------------
+
+template <class T, class Step>
+struct Vector {  // v
+    static constexpr bool isCommon = true;
+    T* p;
+    Step stride2;
+    T* object(int) const { return p; }
+    decltype(auto) operator()(int, int i) const { return elementAt(p, i * bytes<T>(stride2)); }
+};
+
+template <class T, class Step>
+struct VectorArray {  // va
+    static constexpr bool isCommon = false;
+    T* p;
+    int stride0;
+    Step stride2;
+    T* object(int n) const { return advance(p, std::ptrdiff_t{n} * stride0); }
+    decltype(auto) operator()(int n, int i) const { return elementAt(object(n), i * bytes<T>(stride2)); }
+};
+
+template <class T, class Step>
+struct Matrix {  // m
+    static constexpr bool isCommon = true;
+    T* p;
+    int stride1;
+    Step stride2;
+    T* object(int) const { return p; }
+    decltype(auto) operator()(int, int r, int c) const
+    {
+        return elementAt(p, std::ptrdiff_t{r} * stride1 + c * bytes<T>(stride2));
+    }
+};
+
+template <class T, class Step>
+struct MatrixArray {  // ma
+    static constexpr bool isCommon = false;
+    T* p;
+    int stride0, stride1;
+    Step stride2;
+    T* object(int n) const { return advance(p, std::ptrdiff_t{n} * stride0); }
+    decltype(auto) operator()(int n, int r, int c) const
+    {
+        return elementAt(object(n), std::ptrdiff_t{r} * stride1 + c * bytes<T>(stride2));
+    }
+};
+
+// List layout: one pointer per object. ---------------------------------------------------------
+
+template <class T, class Step>
+struct VectorList {  // va
+    static constexpr bool isCommon = false;
+    T* const* pp;
+    int shift;
+    Step stride2;
+    T* object(int n) const { return advance(pp[n], shift); }
+    decltype(auto) operator()(int n, int i) const { return elementAt(object(n), i * bytes<T>(stride2)); }
+};
+
+template <class T, class Step>
+struct MatrixList {  // ma
+    static constexpr bool isCommon = false;
+    T* const* pp;
+    int shift, stride1;
+    Step stride2;
+    T* object(int n) const { return advance(pp[n], shift); }
+    decltype(auto) operator()(int n, int r, int c) const
+    {
+        return elementAt(object(n), std::ptrdiff_t{r} * stride1 + c * bytes<T>(stride2));
+    }
+};
+
+// Pointer layout: one pointer per element of the stored object. ----------------------------------
+
+template <class T>
+struct VectorPointers {  // v
+    static constexpr bool isCommon = true;
+    T* const* pp;
+    int shift;
+    T* element(int i) const { return advance(pp[i], shift); }
+    decltype(auto) operator()(int, int i) const { return elementAt(element(i), 0); }
+};
+
+template <class T>
+struct VectorArrayPointers {  // va
+    static constexpr bool isCommon = false;
+    T* const* pp;
+    int shift, stride0;
+    T* element(int i) const { return advance(pp[i], shift); }  // of object 0
+    decltype(auto) operator()(int n, int i) const { return elementAt(element(i), std::ptrdiff_t{n} * stride0); }
+};
+
+template <class T>
+struct MatrixPointers {  // m; width is that of the stored matrix
+    static constexpr bool isCommon = true;
+    T* const* pp;
+    int shift, width;
+    T* element(int r, int c) const { return advance(pp[std::ptrdiff_t{r} * width + c], shift); }
+    decltype(auto) operator()(int, int r, int c) const { return elementAt(element(r, c), 0); }
+};
+
+template <class T>
+struct MatrixArrayPointers {  // ma; width is that of the stored matrix
+    static constexpr bool isCommon = false;
+    T* const* pp;
+    int shift, stride0, width;
+    T* element(int r, int c) const { return advance(pp[std::ptrdiff_t{r} * width + c], shift); }
+    decltype(auto) operator()(int n, int r, int c) const { return elementAt(element(r, c), std::ptrdiff_t{n} * stride0); }
+};
+
+// Transposed: any matrix view read with its indices swapped. -------------------------------------
+
+template <class Stored>
+struct Transposed {  // t, ta
+    static constexpr bool isCommon = Stored::isCommon;
+    Stored stored;
+    decltype(auto) operator()(int n, int r, int c) const { return stored(n, c, r); }
+};
+
+// Constants. -------------------------------------------------------------------------------------
+
+template <class T>
+struct Constant {  // c
+    static constexpr bool isCommon = true;
+    T val;
+    T operator()(int, int) const { return val; }
+};
+
+template <class T>
+struct ConstantArray {  // ca, standard and pointer layout
+    static constexpr bool isCommon = false;
+    const T* p;
+    int stride0;
+    T operator()(int n, int) const { return elementAt(p, std::ptrdiff_t{n} * stride0); }
+};
+
+template <class T>
+struct ConstantList {  // ca, list layout
+    static constexpr bool isCommon = false;
+    const T* const* pp;
+    int shift;
+    T operator()(int n, int) const { return elementAt(pp[n], shift); }
+};
+
+// clang 14 deduces no aggregates by itself.
+template <class T, class Step> Vector(T*, Step) -> Vector<T, Step>;
+template <class T, class Step> VectorArray(T*, int, Step) -> VectorArray<T, Step>;
+template <class T, class Step> Matrix(T*, int, Step) -> Matrix<T, Step>;
+template <class T, class Step> MatrixArray(T*, int, int, Step) -> MatrixArray<T, Step>;
+template <class T, class Step> VectorList(T* const*, int, Step) -> VectorList<T, Step>;
+template <class T, class Step> MatrixList(T* const*, int, int, Step) -> MatrixList<T, Step>;
+template <class T> VectorPointers(T* const*, int) -> VectorPointers<T>;
+template <class T> VectorArrayPointers(T* const*, int, int) -> VectorArrayPointers<T>;
+template <class T> MatrixPointers(T* const*, int, int) -> MatrixPointers<T>;
+template <class T> MatrixArrayPointers(T* const*, int, int, int) -> MatrixArrayPointers<T>;
+template <class Stored> Transposed(Stored) -> Transposed<Stored>;
+template <class T> Constant(T) -> Constant<T>;
+template <class T> ConstantArray(const T*, int) -> ConstantArray<T>;
+template <class T> ConstantList(const T* const*, int) -> ConstantList<T>;
+
+}  // namespace vorm

@@ -1,0 +1,96 @@
+// The vectors of 3 to 6 elements the library exists for, each held in registers as a whole.
+#pragma once
+
+#include "frame/lanes.hpp"
+#include "frame/operands.hpp"
+
+namespace vorm {
+
+// Len contiguous elements: as many full registers as fit, then a partial one. Exactly Len elements
+// of memory are read or written.
+template <class T, int Len>
+struct SmallVector {
+    static constexpr int width = Lanes<T>::width, full = Len / width, rest = Len % width;
+    Lanes<T> v[full + (rest != 0)];
+
+    template <class View>
+    VORM_INLINE static SmallVector load(const View& view, int n)
+    {
+        const T* const p = view.object(n);
+        SmallVector r;
+        for (int k = 0; k < full; ++k) r.v[k] = Lanes<T>::load(p + k * width);
+        if constexpr (rest != 0) r.v[full] = loadFirst<rest>(p + full * width);
+        return r;
+    }
+    VORM_INLINE static SmallVector broadcast(T value)
+    {
+        SmallVector r;
+        for (Lanes<T>& part : r.v) part = value;
+        return r;
+    }
+    template <class View>
+    VORM_INLINE void store(const View& view, int n) const
+    {
+        T* const p = view.object(n);
+        for (int k = 0; k < full; ++k) v[k].store(p + k * width);
+        if constexpr (rest != 0) storeFirst<rest>(p + full * width, v[full]);
+    }
+};
+
+// Three floats in a slot of 16 bytes or more: one load takes the gap along, which the caller has to
+// know to be readable; the store leaves it alone.
+struct SlotVector {
+    Lanes<float> v[1];
+
+    template <class View>
+    VORM_INLINE static SlotVector load(const View& view, int n)
+    {
+        if constexpr (View::isCommon)
+            return {{_mm_setr_ps(view(0, 0), view(0, 1), view(0, 2), 0.0f)}};
+        else
+            return {{Lanes<float>::load(view.object(n))}};
+    }
+    VORM_INLINE static SlotVector broadcast(float value) { return {{value}}; }
+    template <class View>
+    VORM_INLINE void store(const View& view, int n) const
+    {
+        float* const p = view.object(n);
+        storeFirst<2>(p, v[0]);
+        storeFirst<1>(p + 2, _mm_movehl_ps(v[0].v, v[0].v));
+    }
+};
+
+// Len elements anywhere, one number each.
+template <class T, int Len>
+struct ScatteredVector {
+    T v[Len];
+
+    template <class View>
+    VORM_INLINE static ScatteredVector load(const View& view, int n)
+    {
+        ScatteredVector r;
+        for (int i = 0; i < Len; ++i) r.v[i] = view(n, i);
+        return r;
+    }
+    VORM_INLINE static ScatteredVector broadcast(T value)
+    {
+        ScatteredVector r;
+        for (T& element : r.v) element = value;
+        return r;
+    }
+    template <class View>
+    VORM_INLINE void store(const View& view, int n) const
+    {
+        for (int i = 0; i < Len; ++i) view(n, i) = v[i];
+    }
+};
+
+// The same operation on all parts.
+template <class Op, class V>
+VORM_INLINE V combine(V a, const V& b)
+{
+    for (unsigned k = 0; k < sizeof a.v / sizeof a.v[0]; ++k) a.v[k] = Op::apply(a.v[k], b.v[k]);
+    return a;
+}
+
+}  // namespace vorm

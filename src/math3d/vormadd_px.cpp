@@ -1,0 +1,22 @@
+// vormAdd of fixed vectors.
+
+#include "math3d/vectors.hpp"
+
+using namespace vorm;
+
+extern "C" {
+
+VormStatus n8_vormAdd_v2_32f(const float* pSrc1, const float* pSrc2, float* pDst)
+{
+    return elements<Add, 2>(pSrc1, pSrc2, pDst);
+}
+VormStatus n8_vormAdd_v3_32f(const float* pSrc1, const float* pSrc2, float* pDst)
+{
+    return elements<Add, 3>(pSrc1, pSrc2, pDst);
+}
+VormStatus n8_vormAdd_v4_32f(const float* pSrc1, const float* pSrc2, float* pDst)
+{
+    return elements<Add, 4>(pSrc1, pSrc2, pDst);
+}
+
+}

@@ -1,0 +1,25 @@
+// vormLen of fixed vectors.
+
+#include "math3d/vectors.hpp"
+
+using namespace vorm;
+
+extern "C" {
+
+VormStatus n8_vormLen_v2_32f(const float* pSrc, float* pDst)
+{
+    at(pDst, 0) = sqrt(dot<2>(pSrc, pSrc));
+    return StatusOk;
+}
+VormStatus n8_vormLen_v3_32f(const float* pSrc, float* pDst)
+{
+    at(pDst, 0) = sqrt(dot<3>(pSrc, pSrc));
+    return StatusOk;
+}
+VormStatus n8_vormLen_v4_32f(const float* pSrc, float* pDst)
+{
+    at(pDst, 0) = sqrt(dot<4>(pSrc, pSrc));
+    return StatusOk;
+}
+
+}
