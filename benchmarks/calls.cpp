@@ -27,8 +27,7 @@ int counter = 0;
     return 0;
 }
 
-template <int Len>
-[[gnu::noinline]] int addVectors(const float* a, const float* b, float* dst)
+template <int Len> [[gnu::noinline]] int addVectors(const float* a, const float* b, float* dst)
 {
     using Object = Eigen::Array<float, Len, 1>;
     Eigen::Map<Object>{dst} = Eigen::Map<const Object>(a) + Eigen::Map<const Object>(b);
@@ -48,8 +47,7 @@ struct Objects {
 };
 
 // work(a, b, dst) for every object; its result must not be worked out beforehand.
-template <class Work>
-Contestant each(const char* name, Work work)
+template <class Work> Contestant each(const char* name, Work work)
 {
     return {name, [=, o = Objects()] {
                 for (int n = 0; n < calls * 8; n += 8) {
@@ -59,11 +57,7 @@ Contestant each(const char* name, Work work)
             }};
 }
 
-template <int Len>
-Contestant called()
-{
-    return each("called", addVectors<Len>);
-}
+template <int Len> Contestant called() { return each("called", addVectors<Len>); }
 
 }  // namespace
 
@@ -72,36 +66,37 @@ void addCalls(Sections& sections)
     using In = const float*;
     using Out = float*;
     constexpr int e = sizeof(float);
-    Section& s = sections.emplace_back(Section{
-        "Calls", "Times per call. Peers: the same signature with an empty body, or the sum alone in a function of this "
-                 "program (fixed size, or any length)."});
+    Section& s = sections.emplace_back(Section{"Calls",
+                                               "Times per call, the linkage table's jump included. Peers: the same "
+                                               "signature with an empty body, or the sum alone in a function of this "
+                                               "program (fixed size, or any length)."});
     s.rows.push_back({"vormGetLibVersion: the stub alone", calls, [] {
-        return Task{{each("vorm", [](In, In, Out) { return vormGetLibVersion(); }),
-                     each("empty", [](In, In, Out) { return nothing(); })}};
-    }});
-    s.rows.push_back({"vormAdd_vav_32f, count 0: stub and tests", calls, [] {
-        return Task{{each("vorm", [](In a, In b, Out d) { return vormAdd_vav_32f(a, 3 * e, e, b, e, d, 3 * e, e, 3, 0); }),
-                     each("empty", [](In a, In b, Out d) { return nothingOfTen(a, 3 * e, e, b, e, d, 3 * e, e, 3, 0); })}};
-    }});
-    s.rows.push_back({"vormAdd_v3_32f", calls, [] {
-        return Task{{each("vorm", vormAdd_v3_32f), called<3>()}};
-    }});
-    s.rows.push_back({"vormAdd_v4_32f", calls, [] {
-        return Task{{each("vorm", vormAdd_v4_32f), called<4>()}};
-    }});
+                          return Task{{each("vorm", [](In, In, Out) { return vormGetLibVersion(); }),
+                                       each("empty", [](In, In, Out) { return nothing(); })}};
+                      }});
+    s.rows.push_back(
+        {"vormAdd_vav_32f, count 0: stub and tests", calls, [] {
+             return Task{
+                 {each("vorm", [](In a, In b, Out d) { return vormAdd_vav_32f(a, 3 * e, e, b, e, d, 3 * e, e, 3, 0); }),
+                  each("empty", [](In a, In b, Out d) { return nothingOfTen(a, 3 * e, e, b, e, d, 3 * e, e, 3, 0); })}};
+         }});
+    s.rows.push_back({"vormAdd_v3_32f", calls, [] { return Task{{each("vorm", vormAdd_v3_32f), called<3>()}}; }});
+    s.rows.push_back({"vormAdd_v4_32f", calls, [] { return Task{{each("vorm", vormAdd_v4_32f), called<4>()}}; }});
     for (const int len : {3, 4, 6, 16}) {
         const auto any = [=](In a, In b, Out d) { return addAnyLength(a, b, d, len); };
         const std::string suffix = " len " + std::to_string(len);
-        s.rows.push_back({"vormAdd_vv_32f" + suffix, calls, [=] {
-            return Task{{each("vorm", [=](In a, In b, Out d) { return vormAdd_vv_32f(a, e, b, e, d, e, len); }),
-                         each("any length", any)}};
-        }});
+        s.rows.push_back(
+            {"vormAdd_vv_32f" + suffix, calls, [=] {
+                 return Task{{each("vorm", [=](In a, In b, Out d) { return vormAdd_vv_32f(a, e, b, e, d, e, len); }),
+                              each("any length", any)}};
+             }});
         s.rows.push_back({"vormAdd_vav_32f, count 1" + suffix, calls, [=] {
-            return Task{{each("vorm", [=](In a, In b, Out d) {
-                             return vormAdd_vav_32f(a, len * e, e, b, e, d, len * e, e, len, 1);
-                         }),
-                         each("any length", any)}};
-        }});
+                              return Task{{each("vorm",
+                                                [=](In a, In b, Out d) {
+                                                    return vormAdd_vav_32f(a, len * e, e, b, e, d, len * e, e, len, 1);
+                                                }),
+                                           each("any length", any)}};
+                          }});
     }
 }
 

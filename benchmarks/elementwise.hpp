@@ -30,8 +30,7 @@ struct SubFrom {  // the constant shapes take their vector first
 };
 
 // An operand in the form of every contestant.
-template <class T, int Len, Kind kind, Layout layout>
-class Operand {
+template <class T, int Len, Kind kind, Layout layout> class Operand {
 public:
     using Object = Eigen::Array<T, Len, 1>;
     using Long = Eigen::Array<T, Eigen::Dynamic, 1>;
@@ -52,13 +51,15 @@ public:
     {
         if constexpr (isAnyStride) step2_ = 2, step0_ = 2 * Len;
         const int planeStep = (count + 15) / 16 * 16 + 7 * 64 / bytes;
-        if constexpr (kind == Kind::array) fill(data_, std::ptrdiff_t{planeStep} * Len + std::ptrdiff_t{step0_} * count);
+        if constexpr (kind == Kind::array)
+            fill(data_, std::ptrdiff_t{planeStep} * Len + std::ptrdiff_t{step0_} * count);
         if constexpr (kind == Kind::common) fill(data_, step0_);
         if constexpr (kind == Kind::constants) fill(data_, count);
 
         if constexpr (kind == Kind::common) object_ = Spread(data_, Eigen::InnerStride<>(step2_));
         if constexpr (kind == Kind::common || kind == Kind::constants)
-            for (int n = 0; n < count; ++n) Eigen::Map<Object>(flat_ + std::ptrdiff_t{n} * Len) = Object::Zero() + at(n);
+            for (int n = 0; n < count; ++n)
+                Eigen::Map<Object>(flat_ + std::ptrdiff_t{n} * Len) = Object::Zero() + at(n);
         if constexpr (layout == Layout::list && kind != Kind::common) {
             constexpr int stirred[] = {387, 621, 783};
             const int size = kind == Kind::array ? Len : 1;
@@ -146,7 +147,8 @@ public:
     T* data() const { return data_; }
     std::span<std::byte> memory() const
     {
-        const std::ptrdiff_t elements = (layout == Layout::planes ? table_[Len - 1] - data_ : 0) + std::ptrdiff_t{step0_} * count_;
+        const std::ptrdiff_t elements =
+            (layout == Layout::planes ? table_[Len - 1] - data_ : 0) + std::ptrdiff_t{step0_} * count_;
         return {reinterpret_cast<std::byte*>(data_), static_cast<std::size_t>(elements * bytes)};
     }
 
@@ -205,7 +207,9 @@ Task elementwiseTask(Function* ours, int count)
     if constexpr (layout == Layout::slots || layout == Layout::anyStride || (layout == Layout::packed && repeats))
         add("replicate", [=] { dst.wide() = combine(a.wide(), b.wide()); });
     if constexpr (layout == Layout::planes)
-        add("plane by plane", [=] { for (int i = 0; i < Len; ++i) dst.plane(i) = combine(a.plane(i), b.plane(i)); });
+        add("plane by plane", [=] {
+            for (int i = 0; i < Len; ++i) dst.plane(i) = combine(a.plane(i), b.plane(i));
+        });
     else
         add("fixed loop", [=] {
             const auto localA = a;  // held in registers, not read again after each store
@@ -218,14 +222,14 @@ Task elementwiseTask(Function* ours, int count)
 }
 
 // The members of one shape and element type.
-template <class Standard, class List, class Pointers>
-struct Members {
+template <class Standard, class List, class Pointers> struct Members {
     const char* name;
     Standard* standard;
     List* list;
     Pointers* pointers;
 };
-#define BENCH_MEMBERS(stem) bench::Members{#stem, stem, stem##_L, stem##_P}
+#define BENCH_MEMBERS(stem) \
+    bench::Members { #stem, stem, stem##_L, stem##_P }
 
 struct ElementwiseSections {
     Section &packed, &packedStreaming, &slots, &slotsStreaming, &anyStride, &list, &planes, &planesStreaming;
@@ -251,10 +255,12 @@ void addShape(ElementwiseSections& s, const M& m)
 {
     (..., [&] {
         addRow<Op, Len, Layout::packed, kindA, kindB, T>(&s.packed, &s.packedStreaming, m.name, m.standard);
-        addRow<Op, Len, Layout::slots, kindA, kindB, T>(&s.slots, Len < 5 ? &s.slotsStreaming : nullptr, m.name, m.standard);
+        addRow<Op, Len, Layout::slots, kindA, kindB, T>(&s.slots, Len < 5 ? &s.slotsStreaming : nullptr, m.name,
+                                                        m.standard);
         addRow<Op, Len, Layout::anyStride, kindA, kindB, T>(&s.anyStride, nullptr, m.name, m.standard);
         addRow<Op, Len, Layout::list, kindA, kindB, T>(&s.list, nullptr, m.name, m.list);
-        addRow<Op, Len, Layout::planes, kindA, kindB, T>(&s.planes, Len < 5 ? &s.planesStreaming : nullptr, m.name, m.pointers);
+        addRow<Op, Len, Layout::planes, kindA, kindB, T>(&s.planes, Len < 5 ? &s.planesStreaming : nullptr, m.name,
+                                                         m.pointers);
     }());
 }
 

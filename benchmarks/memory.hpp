@@ -30,8 +30,7 @@ inline std::size_t streamingBytes()
 constexpr int regions = 12;
 
 // Pages come into being when they are first written.
-template <class T>
-T* region(int index)
+template <class T> T* region(int index)
 {
     constexpr std::size_t hugePage = 2u << 20;
     static const std::size_t size = streamingBytes() + 2 * hugePage;
@@ -48,8 +47,7 @@ T* region(int index)
 }
 
 // Values from 0.5 up to 2, no two near each other alike.
-template <class T>
-void fill(T* p, std::ptrdiff_t elements)
+template <class T> void fill(T* p, std::ptrdiff_t elements)
 {
     std::uint32_t state = 2463534242u;
     for (std::ptrdiff_t i = 0; i < elements; ++i) {
