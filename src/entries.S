@@ -34,6 +34,8 @@
 
 #define VORM_FUNCTION(name, parameters) entry name;
 #include "vorm/elementwise.inc"
+#include "vorm/products.inc"
+#include "vorm/factor.inc"
 #include "vorm/math3d.inc"
 #undef VORM_FUNCTION
 

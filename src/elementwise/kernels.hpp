@@ -58,6 +58,14 @@ VORM_INLINE void smallObjects(const A& a, const B& b, const VectorList<T, Adjace
     eachObject<Op, SmallVector<T, Len>>(a, b, dst, 0, count);
 }
 
+// Longer objects, and shorter ones: a run each. Not inlined, to keep the small sizes free of its registers.
+template <class Op, class A, class B, class T, template <class, class> class Dst>
+[[gnu::noinline]] VormStatus runPerObject(A a, B b, Dst<T, Adjacent> dst, int len, int count)
+{
+    for (int n = 0; n < count; ++n) run<Op>(runSource<T>(a, n), runSource<T>(b, n), dst.object(n), len);
+    return StatusOk;
+}
+
 template <class Op, class A, class B, class T, template <class, class> class Dst>
 VORM_INLINE VormStatus contiguousObjects(const A& a, const B& b, const Dst<T, Adjacent>& dst, int len, int count)
 {
@@ -72,8 +80,7 @@ VORM_INLINE VormStatus contiguousObjects(const A& a, const B& b, const Dst<T, Ad
     case 4: smallObjects<Op, 4>(a, b, dst, count); break;
     case 5: smallObjects<Op, 5>(a, b, dst, count); break;
     case 6: smallObjects<Op, 6>(a, b, dst, count); break;
-    default:
-        for (int n = 0; n < count; ++n) run<Op>(runSource<T>(a, n), runSource<T>(b, n), dst.object(n), len);
+    default: return runPerObject<Op>(a, b, dst, len, count);
     }
     return StatusOk;
 }

@@ -1,16 +1,20 @@
 // Object by object: dst[n][i] = a[n][i] op b[n][i] over any operand views.
 #pragma once
 
-#include "frame/operations.hpp"
 #include "frame/operands.hpp"
+#include "frame/operations.hpp"
 #include "frame/small_vector.hpp"
 
 namespace vorm {
 
-template <class View> constexpr bool isConstant = false;
-template <class T> constexpr bool isConstant<Constant<T>> = true;
-template <class T> constexpr bool isConstant<ConstantArray<T>> = true;
-template <class T> constexpr bool isConstant<ConstantList<T>> = true;
+template <class View>
+constexpr bool isConstant = false;
+template <class T>
+constexpr bool isConstant<Constant<T>> = true;
+template <class T>
+constexpr bool isConstant<ConstantArray<T>> = true;
+template <class T>
+constexpr bool isConstant<ConstantList<T>> = true;
 
 // An operand as whole vectors of type V. What all objects share is loaded once.
 template <class V, class View>

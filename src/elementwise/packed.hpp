@@ -21,9 +21,15 @@ struct Block<T, Len, VectorArray<U, Adjacent>> {
     VORM_INLINE void enter(int) {}
     VORM_INLINE void leave() { p += Len * Lanes<T>::width; }
     template <int j>
-    VORM_INLINE Lanes<T> get() const { return Lanes<T>::load(p + j * Lanes<T>::width); }
+    VORM_INLINE Lanes<T> get() const
+    {
+        return Lanes<T>::load(p + j * Lanes<T>::width);
+    }
     template <int j>
-    VORM_INLINE void put(Lanes<T> v) const { v.store(p + j * Lanes<T>::width); }
+    VORM_INLINE void put(Lanes<T> v) const
+    {
+        v.store(p + j * Lanes<T>::width);
+    }
 };
 
 template <class T, int Len>
@@ -38,7 +44,10 @@ struct Block<T, Len, Vector<const T, Adjacent>> {
     VORM_INLINE void enter(int) {}
     VORM_INLINE void leave() {}
     template <int j>
-    VORM_INLINE Lanes<T> get() const { return tile[j]; }
+    VORM_INLINE Lanes<T> get() const
+    {
+        return tile[j];
+    }
 };
 
 template <class T, int Len>
@@ -60,7 +69,8 @@ struct Block<T, Len, ConstantArray<T>> {  // the constants of the block's object
         constexpr int width = Lanes<T>::width;
         constexpr auto object = [](int k) { return (width * j + k) / Len; };
         if constexpr (width == 4)
-            return _mm_shuffle_ps(constants.v, constants.v, object(0) | object(1) << 2 | object(2) << 4 | object(3) << 6);
+            return _mm_shuffle_ps(constants.v, constants.v,
+                                  object(0) | object(1) << 2 | object(2) << 4 | object(3) << 6);
         else
             return _mm_shuffle_pd(constants.v, constants.v, object(0) | object(1) << 1);
     }
@@ -77,9 +87,11 @@ VORM_INLINE void packedBlocks(const A& a, const B& b, const VectorArray<T, Adjac
         Block<T, Len, VectorArray<T, Adjacent>> blockDst(dst);
         for (int n = 0; n < inBlocks; n += width) {
             blockA.enter(n), blockB.enter(n);
-            [&]<int... j>(std::integer_sequence<int, j...>) VORM_INLINE_LAMBDA {
+            [&]<int... j>(std::integer_sequence<int, j...>) VORM_INLINE_LAMBDA
+            {
                 (..., blockDst.template put<j>(Op::apply(blockA.template get<j>(), blockB.template get<j>())));
-            }(std::make_integer_sequence<int, Len>{});
+            }
+            (std::make_integer_sequence<int, Len>{});
             blockA.leave(), blockB.leave(), blockDst.leave();
         }
     }
@@ -99,8 +111,11 @@ VORM_INLINE bool isPacked(const View&, int)
 }
 
 // Packed arrays with nothing that repeats: one run through all objects.
-template <class View> constexpr bool isRun = false;
-template <class T> constexpr bool isRun<VectorArray<T, Adjacent>> = true;
-template <class T> constexpr bool isRun<Constant<T>> = true;
+template <class View>
+constexpr bool isRun = false;
+template <class T>
+constexpr bool isRun<VectorArray<T, Adjacent>> = true;
+template <class T>
+constexpr bool isRun<Constant<T>> = true;
 
 }  // namespace vorm

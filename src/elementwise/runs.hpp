@@ -1,9 +1,9 @@
 // Runs: the element-wise operations on one long vector, register by register.
 #pragma once
 
-#include "frame/operations.hpp"
 #include "frame/lanes.hpp"
 #include "frame/operands.hpp"
+#include "frame/operations.hpp"
 
 namespace vorm {
 
@@ -11,18 +11,25 @@ namespace vorm {
 template <class T>
 struct Along {
     const T* p;
-    VORM_INLINE Lanes<T> lanes(std::ptrdiff_t i) const { return Lanes<T>::load(p + i); }
-    VORM_INLINE T one(std::ptrdiff_t i) const { return elementAt(p, i * std::ptrdiff_t{sizeof(T)}); }
+    template <int Count = Lanes<T>::width>
+    VORM_INLINE Lanes<T> lanes(std::ptrdiff_t i) const
+    {
+        return loadFirst<Count>(p + i);
+    }
 };
 template <class T>
 struct Everywhere {
-    T value;
-    VORM_INLINE Lanes<T> lanes(std::ptrdiff_t) const { return value; }
-    VORM_INLINE T one(std::ptrdiff_t) const { return value; }
+    Lanes<T> value;
+    template <int Count = Lanes<T>::width>
+    VORM_INLINE Lanes<T> lanes(std::ptrdiff_t) const
+    {
+        return value;
+    }
 };
 
 // The elements loaded before the first one is stored.
-template <class T> constexpr int runStep = 4 * Lanes<T>::width;
+template <class T>
+constexpr int runStep = 4 * Lanes<T>::width;
 
 template <class Op, class A, class B, class T>
 VORM_INLINE void run(A a, B b, T* dst, std::ptrdiff_t length)
@@ -35,7 +42,13 @@ VORM_INLINE void run(A a, B b, T* dst, std::ptrdiff_t length)
         for (int k = 0; k < 4; ++k) r[k].store(dst + i + k * width);
     }
     for (; i + width <= length; i += width) Op::apply(a.lanes(i), b.lanes(i)).store(dst + i);
-    for (; i < length; ++i) elementAt(dst, i * std::ptrdiff_t{sizeof(T)}) = Op::apply(a.one(i), b.one(i));
+    if constexpr (width == 4) {
+        if (length - i >= 2) {
+            storeFirst<2>(dst + i, Op::apply(a.template lanes<2>(i), b.template lanes<2>(i)));
+            i += 2;
+        }
+    }
+    if (i < length) storeFirst<1>(dst + i, Op::apply(a.template lanes<1>(i), b.template lanes<1>(i)));
 }
 
 // Whether a run gives what a loop over ascending elements would: no element of the source may be
