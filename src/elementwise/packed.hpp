@@ -9,6 +9,31 @@
 
 namespace vorm {
 
+// Constants side by side, so that a register of them is one load.
+template <class T>
+struct ConstantRow {
+    static constexpr bool isCommon = false;
+    const T* p;
+    T operator()(int n, int) const { return elementAt(p, n * std::ptrdiff_t{sizeof(T)}); }
+};
+template <class T>
+constexpr bool isConstant<ConstantRow<T>> = true;
+
+// The constants of as many objects as a register has lanes.
+template <class T>
+VORM_INLINE Lanes<T> blockOf(const ConstantRow<T>& constants, int n)
+{
+    return Lanes<T>::load(constants.p + n);
+}
+template <class T>
+VORM_INLINE Lanes<T> blockOf(const ConstantArray<T>& constants, int n)
+{
+    if constexpr (sizeof(T) == sizeof(float))
+        return _mm_setr_ps(constants(n, 0), constants(n + 1, 0), constants(n + 2, 0), constants(n + 3, 0));
+    else
+        return _mm_setr_pd(constants(n, 0), constants(n + 1, 0));
+}
+
 // As many objects as a register has lanes make a block of Len registers: lane k of register j is
 // element (width j + k) % Len of object (width j + k) / Len.
 template <class T, int Len, class View>
@@ -50,18 +75,13 @@ struct Block<T, Len, Vector<const T, Adjacent>> {
     }
 };
 
-template <class T, int Len>
-struct Block<T, Len, ConstantArray<T>> {  // the constants of the block's objects, spread over their elements
-    ConstantArray<T> view;
+template <class T, int Len, class View>
+requires isConstant<View>
+struct Block<T, Len, View> {  // the constants of the block's objects, spread over their elements
+    View view;
     Lanes<T> constants;
-    VORM_INLINE explicit Block(const ConstantArray<T>& view_) : view(view_) {}
-    VORM_INLINE void enter(int n)
-    {
-        if constexpr (sizeof(T) == sizeof(float))
-            constants = _mm_setr_ps(view(n, 0), view(n + 1, 0), view(n + 2, 0), view(n + 3, 0));
-        else
-            constants = _mm_setr_pd(view(n, 0), view(n + 1, 0));
-    }
+    VORM_INLINE explicit Block(const View& view_) : view(view_) {}
+    VORM_INLINE void enter(int n) { constants = blockOf(view, n); }
     VORM_INLINE void leave() {}
     template <int j>
     VORM_INLINE Lanes<T> get() const
