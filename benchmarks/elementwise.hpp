@@ -152,7 +152,7 @@ public:
     std::span<std::byte> memory() const
     {
         const std::ptrdiff_t elements =
-            (layout == Layout::planes ? table_[Len - 1] - data_ : 0) + std::ptrdiff_t{step0_} * count_;
+            layout == Layout::planes ? table_[Len - 1] + count_ - data_ : std::ptrdiff_t{step0_} * count_;
         return {reinterpret_cast<std::byte*>(data_), static_cast<std::size_t>(elements * bytes)};
     }
 
