@@ -27,7 +27,8 @@ int counter = 0;
     return 0;
 }
 
-template <int Len> [[gnu::noinline]] int addVectors(const float* a, const float* b, float* dst)
+template <int Len>
+[[gnu::noinline]] int addVectors(const float* a, const float* b, float* dst)
 {
     using Object = Eigen::Array<float, Len, 1>;
     Eigen::Map<Object>{dst} = Eigen::Map<const Object>(a) + Eigen::Map<const Object>(b);
@@ -42,13 +43,16 @@ template <int Len> [[gnu::noinline]] int addVectors(const float* a, const float*
 }
 
 struct Objects {
-    float *a = region<float>(0), *b = region<float>(3), *dst = region<float>(6);
+    float *a = Memory::region<float>(calls * 8), *b = Memory::region<float>(calls * 8),
+          *dst = Memory::region<float>(calls * 8);
     Objects() { fill(a, calls * 8), fill(b, calls * 8), fill(dst, calls * 8); }
 };
 
 // work(a, b, dst) for every object; its result must not be worked out beforehand.
-template <class Work> Contestant each(const char* name, Work work)
+template <class Work>
+Contestant each(const char* name, Work work)
 {
+    Memory::startRow();  // the same objects for all
     return {name, [=, o = Objects()] {
                 for (int n = 0; n < calls * 8; n += 8) {
                     auto result = work(o.a + n, o.b + n, o.dst + n);
@@ -57,7 +61,11 @@ template <class Work> Contestant each(const char* name, Work work)
             }};
 }
 
-template <int Len> Contestant called() { return each("called", addVectors<Len>); }
+template <int Len>
+Contestant called()
+{
+    return each("called", addVectors<Len>);
+}
 
 }  // namespace
 

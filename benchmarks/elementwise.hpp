@@ -1,7 +1,7 @@
 // Sums and differences of vectors, against Eigen in every form a user could choose for the layout:
 //   long map      the packed array as one long vector; a common operand repeated in memory beforehand
 //   replicate     the array as a Len x count matrix, the common operand as a replicate expression
-//   fixed loop    object by object through fixed-size maps
+//   fixed loop    object by object through fixed-size maps; common operands copied to locals, or by reference
 //   plane by plane, for structures of arrays: one long vector for each element
 #pragma once
 
@@ -30,7 +30,8 @@ struct SubFrom {  // the constant shapes take their vector first
 };
 
 // An operand in the form of every contestant.
-template <class T, int Len, Kind kind, Layout layout> class Operand {
+template <class T, int Len, Kind kind, Layout layout>
+class Operand {
 public:
     using Object = Eigen::Array<T, Len, 1>;
     using Long = Eigen::Array<T, Eigen::Dynamic, 1>;
@@ -43,21 +44,24 @@ public:
     static constexpr int bytes = static_cast<int>(sizeof(T));
     static constexpr bool isAnyStride = layout == Layout::anyStride;
 
-    Operand(int index, int count)
-        : data_(region<T>(3 * index)),
-          flat_(kind == Kind::array ? data_ : region<T>(3 * index + 1)),
-          table_(region<T*>(3 * index + 2)),
-          count_(count)
+    Operand(int index, int count) : count_(count)
     {
         if constexpr (isAnyStride) step2_ = 2, step0_ = 2 * Len;
-        const int planeStep = (count + 15) / 16 * 16 + 7 * 64 / bytes;
-        if constexpr (kind == Kind::array)
-            fill(data_, std::ptrdiff_t{planeStep} * Len + std::ptrdiff_t{step0_} * count);
-        if constexpr (kind == Kind::common) fill(data_, step0_);
-        if constexpr (kind == Kind::constants) fill(data_, count);
+        const std::ptrdiff_t planeStep = (count + 15) / 16 * 16 + 7 * 64 / bytes;
+        const std::ptrdiff_t elements = kind == Kind::constant     ? 1
+                                        : kind == Kind::constants  ? count
+                                        : kind == Kind::common     ? step0_
+                                        : layout == Layout::planes ? planeStep * Len
+                                                                   : std::ptrdiff_t{step0_} * count;
+        flat_ = data_ = Memory::region<T>(elements);
+        fill(data_, elements);
+        constexpr bool repeats = kind == Kind::common || kind == Kind::constants;
+        if constexpr (repeats && layout == Layout::packed) flat_ = Memory::region<T>(std::ptrdiff_t{Len} * count);
+        if constexpr (layout == Layout::list) table_ = Memory::region<T*>(count);
+        if constexpr (layout == Layout::planes) table_ = Memory::region<T*>(Len);
 
         if constexpr (kind == Kind::common) object_ = Spread(data_, Eigen::InnerStride<>(step2_));
-        if constexpr (kind == Kind::common || kind == Kind::constants)
+        if constexpr (repeats && layout == Layout::packed)
             for (int n = 0; n < count; ++n)
                 Eigen::Map<Object>(flat_ + std::ptrdiff_t{n} * Len) = Object::Zero() + at(n);
         if constexpr (layout == Layout::list && kind != Kind::common) {
@@ -148,13 +152,13 @@ public:
     std::span<std::byte> memory() const
     {
         const std::ptrdiff_t elements =
-            (layout == Layout::planes ? table_[Len - 1] - data_ : 0) + std::ptrdiff_t{step0_} * count_;
+            layout == Layout::planes ? table_[Len - 1] + count_ - data_ : std::ptrdiff_t{step0_} * count_;
         return {reinterpret_cast<std::byte*>(data_), static_cast<std::size_t>(elements * bytes)};
     }
 
 private:
     T *data_, *flat_;
-    T** table_;
+    T** table_ = nullptr;
     int count_, step0_ = step, step2_ = 1;
     T val_ = static_cast<T>(1.25);
     Object object_ = Object::Zero();
@@ -217,17 +221,25 @@ Task elementwiseTask(Function* ours, int count)
             const auto localDst = dst;
             for (int n = 0; n < count; ++n) localDst.at(n) = combine(localA.at(n), localB.at(n));
         });
+    if constexpr (layout == Layout::packed && repeats)
+        add("fixed loop by reference", [=] {  // the same, if the compiler cannot know that nothing overlaps
+            for (int n = 0; n < count; ++n) dst.at(n) = combine(a.at(n), b.at(n));
+        });
     if (count <= residentObjects) task.result = dst.memory();
     return task;
 }
 
 // The members of one shape and element type.
-template <class Standard, class List, class Pointers> struct Members {
+template <class Standard, class List, class Pointers>
+struct Members {
     const char* name;
     Standard* standard;
     List* list;
     Pointers* pointers;
 };
+// clang 14 deduces no aggregates by itself.
+template <class Standard, class List, class Pointers>
+Members(const char*, Standard*, List*, Pointers*) -> Members<Standard, List, Pointers>;
 #define BENCH_MEMBERS(stem) \
     bench::Members { #stem, stem, stem##_L, stem##_P }
 

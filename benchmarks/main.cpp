@@ -63,6 +63,7 @@ void compareResults(const Row& row, const Task& task)
 
 std::map<std::string, double> measure(const Section& section, const Row& row)
 {
+    Memory::startRow();
     const Task task = row.prepare();
     compareResults(row, task);
     benchmark::ClearRegisteredBenchmarks();

@@ -1,12 +1,12 @@
-// The memory all contestants of a row share. Regions are page-aligned blocks that begin at different
-// multiples of 64 bytes, so that no two operands meet in the low 12 bits of their addresses, which
-// would make loads wait for unrelated stores.
+// The memory all contestants of a row share. Its regions begin at different multiples of 64 bytes
+// after a page, so that no two operands meet in the low 12 bits of their addresses, which would make
+// loads wait for unrelated stores.
 #pragma once
 
 #include <sys/mman.h>
 
 #include <algorithm>
-#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 
@@ -27,27 +27,48 @@ inline std::size_t streamingBytes()
     return bytes;
 }
 
-constexpr int regions = 12;
+// One block for all rows, taken from its beginning again for each: operands that lie close together
+// do not meet in the processor's hashes of the higher address bits either. Pages come into being when
+// they are first written.
+class Memory {
+public:
+    static void startRow() { memory().used_ = 0, memory().regions_ = 0; }
 
-// Pages come into being when they are first written.
-template <class T> T* region(int index)
-{
-    constexpr std::size_t hugePage = 2u << 20;
-    static const std::size_t size = streamingBytes() + 2 * hugePage;
-    static std::byte* const base = [] {
-        const std::size_t all = regions * size + hugePage;
-        void* const p = mmap(nullptr, all, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+    template <class T>
+    static T* region(std::ptrdiff_t elements)
+    {
+        Memory& m = memory();
+        const std::size_t start = (m.used_ + page - 1) / page * page + m.regions_ * 7 * 64 % page;
+        m.used_ = start + static_cast<std::size_t>(elements) * sizeof(T);
+        ++m.regions_;
+        if (m.used_ > m.size_) std::abort();
+        return reinterpret_cast<T*>(m.base_ + start);
+    }
+
+private:
+    static constexpr std::size_t page = 4096, hugePage = 2u << 20;
+
+    Memory() : size_(8 * streamingBytes())
+    {
+        void* const p =
+            mmap(nullptr, size_ + hugePage, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
         if (p == MAP_FAILED) std::abort();
-        madvise(p, all, MADV_HUGEPAGE);
-        const auto rest = reinterpret_cast<std::uintptr_t>(p) % hugePage;
-        return static_cast<std::byte*>(p) + (hugePage - rest);
-    }();
-    const auto k = static_cast<std::size_t>(index);
-    return reinterpret_cast<T*>(base + k * size + k * 7 * 64);
-}
+        madvise(p, size_ + hugePage, MADV_HUGEPAGE);
+        base_ = static_cast<std::byte*>(p) + (hugePage - reinterpret_cast<std::uintptr_t>(p) % hugePage);
+    }
+    static Memory& memory()
+    {
+        static Memory instance;
+        return instance;
+    }
+
+    std::size_t size_, used_ = 0, regions_ = 0;
+    std::byte* base_;
+};
 
 // Values from 0.5 up to 2, no two near each other alike.
-template <class T> void fill(T* p, std::ptrdiff_t elements)
+template <class T>
+void fill(T* p, std::ptrdiff_t elements)
 {
     std::uint32_t state = 2463534242u;
     for (std::ptrdiff_t i = 0; i < elements; ++i) {

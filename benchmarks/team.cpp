@@ -16,8 +16,10 @@ void addMember(Section& s, const char* name, Function* function, int len, int th
         const int count = first * times;
         s.rows.push_back(
             {std::string(name) + " len " + std::to_string(len) + ", count " + std::to_string(count), count, [=] {
-                 T *const src = region<T>(0), *const common = region<T>(3), *const dst = region<T>(6);
-                 fill(src, std::ptrdiff_t{len} * count), fill(common, len), fill(dst, std::ptrdiff_t{len} * count);
+                 const std::ptrdiff_t elements = std::ptrdiff_t{len} * count;
+                 T *const src = Memory::region<T>(elements), *const common = Memory::region<T>(len),
+                          *const dst = Memory::region<T>(elements);
+                 fill(src, elements), fill(common, len), fill(dst, elements);
                  const auto call = [=](int threads) {
                      constexpr int e = sizeof(T);
                      vorSetNumThreads(threads);
