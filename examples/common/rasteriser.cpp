@@ -56,7 +56,8 @@ Vec project(Vec p)
 }
 
 // Calls sample(x, y, weights of the corners) for every sample inside the triangle.
-template <class Sample> void fillTriangle(Vec a, Vec b, Vec c, int width, int height, const Sample& sample)
+template <class Sample>
+void fillTriangle(Vec a, Vec b, Vec c, int width, int height, const Sample& sample)
 {
     const float area = (b.x - a.x) * (c.y - a.y) - (b.y - a.y) * (c.x - a.x);
     if (!(std::abs(area) > 0)) return;

@@ -31,7 +31,8 @@ void expectOk(VormStatus status, const char* function)
 
 // Does the work a number of times, and gives the objects a second of the fastest: other programs may
 // be running.
-template <class Work> double millionsPerSecond(int objects, const Work& work)
+template <class Work>
+double millionsPerSecond(int objects, const Work& work)
 {
     using Seconds = std::chrono::duration<double>;
     const auto now = [] { return std::chrono::steady_clock::now(); };

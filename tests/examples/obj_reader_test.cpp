@@ -82,7 +82,10 @@ TEST(ObjReader, NamesLineAndReasonOfABadFile)
         {"v 0 \\\n0 \\\nx\n", 1, "'x' is not a number"},  // the first line of those joined
         {"v 0 \\\n0 0\nv 0 0\n", 3, "vertex with 2 of 3 coordinates"},
         {"v 0 0 0\n\x01\x02\n", 2, "control character, not a text file"},
-        {std::string("\x7f" "ELF\0\0", 6), 1, "control character, not a text file"},
+        {std::string("\x7f"
+                     "ELF\0\0",
+                     6),
+         1, "control character, not a text file"},
         {"v 0 0 " + std::string(100, 'x'), 1, "'xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx...' is not a number"},
     };
     for (const auto& c : cases) {
