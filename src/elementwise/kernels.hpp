@@ -138,7 +138,8 @@ VORM_INLINE VormStatus contiguousObjects(const A& a, const B& b, const Dst<T, Ad
     return StatusOk;
 }
 
-// The single shapes behave as a loop over ascending elements, however their operands overlap.
+// The single shapes: beyond the small sizes they behave as a loop over ascending elements, however their
+// operands overlap.
 template <class Op, class T, class A, class B>
 VORM_INLINE VormStatus contiguousObject(const A& a, const B& b, const Vector<T, Adjacent>& dst, int len)
 {
