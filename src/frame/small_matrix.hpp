@@ -2,7 +2,6 @@
 #pragma once
 
 #include <algorithm>
-#include <concepts>
 
 #include "frame/lanes.hpp"
 #include "frame/operands.hpp"
@@ -10,15 +9,11 @@
 
 namespace vorm {
 
-// Views whose stored rows are contiguous, and which of the views are read transposed.
-template <class View>
-concept AdjacentRows = requires(const View& view)
-{
-    view.stride1;
-    {
-        view.stride2
-        } -> std::same_as<const Adjacent&>;
-};
+// Views whose stored rows are contiguous, and views that are read transposed.
+template <class View> constexpr bool adjacentRows = false;
+template <class T> constexpr bool adjacentRows<Matrix<T, Adjacent>> = true;
+template <class T> constexpr bool adjacentRows<MatrixArray<T, Adjacent>> = true;
+template <class T> constexpr bool adjacentRows<MatrixList<T, Adjacent>> = true;
 template <class View> constexpr bool isTransposed = false;
 template <class Stored> constexpr bool isTransposed<Transposed<Stored>> = true;
 
@@ -33,85 +28,107 @@ VORM_INLINE Lanes<double> splat(Lanes<double> a) { return _mm_shuffle_pd(a.v, a.
 VORM_INLINE float firstLane(Lanes<float> a) { return _mm_cvtss_f32(a.v); }
 VORM_INLINE double firstLane(Lanes<double> a) { return _mm_cvtsd_f64(a.v); }
 
-VORM_INLINE Lanes<float> gather(float a, float b, float c, float d) { return _mm_setr_ps(a, b, c, d); }
-VORM_INLINE Lanes<double> gather(double a, double b) { return _mm_setr_pd(a, b); }
+// A register of element(0), element(1), ...
+template <class T, class Element>
+VORM_INLINE Lanes<T> lanes(const Element& element)
+{
+    if constexpr (Lanes<T>::width == 4)
+        return _mm_setr_ps(element(0), element(1), element(2), element(3));
+    else
+        return _mm_setr_pd(element(0), element(1));
+}
 
+// Two floats, repeated.
+VORM_INLINE Lanes<float> loadTwice(const float* p)
+{
+    return _mm_castpd_ps(_mm_set1_pd(elementAt(reinterpret_cast<const double*>(p), 0)));
+}
+
+// How the rows of a matrix of order n lie in registers: as many full ones as fit, then one for the
+// rest, in which the one or two elements left over repeat: 4 4 4 4 or 4 5 4 5 behind 0 1 2 3. Three
+// floats are a register whose last lane is undefined.
 template <class T, int n> struct SmallMatrix {
-    static constexpr int width = Lanes<T>::width, full = n / width, rest = n % width, parts = full + (rest != 0);
-    Lanes<T> v[n][parts];  // element (r, c) is lane c % width of v[r][c / width]; lanes behind the row are undefined
+    static constexpr int width = Lanes<T>::width;
+    static constexpr bool lastLaneUndefined = n < width;
+    static constexpr int full = lastLaneUndefined ? 1 : n / width;  // registers of a row without its rest
+    static constexpr int rest = lastLaneUndefined ? 0 : n % width, parts = full + (rest != 0);
 
-    template <class View>
-    VORM_INLINE static SmallMatrix load(const View& view, int object)
+    // The column that lane l of part p holds.
+    static constexpr int column(int p, int l)
     {
-        SmallMatrix m;
-        if constexpr (AdjacentRows<View>) {
-            unrolled<n>([&](auto r) VORM_INLINE_LAMBDA { loadRow<r>(view, object, m.v[r]); });
-        } else if constexpr (isTransposed<View>) {
-            m = SmallMatrix::load(view.stored, object).transposed();
-        } else {
-            unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
-                const auto element = [&](int c) VORM_INLINE_LAMBDA { return c < n ? T(view(object, r, c)) : T(0); };
-                for (int p = 0; p < parts; ++p) {
-                    if constexpr (width == 4)
-                        m.v[r][p] = gather(element(4 * p), element(4 * p + 1), element(4 * p + 2), element(4 * p + 3));
-                    else
-                        m.v[r][p] = gather(element(2 * p), element(2 * p + 1));
-                }
-            });
-        }
-        return m;
+        return p < full ? std::min(p * width + l, n - 1) : full * width + l % std::max(rest, 1);
     }
 
-    VORM_INLINE SmallMatrix transposed() const
+    // Part p of row r.
+    template <int r, int p, class View>
+    VORM_INLINE static Lanes<T> load(const View& view, int object)
     {
-        SmallMatrix m;
-        unrolled<parts>([&](auto down) VORM_INLINE_LAMBDA {
-            unrolled<parts>([&](auto across) VORM_INLINE_LAMBDA {
-                Lanes<T> block[width];
-                for (int k = 0; k < width; ++k) block[k] = v[std::min(width * down + k, n - 1)][across];
-                transpose(block);
-                for (int k = 0; k < width && width * across + k < n; ++k) m.v[width * across + k][down] = block[k];
-            });
-        });
-        return m;
-    }
-
-    // One row, from or to contiguous elements. Three floats are read as four: the element before the
-    // last row or behind any other one lies within the matrix, whatever its row stride.
-    template <int r, class View>
-    VORM_INLINE static void loadRow(const View& view, int object, Lanes<T> (&row)[parts])
-    {
-        const T* const p = advance(view.object(object), std::ptrdiff_t{r} * view.stride1);
-        for (int k = 0; k < full; ++k) row[k] = Lanes<T>::load(p + k * width);
-        if constexpr (width == 4 && rest == 3) {
-            static_assert(full == 0);
-            if constexpr (r < n - 1)
-                row[0] = Lanes<T>::load(p);
+        if constexpr (adjacentRows<View>) {
+            const T* const from = advance(view.object(object), std::ptrdiff_t{r} * view.stride1) + p * width;
+            if constexpr (p == full && rest == 1)
+                return elementAt(from, 0);
+            else if constexpr (p == full)
+                return loadTwice(from);
+            else if constexpr (!lastLaneUndefined || r < n - 1)
+                return Lanes<T>::load(from);  // three floats are read as four: this one is the next row's or before it
             else
-                row[0] = _mm_castsi128_ps(_mm_srli_si128(_mm_castps_si128(Lanes<T>::load(p - 1).v), 4));
-        } else if constexpr (rest != 0) {
-            row[full] = loadFirst<rest>(p + full * width);
+                return _mm_castsi128_ps(_mm_srli_si128(_mm_castps_si128(Lanes<T>::load(from - 1).v), 4));
+        } else {
+            return lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(view(object, r, column(p, l))); });
         }
     }
-    template <int r, class View>
-    VORM_INLINE static void storeRow(const View& view, int object, const Lanes<T> (&row)[parts])
+
+    // Part p of all rows.
+    template <int p, class View>
+    VORM_INLINE static void loadAll(const View& view, int object, Lanes<T> (&rows)[n])
     {
-        if constexpr (AdjacentRows<View>) {
-            T* const p = advance(view.object(object), std::ptrdiff_t{r} * view.stride1);
-            for (int k = 0; k < full; ++k) row[k].store(p + k * width);
-            if constexpr (width == 4 && rest == 3) {
-                if (r < n - 1 && view.stride1 == 3 * int{sizeof(T)}) {
-                    row[0].store(p);  // the next row overwrites what is too much
-                } else {
-                    storeFirst<2>(p, row[0]);
-                    storeFirst<1>(p + 2, _mm_movehl_ps(row[0].v, row[0].v));
+        if constexpr (isTransposed<View>) {
+            unrolled<parts>([&](auto across) VORM_INLINE_LAMBDA {
+                if constexpr (across == full && rest == 1) {
+                    rows[n - 1] = load<n - 1, p>(view, object);
+                    return;
                 }
-            } else if constexpr (rest != 0) {
-                storeFirst<rest>(p + full * width, row[full]);
+                Lanes<T> block[width];
+                unrolled<width>([&](auto l)
+                                    VORM_INLINE_LAMBDA { block[l] = load<column(p, l), across>(view.stored, object); });
+                transpose(block);
+                for (int l = 0; l < width && width * across + l < n; ++l) rows[width * across + l] = block[l];
+            });
+        } else {
+            unrolled<n>([&](auto r) VORM_INLINE_LAMBDA { rows[r] = load<r, p>(view, object); });
+        }
+    }
+
+    // The rest of the i-th row in a register that holds the rests of several, in the first lanes.
+    template <int i>
+    VORM_INLINE static Lanes<T> restOf(Lanes<T> rests)
+    {
+        if constexpr (i == 0)
+            return rests;
+        else if constexpr (rest == 2)
+            return _mm_movehl_ps(rests.v, rests.v);
+        else
+            return splat<i>(rests);
+    }
+
+    template <int r, int p, class View>
+    VORM_INLINE static void store(const View& view, int object, Lanes<T> part)
+    {
+        if constexpr (adjacentRows<View>) {
+            T* const to = advance(view.object(object), std::ptrdiff_t{r} * view.stride1) + p * width;
+            if constexpr (p == full) {
+                storeFirst<rest>(to, part);
+            } else if constexpr (!lastLaneUndefined) {
+                part.store(to);
+            } else if (r < n - 1 && view.stride1 == n * int{sizeof(T)}) {
+                part.store(to);  // the next row overwrites what is too much
+            } else {
+                storeFirst<2>(to, part);
+                storeFirst<1>(to + 2, _mm_movehl_ps(part.v, part.v));
             }
         } else {
-            unrolled<n>([&](auto c)
-                            VORM_INLINE_LAMBDA { view(object, r, c) = firstLane(splat<c % width>(row[c / width])); });
+            unrolled<p == full ? rest : std::min(width, n - p * width)>(
+                [&](auto l) VORM_INLINE_LAMBDA { view(object, r, p * width + l) = firstLane(splat<l>(part)); });
         }
     }
 };

@@ -29,6 +29,10 @@ VORM_INLINE VormStatus contiguousProducts(const A& src1, const B& src2, const D&
 {
     const auto a = Kind::first(src1);
     const auto b = Kind::second(src2);
+    if constexpr (bodies == Bodies::upTo5) {
+        if (fixedOrder<Bodies::upTo6>(lengths) == 6)
+            return products<T, 6, Order::asInTiles>(a, b, dst, 0, count), StatusOk;
+    }
     switch (fixedOrder<bodies>(lengths)) {
     case 3: products<T, 3>(a, b, dst, 0, count); break;
     case 4: products<T, 4>(a, b, dst, 0, count); break;
@@ -83,16 +87,17 @@ VORM_INLINE void productsInPlanes(const A& a, const B& b, const D& dst, int end)
     Number ofB[n][n];
     for (int object = 0; object < end; object += Number::width) {
         if (!B::isCommon || object == 0)
-            for (int k = 0; k < n; ++k)
-                for (int j = 0; j < n; ++j) ofB[k][j] = loadLanes<Number>(b, object, k, j);
+            unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
+                unrolled<n>([&](auto j) VORM_INLINE_LAMBDA { ofB[k][j] = loadLanes<Number>(b, object, k, j); });
+            });
         for (int i = 0; i < n; ++i) {
             Number row[n];
-            for (int k = 0; k < n; ++k) row[k] = loadLanes<Number>(a, object, i, k);
-            for (int j = 0; j < n; ++j) {
+            unrolled<n>([&](auto k) VORM_INLINE_LAMBDA { row[k] = loadLanes<Number>(a, object, i, k); });
+            unrolled<n>([&](auto j) VORM_INLINE_LAMBDA {
                 Number sum = row[0] * ofB[0][j];
-                for (int k = 1; k < n; ++k) sum = sum + row[k] * ofB[k][j];
+                unrolled<n - 1>([&](auto k) VORM_INLINE_LAMBDA { sum = sum + row[k + 1] * ofB[k + 1][j]; });
                 storeLanes(dst, object, i, j, sum);
-            }
+            });
         }
     }
 }

@@ -24,31 +24,29 @@ enum class Sums { running, evenAndOdd };
 
 // Some lanes of row r from column c on, as far as they exist. -------------------------------------
 
-template <class T, int lanes, class View>
+template <class T, int some, class View>
 VORM_INLINE Lanes<T> loadAcross(const View& view, int r, int c)
 {
-    if constexpr (AdjacentRows<View> && lanes == Lanes<T>::width)
+    if constexpr (adjacentRows<View> && some == Lanes<T>::width)
         return Lanes<T>::load(advance(view.p, std::ptrdiff_t{r} * view.stride1) + c);
-    const auto element = [&](int k) VORM_INLINE_LAMBDA { return k < lanes ? T(view(0, r, c + k)) : T(0); };
-    if constexpr (Lanes<T>::width == 4)
-        return gather(element(0), element(1), element(2), element(3));
     else
-        return gather(element(0), element(1));
+        return lanes<T>([&](int l) VORM_INLINE_LAMBDA { return l < some ? T(view(0, r, c + l)) : T(0); });
 }
 
-template <class T, int lanes, class View>
+template <class T, int some, class View>
 VORM_INLINE void storeAcross(const View& view, int r, int c, Lanes<T> v)
 {
-    if constexpr (AdjacentRows<View> && lanes == Lanes<T>::width)
+    if constexpr (adjacentRows<View> && some == Lanes<T>::width)
         v.store(advance(view.p, std::ptrdiff_t{r} * view.stride1) + c);
     else
-        unrolled<lanes>([&](auto k) VORM_INLINE_LAMBDA { view(0, r, c + k) = firstLane(splat<k>(v)); });
+        unrolled<some>([&](auto k) VORM_INLINE_LAMBDA { view(0, r, c + k) = firstLane(splat<k>(v)); });
 }
 
 // Tiles along the rows of B and D. ------------------------------------------------------------------
 
-// height rows from r on, registers side by side from column c on; lanes of them are in use.
-template <class T, Sums sums, int height, int registers, int lanes, class A, class B, class D>
+// height rows from r on, registers side by side from column c on; some
+// of their lanes are in use.
+template <class T, Sums sums, int height, int registers, int some, class A, class B, class D>
 VORM_INLINE void tile(const A& a, const B& b, const D& dst, int r, int c, int terms)
 {
     constexpr int width = Lanes<T>::width, accumulators = sums == Sums::running ? 1 : 2;
@@ -59,7 +57,7 @@ VORM_INLINE void tile(const A& a, const B& b, const D& dst, int r, int c, int te
 
     const auto add = [&](int k, Lanes<T>(&to)[height][registers]) VORM_INLINE_LAMBDA {
         Lanes<T> rowOfB[registers];
-        for (int p = 0; p < registers; ++p) rowOfB[p] = loadAcross<T, lanes>(b, k, c + p * width);
+        for (int p = 0; p < registers; ++p) rowOfB[p] = loadAcross<T, some>(b, k, c + p * width);
         for (int i = 0; i < height; ++i) {
             const Lanes<T> factor = T(a(0, r + i, k));
             for (int p = 0; p < registers; ++p) to[i][p] = to[i][p] + factor * rowOfB[p];
@@ -74,7 +72,7 @@ VORM_INLINE void tile(const A& a, const B& b, const D& dst, int r, int c, int te
         if (terms % 2 != 0) add(terms - 1, sum[0]);
     }
     for (int i = 0; i < height; ++i)
-        for (int p = 0; p < registers; ++p) storeAcross<T, lanes>(dst, r + i, c + p * width, sum[0][i][p]);
+        for (int p = 0; p < registers; ++p) storeAcross<T, some>(dst, r + i, c + p * width, sum[0][i][p]);
 }
 
 // A strip of tiles, columns c up to end.
