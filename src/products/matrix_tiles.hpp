@@ -44,8 +44,35 @@ VORM_INLINE void storeAcross(const View& view, int r, int c, Lanes<T> v)
 
 // Tiles along the rows of B and D. ------------------------------------------------------------------
 
-// height rows from r on, registers side by side from column c on; some
-// of their lanes are in use.
+// Rows r to r + height of A and the terms from k on, some at a time: get<i, ahead> is A(r + i, k + ahead)
+// in all lanes.
+template <class T, int height, class A> struct TermsOf {
+    static constexpr int width = Lanes<T>::width;
+    static constexpr bool inRows = sizeof(T) == sizeof(float) && adjacentRows<A>;
+    static constexpr bool inColumns = sizeof(T) == sizeof(float) && isTransposed<A> && height == width;
+    const A& a;
+    int r, k;
+    Lanes<T> loaded[width];
+    VORM_INLINE TermsOf(const A& a_, int r_, int k_) : a(a_), r(r_), k(k_)
+    {
+        if constexpr (inRows)
+            for (int i = 0; i < height; ++i) loaded[i] = loadAcross<T, width>(a, r + i, k);
+        if constexpr (inColumns)
+            for (int ahead = 0; ahead < width; ++ahead) loaded[ahead] = loadAcross<T, width>(a.stored, k + ahead, r);
+    }
+    template <int i, int ahead>
+    VORM_INLINE Lanes<T> get() const
+    {
+        if constexpr (inRows)
+            return splat<ahead>(loaded[i]);
+        else if constexpr (inColumns)
+            return splat<i>(loaded[ahead]);
+        else
+            return T(a(0, r + i, k + ahead));
+    }
+};
+
+// height rows from r on, registers side by side from column c on; some of their lanes are in use.
 template <class T, Sums sums, int height, int registers, int some, class A, class B, class D>
 VORM_INLINE void tile(const A& a, const B& b, const D& dst, int r, int c, int terms)
 {
@@ -55,59 +82,88 @@ VORM_INLINE void tile(const A& a, const B& b, const D& dst, int r, int c, int te
         for (auto& row : accumulator)
             for (auto& s : row) s = T(0);
 
-    const auto add = [&](int k, Lanes<T>(&to)[height][registers]) VORM_INLINE_LAMBDA {
+    const auto add = [&](int k, const auto& factor, Lanes<T>(&to)[height][registers]) VORM_INLINE_LAMBDA {
         Lanes<T> rowOfB[registers];
         for (int p = 0; p < registers; ++p) rowOfB[p] = loadAcross<T, some>(b, k, c + p * width);
-        for (int i = 0; i < height; ++i) {
-            const Lanes<T> factor = T(a(0, r + i, k));
-            for (int p = 0; p < registers; ++p) to[i][p] = to[i][p] + factor * rowOfB[p];
-        }
+        unrolled<height>([&](auto i) VORM_INLINE_LAMBDA {
+            const Lanes<T> factorOfRow = factor(i);
+            for (int p = 0; p < registers; ++p) {
+                to[i][p] = to[i][p] + factorOfRow * rowOfB[p];
+                __asm__("" : "+x"(to[i][p].v));  // or g++ adds up one sum after the other and spills the rest
+            }
+        });
+    };
+    const auto addOne = [&](int k, Lanes<T>(&to)[height][registers]) VORM_INLINE_LAMBDA {
+        add(
+            k, [&](int i) VORM_INLINE_LAMBDA { return T(a(0, r + i, k)); }, to);
     };
     if constexpr (sums == Sums::running) {
-        for (int k = 0; k < terms; ++k) add(k, sum[0]);
+        int k = 0;
+        for (; width == 4 && k + width <= terms; k += width) {
+            const TermsOf<T, height, A> factors(a, r, k);
+            unrolled<width>([&](auto ahead) VORM_INLINE_LAMBDA {
+                add(
+                    k + ahead, [&](auto i) VORM_INLINE_LAMBDA { return factors.template get<i, ahead>(); }, sum[0]);
+            });
+        }
+        for (; k < terms; ++k) addOne(k, sum[0]);
     } else {
-        for (int k = 0; k + 2 <= terms; k += 2) add(k, sum[0]), add(k + 1, sum[1]);
+        for (int k = 0; k + 2 <= terms; k += 2) addOne(k, sum[0]), addOne(k + 1, sum[1]);
         for (int i = 0; i < height; ++i)
             for (int p = 0; p < registers; ++p) sum[0][i][p] = sum[0][i][p] + sum[1][i][p];
-        if (terms % 2 != 0) add(terms - 1, sum[0]);
+        if (terms % 2 != 0) addOne(terms - 1, sum[0]);
     }
     for (int i = 0; i < height; ++i)
         for (int p = 0; p < registers; ++p) storeAcross<T, some>(dst, r + i, c + p * width, sum[0][i][p]);
 }
 
-// A strip of tiles, columns c up to end.
+// The columns from c on that do not fill a register.
 template <class T, Sums sums, int height, class A, class B, class D>
-VORM_INLINE void strip(const A& a, const B& b, const D& dst, int r, int c, int end, int terms)
+VORM_INLINE void edge(const A& a, const B& b, const D& dst, int r, int c, int end, int terms)
 {
-    constexpr int width = Lanes<T>::width;
-    for (; c + 2 * width <= end; c += 2 * width) tile<T, sums, height, 2, width>(a, b, dst, r, c, terms);
-    if (c + width <= end) {
-        tile<T, sums, height, 1, width>(a, b, dst, r, c, terms);
-        c += width;
-    }
     if (end - c == 1) tile<T, sums, height, 1, 1>(a, b, dst, r, c, terms);
-    if constexpr (width == 4) {
+    if constexpr (Lanes<T>::width == 4) {
         if (end - c == 2) tile<T, sums, height, 1, 2>(a, b, dst, r, c, terms);
         if (end - c == 3) tile<T, sums, height, 1, 3>(a, b, dst, r, c, terms);
     }
 }
 
+// Strips of tiles: height rows each from row r up to toRow, columns c up to toColumn.
+template <class T, Sums sums, int height, class A, class B, class D>
+VORM_INLINE void strips(const A& a, const B& b, const D& dst, int r, int toRow, int c, int toColumn, int terms)
+{
+    constexpr int width = Lanes<T>::width;
+    for (; r < toRow; r += height) {
+        int j = c;
+        for (; j + 2 * width <= toColumn; j += 2 * width) tile<T, sums, height, 2, width>(a, b, dst, r, j, terms);
+        if (j + width <= toColumn) {
+            tile<T, sums, height, 1, width>(a, b, dst, r, j, terms);
+            j += width;
+        }
+        if (j < toColumn) edge<T, sums, height>(a, b, dst, r, j, toColumn, terms);
+    }
+}
+
 // Tiles along k, for rows of A and columns of B that both run along it. ---------------------------
 
-VORM_INLINE float fold(const Lanes<float> (&s)[1])
+VORM_INLINE Lanes<float> pairs(Lanes<float> a, Lanes<float> b) { return _mm_hadd_ps(a.v, b.v); }
+VORM_INLINE Lanes<double> pairs(Lanes<double> a, Lanes<double> b) { return _mm_hadd_pd(a.v, b.v); }
+
+// The folded sums of four elements.
+VORM_INLINE void fold(const Lanes<float> (&s)[4][1], float (&total)[4])
 {
-    const __m128 pairs = _mm_hadd_ps(s[0].v, s[0].v);
-    return firstLane(Lanes<float>(_mm_hadd_ps(pairs, pairs)));
+    pairs(pairs(s[0][0], s[1][0]), pairs(s[2][0], s[3][0])).store(total);
 }
-VORM_INLINE float fold(const Lanes<float> (&s)[2])
+// The folded sum of one element.
+VORM_INLINE void fold(const Lanes<float> (&s)[1][2], float (&total)[1])
 {
-    const Lanes<float> both[1] = {s[0] + s[1]};
-    return fold(both);
+    const Lanes<float> both = s[0][0] + s[0][1], folded = pairs(both, both);
+    total[0] = firstLane(pairs(folded, folded));
 }
-VORM_INLINE double fold(const Lanes<double> (&s)[4])
+VORM_INLINE void fold(const Lanes<double> (&s)[1][4], double (&total)[1])
 {
-    const __m128d fours = _mm_hadd_pd(_mm_hadd_pd(s[0].v, s[1].v), _mm_hadd_pd(s[2].v, s[3].v));
-    return firstLane(Lanes<double>(_mm_hadd_pd(fours, fours)));
+    const Lanes<double> fours = pairs(pairs(s[0][0], s[0][1]), pairs(s[0][2], s[0][3]));
+    total[0] = firstLane(pairs(fours, fours));
 }
 
 // height rows from r on, breadth columns from c on; each element has that many registers of sums.
@@ -116,28 +172,29 @@ VORM_INLINE void dots(const Matrix<const T, Adjacent>& a, const Matrix<const T, 
                       int c, int terms)
 {
     constexpr int width = Lanes<T>::width;
-    const auto along = [](const auto& view, int row, int k) VORM_INLINE_LAMBDA {
-        return Lanes<T>::load(advance(view.p, std::ptrdiff_t{row} * view.stride1) + k);
-    };
-    Lanes<T> sum[height][breadth][registers];
-    for (auto& row : sum)
-        for (auto& element : row)
+    Lanes<T> sum[breadth][height][registers];
+    for (auto& column : sum)
+        for (auto& element : column)
             for (auto& s : element) s = T(0);
 
     int inGroups = 0;
     for (; inGroups + registers * width <= terms; inGroups += registers * width)
-        for (int p = 0; p < registers; ++p)
-            for (int j = 0; j < breadth; ++j) {
-                const Lanes<T> ofB = along(b, c + j, inGroups + p * width);
-                for (int i = 0; i < height; ++i)
-                    sum[i][j][p] = sum[i][j][p] + along(a, r + i, inGroups + p * width) * ofB;
+        for (int p = 0; p < registers; ++p) {
+            const int k = inGroups + p * width;
+            Lanes<T> ofB[breadth];
+            for (int j = 0; j < breadth; ++j) ofB[j] = loadAcross<T, width>(b, c + j, k);
+            for (int i = 0; i < height; ++i) {
+                const Lanes<T> ofA = loadAcross<T, width>(a, r + i, k);
+                for (int j = 0; j < breadth; ++j) sum[j][i][p] = sum[j][i][p] + ofA * ofB[j];
             }
-    for (int i = 0; i < height; ++i)
-        for (int j = 0; j < breadth; ++j) {
-            T total = fold(sum[i][j]);
-            for (int k = inGroups; k < terms; ++k) total += a(0, r + i, k) * b(0, c + j, k);
-            dst(0, r + i, c + j) = total;
         }
+    for (int j = 0; j < breadth; ++j) {
+        T total[height];
+        fold(sum[j], total);
+        for (int k = inGroups; k < terms; ++k)
+            for (int i = 0; i < height; ++i) total[i] += a(0, r + i, k) * b(0, c + j, k);
+        for (int i = 0; i < height; ++i) dst(0, r + i, c + j) = total[i];
+    }
 }
 
 // -----------------------------------------------------------------------------------------------------
@@ -155,38 +212,33 @@ template <class Kind, class T> [[gnu::noinline]] void generalProduct(const T* pS
     if constexpr (Kind::transposed1 && Kind::transposed2) {
         // Whole registers lie along the rows of the stored A only, that is along the columns of D.
         const Transposed columns{dst};
-        const auto rows = [&]<int height>(int j) VORM_INLINE_LAMBDA {
-            strip<T, Sums::running, height>(stored2, stored1, columns, j, 0, tiled, terms);
-            if (left == 3)
-                strip<T, Sums::running, height>(stored2, stored1, columns, j, tiled, m, terms);
-            else
-                strip<T, Sums::evenAndOdd, height>(stored2, stored1, columns, j, tiled, m, terms);
-        };
-        int j = 0;
-        for (; j + 4 <= n; j += 4) rows.template operator()<4>(j);
-        for (; j < n; ++j) rows.template operator()<1>(j);
+        const int fours = n & ~3;
+        if (tiled != 0) {
+            strips<T, Sums::running, 4>(stored2, stored1, columns, 0, fours, 0, tiled, terms);
+            strips<T, Sums::running, 1>(stored2, stored1, columns, fours, n, 0, tiled, terms);
+        }
+        if (left == 3)
+            strips<T, Sums::running, 1>(stored2, stored1, columns, 0, n, tiled, m, terms);
+        else if (left != 0)
+            strips<T, Sums::evenAndOdd, 1>(stored2, stored1, columns, 0, n, tiled, m, terms);
     } else if constexpr (Kind::transposed2) {
-        for (int i = 0; i < tiled; i += 4) {
-            if constexpr (sizeof(T) == sizeof(double)) {
-                strip<T, Sums::running, 4>(stored1, Transposed{stored2}, dst, i, 0, n, terms);
-            } else {
+        if constexpr (sizeof(T) == sizeof(double)) {
+            strips<T, Sums::running, 4>(stored1, Transposed{stored2}, dst, 0, tiled, 0, n, terms);
+        } else {
+            for (int i = 0; i < tiled; i += 4) {
                 int j = 0;
                 for (; j + 2 <= n; j += 2) dots<T, 1, 4, 2>(stored1, stored2, dst, i, j, terms);
                 if (j < n) dots<T, 1, 4, 1>(stored1, stored2, dst, i, j, terms);
             }
         }
-        constexpr int registers = 8 / Lanes<T>::width;
-        for (int j = 0; j < n; ++j) {
-            if (left == 1) dots<T, registers, 1, 1>(stored1, stored2, dst, tiled, j, terms);
-            if (left == 2) dots<T, registers, 2, 1>(stored1, stored2, dst, tiled, j, terms);
-            if (left == 3) dots<T, registers, 3, 1>(stored1, stored2, dst, tiled, j, terms);
-        }
+        for (int i = tiled; i < m; ++i)
+            for (int j = 0; j < n; ++j) dots<T, 8 / Lanes<T>::width, 1, 1>(stored1, stored2, dst, i, j, terms);
     } else {
         const auto a = Kind::first(stored1);
-        for (int i = 0; i < tiled; i += 4) strip<T, Sums::running, 4>(a, stored2, dst, i, 0, n, terms);
-        if (left == 1) strip<T, Sums::evenAndOdd, 1>(a, stored2, dst, tiled, 0, n, terms);
-        if (left == 2) strip<T, Sums::evenAndOdd, 2>(a, stored2, dst, tiled, 0, n, terms);
-        if (left == 3) strip<T, Sums::running, 3>(a, stored2, dst, tiled, 0, n, terms);
+        if (tiled != 0) strips<T, Sums::running, 4>(a, stored2, dst, 0, tiled, 0, n, terms);
+        if (left == 1) strips<T, Sums::evenAndOdd, 1>(a, stored2, dst, tiled, m, 0, n, terms);
+        if (left == 2) strips<T, Sums::evenAndOdd, 2>(a, stored2, dst, tiled, m, 0, n, terms);
+        if (left == 3) strips<T, Sums::running, 3>(a, stored2, dst, tiled, m, 0, n, terms);
     }
 }
 
