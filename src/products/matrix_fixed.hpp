@@ -205,19 +205,23 @@ VORM_INLINE void product(const A& factors, const B& rows, const D& dst, int obje
 {
     using Small = SmallMatrix<T, n>;
     constexpr int full = Small::full, parts = grouped<T, n> ? full : Small::parts;
-    {
+    // Five rows of doubles are too many for the registers as a whole, and better held without the rests.
+    constexpr int atOnce = full > 1 && Small::rest ? full : parts;
+    unrolled<(parts + atOnce - 1) / atOnce>([&](auto stage) VORM_INLINE_LAMBDA {
+        constexpr int from = stage * atOnce, to = std::min(from + atOnce, parts);
         const auto& a = factors(object);
-        const auto& b = rows.template load<0, parts>(object);
+        const auto& b = rows.template load<from, to>(object);
         unrolled<n>([&](auto i) VORM_INLINE_LAMBDA {
             const auto row = sumOf<order, n, i>([&](auto k) VORM_INLINE_LAMBDA {
                 const Lanes<T> factor = a.template get<i, k>();
-                Parts<T, parts> term;
-                for (int p = 0; p < parts; ++p) term.v[p] = factor * b.v[p][k];
+                Parts<T, to - from> term;
+                for (int p = from; p < to; ++p) term.v[p - from] = factor * b.v[p][k];
                 return term;
             });
-            unrolled<parts>([&](auto p) VORM_INLINE_LAMBDA { Small::template store<i, p>(dst, object, row.v[p]); });
+            unrolled<to - from>([&](auto p)
+                                    VORM_INLINE_LAMBDA { Small::template store<i, from + p>(dst, object, row.v[p]); });
         });
-    }
+    });
     if constexpr (grouped<T, n> != 0) {
         const auto& a = factors(object);
         const auto& b = rows.template load<full, full + 1>(object);
