@@ -18,5 +18,4 @@ VORM_HIDDEN int vormInitialise()
     vorJumpIndexForMergedDLL = (vorGetEnabledCpuFeatures() & needed) == needed ? 1 : 0;
     return 1;
 }
-
 }

@@ -1,7 +1,7 @@
 // The version records of the two targets, and the calls that return them.
 
-#include "frame/layers.hpp"
 #include "vorm/version.h"
+#include "frame/layers.hpp"
 
 namespace {
 
@@ -17,5 +17,4 @@ extern "C" {
 
 VORM_HIDDEN const VersionRecord* u8_vormGetLibVersion() { return &u8Record; }
 VORM_HIDDEN const VersionRecord* n8_vormGetLibVersion() { return &n8Record; }
-
 }

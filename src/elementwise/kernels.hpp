@@ -44,7 +44,12 @@ template <class Op, int Len, class T, class A, class B>
 VORM_INLINE void smallObjects(const A& a, const B& b, const VectorArray<T, Adjacent>& dst, int count)
 {
     if constexpr (!(isRun<A> && isRun<B>)) {
-        if (isPacked(a, Len) && isPacked(b, Len) && isPacked(dst, Len)) return packedBlocks<Op, Len>(a, b, dst, count);
+        if (isPacked(a, Len) && isPacked(b, Len) && isPacked(dst, Len)) {
+            if constexpr (std::is_same_v<B, ConstantArray<T>>) {
+                if (b.stride0 == int{sizeof(T)}) return packedBlocks<Op, Len>(a, ConstantRow<T>{b.p}, dst, count);
+            }
+            return packedBlocks<Op, Len>(a, b, dst, count);
+        }
     }
     if constexpr (Len == 3 && sizeof(T) == sizeof(float)) {
         if (inSlots(a) && inSlots(b)) return slotObjects<Op>(a, b, dst, count);
@@ -56,6 +61,62 @@ template <class Op, int Len, class T, class A, class B>
 VORM_INLINE void smallObjects(const A& a, const B& b, const VectorList<T, Adjacent>& dst, int count)
 {
     eachObject<Op, SmallVector<T, Len>>(a, b, dst, 0, count);
+}
+
+// What a run of a few registers reads, register by register: a common vector stays where it was loaded.
+template <class T, int Registers, class View>
+struct Held {
+    VORM_INLINE explicit Held(const View&) {}
+    template <class Source>
+    VORM_INLINE Lanes<T> part(const Source& source, int k) const
+    {
+        return source.lanes(k * Lanes<T>::width);
+    }
+};
+template <class T, int Registers>
+struct Held<T, Registers, Vector<const T, Adjacent>> {
+    Lanes<T> v[Registers];
+    VORM_INLINE explicit Held(const Vector<const T, Adjacent>& view)
+    {
+        for (int k = 0; k < Registers; ++k) v[k] = Lanes<T>::load(view.p + k * Lanes<T>::width);
+    }
+    template <class Source>
+    VORM_INLINE Lanes<T> part(const Source&, int k) const
+    {
+        return v[k];
+    }
+};
+
+// Objects of a few registers and a tail.
+template <class Op, int Registers, class T, class A, class B, class D>
+VORM_INLINE void mediumObjects(const A& a, const B& b, const D& dst, int len, int count)
+{
+    const Held<T, Registers, A> heldA(a);
+    const Held<T, Registers, B> heldB(b);
+    for (int n = 0; n < count; ++n) {
+        const auto sourceA = runSource<T>(a, n);
+        const auto sourceB = runSource<T>(b, n);
+        T* const p = dst.object(n);
+        for (int k = 0; k < Registers; ++k)
+            Op::apply(heldA.part(sourceA, k), heldB.part(sourceB, k)).store(p + k * Lanes<T>::width);
+        runTail<Op>(sourceA, sourceB, p, Registers * Lanes<T>::width, len);
+    }
+}
+
+// All other lengths. Not inlined, to keep the small sizes free of its registers.
+template <class Op, class A, class B, class T, template <class, class> class Dst>
+[[gnu::noinline]] VormStatus longObjects(A a, B b, Dst<T, Adjacent> dst, int len, int count)
+{
+    switch (len / Lanes<T>::width) {
+    case 1: mediumObjects<Op, 1, T>(a, b, dst, len, count); break;
+    case 2: mediumObjects<Op, 2, T>(a, b, dst, len, count); break;
+    case 3: mediumObjects<Op, 3, T>(a, b, dst, len, count); break;
+    case 4: mediumObjects<Op, 4, T>(a, b, dst, len, count); break;
+    case 8: mediumObjects<Op, 8, T>(a, b, dst, len, count); break;
+    default:
+        for (int n = 0; n < count; ++n) run<Op>(runSource<T>(a, n), runSource<T>(b, n), dst.object(n), len);
+    }
+    return StatusOk;
 }
 
 template <class Op, class A, class B, class T, template <class, class> class Dst>
@@ -72,13 +133,13 @@ VORM_INLINE VormStatus contiguousObjects(const A& a, const B& b, const Dst<T, Ad
     case 4: smallObjects<Op, 4>(a, b, dst, count); break;
     case 5: smallObjects<Op, 5>(a, b, dst, count); break;
     case 6: smallObjects<Op, 6>(a, b, dst, count); break;
-    default:
-        for (int n = 0; n < count; ++n) run<Op>(runSource<T>(a, n), runSource<T>(b, n), dst.object(n), len);
+    default: return longObjects<Op>(a, b, dst, len, count);
     }
     return StatusOk;
 }
 
-// The single shapes behave as a loop over ascending elements, however their operands overlap.
+// The single shapes: beyond the small sizes they behave as a loop over ascending elements, however their
+// operands overlap.
 template <class Op, class T, class A, class B>
 VORM_INLINE VormStatus contiguousObject(const A& a, const B& b, const Vector<T, Adjacent>& dst, int len)
 {
@@ -164,7 +225,8 @@ VORM_INLINE VormStatus pointerObjects(const A& a, const B& b, const VectorArrayP
     if (!(worthwhile && inPlanes(a) && inPlanes(b) && inPlanes(dst) && planesDisjoint(dst, len, count)))
         return anyStride<Op>(a, b, dst, len, count);
 
-    constexpr int objectsAtOnce = 1024;  // what is read again for each element stays in the cache
+    // Whole planes, unless constants are read again for each of them and are to stay in the cache.
+    const int objectsAtOnce = isConstant<A> || isConstant<B> ? 1024 : count;
     for (int n = 0; n < count; n += objectsAtOnce) {
         const int objects = std::min(objectsAtOnce, count - n);
         for (int i = 0; i < len; ++i)

@@ -9,6 +9,31 @@
 
 namespace vorm {
 
+// Constants side by side, so that a register of them is one load.
+template <class T>
+struct ConstantRow {
+    static constexpr bool isCommon = false;
+    const T* p;
+    T operator()(int n, int) const { return elementAt(p, n * std::ptrdiff_t{sizeof(T)}); }
+};
+template <class T>
+constexpr bool isConstant<ConstantRow<T>> = true;
+
+// The constants of as many objects as a register has lanes.
+template <class T>
+VORM_INLINE Lanes<T> blockOf(const ConstantRow<T>& constants, int n)
+{
+    return Lanes<T>::load(constants.p + n);
+}
+template <class T>
+VORM_INLINE Lanes<T> blockOf(const ConstantArray<T>& constants, int n)
+{
+    if constexpr (sizeof(T) == sizeof(float))
+        return _mm_setr_ps(constants(n, 0), constants(n + 1, 0), constants(n + 2, 0), constants(n + 3, 0));
+    else
+        return _mm_setr_pd(constants(n, 0), constants(n + 1, 0));
+}
+
 // As many objects as a register has lanes make a block of Len registers: lane k of register j is
 // element (width j + k) % Len of object (width j + k) / Len.
 template <class T, int Len, class View>
@@ -21,9 +46,15 @@ struct Block<T, Len, VectorArray<U, Adjacent>> {
     VORM_INLINE void enter(int) {}
     VORM_INLINE void leave() { p += Len * Lanes<T>::width; }
     template <int j>
-    VORM_INLINE Lanes<T> get() const { return Lanes<T>::load(p + j * Lanes<T>::width); }
+    VORM_INLINE Lanes<T> get() const
+    {
+        return Lanes<T>::load(p + j * Lanes<T>::width);
+    }
     template <int j>
-    VORM_INLINE void put(Lanes<T> v) const { v.store(p + j * Lanes<T>::width); }
+    VORM_INLINE void put(Lanes<T> v) const
+    {
+        v.store(p + j * Lanes<T>::width);
+    }
 };
 
 template <class T, int Len>
@@ -38,21 +69,19 @@ struct Block<T, Len, Vector<const T, Adjacent>> {
     VORM_INLINE void enter(int) {}
     VORM_INLINE void leave() {}
     template <int j>
-    VORM_INLINE Lanes<T> get() const { return tile[j]; }
+    VORM_INLINE Lanes<T> get() const
+    {
+        return tile[j];
+    }
 };
 
-template <class T, int Len>
-struct Block<T, Len, ConstantArray<T>> {  // the constants of the block's objects, spread over their elements
-    ConstantArray<T> view;
+template <class T, int Len, class View>
+requires isConstant<View>
+struct Block<T, Len, View> {  // the constants of the block's objects, spread over their elements
+    View view;
     Lanes<T> constants;
-    VORM_INLINE explicit Block(const ConstantArray<T>& view_) : view(view_) {}
-    VORM_INLINE void enter(int n)
-    {
-        if constexpr (sizeof(T) == sizeof(float))
-            constants = _mm_setr_ps(view(n, 0), view(n + 1, 0), view(n + 2, 0), view(n + 3, 0));
-        else
-            constants = _mm_setr_pd(view(n, 0), view(n + 1, 0));
-    }
+    VORM_INLINE explicit Block(const View& view_) : view(view_) {}
+    VORM_INLINE void enter(int n) { constants = blockOf(view, n); }
     VORM_INLINE void leave() {}
     template <int j>
     VORM_INLINE Lanes<T> get() const
@@ -60,7 +89,8 @@ struct Block<T, Len, ConstantArray<T>> {  // the constants of the block's object
         constexpr int width = Lanes<T>::width;
         constexpr auto object = [](int k) { return (width * j + k) / Len; };
         if constexpr (width == 4)
-            return _mm_shuffle_ps(constants.v, constants.v, object(0) | object(1) << 2 | object(2) << 4 | object(3) << 6);
+            return _mm_shuffle_ps(constants.v, constants.v,
+                                  object(0) | object(1) << 2 | object(2) << 4 | object(3) << 6);
         else
             return _mm_shuffle_pd(constants.v, constants.v, object(0) | object(1) << 1);
     }
@@ -77,9 +107,11 @@ VORM_INLINE void packedBlocks(const A& a, const B& b, const VectorArray<T, Adjac
         Block<T, Len, VectorArray<T, Adjacent>> blockDst(dst);
         for (int n = 0; n < inBlocks; n += width) {
             blockA.enter(n), blockB.enter(n);
-            [&]<int... j>(std::integer_sequence<int, j...>) VORM_INLINE_LAMBDA {
+            [&]<int... j>(std::integer_sequence<int, j...>) VORM_INLINE_LAMBDA
+            {
                 (..., blockDst.template put<j>(Op::apply(blockA.template get<j>(), blockB.template get<j>())));
-            }(std::make_integer_sequence<int, Len>{});
+            }
+            (std::make_integer_sequence<int, Len>{});
             blockA.leave(), blockB.leave(), blockDst.leave();
         }
     }
@@ -99,8 +131,11 @@ VORM_INLINE bool isPacked(const View&, int)
 }
 
 // Packed arrays with nothing that repeats: one run through all objects.
-template <class View> constexpr bool isRun = false;
-template <class T> constexpr bool isRun<VectorArray<T, Adjacent>> = true;
-template <class T> constexpr bool isRun<Constant<T>> = true;
+template <class View>
+constexpr bool isRun = false;
+template <class T>
+constexpr bool isRun<VectorArray<T, Adjacent>> = true;
+template <class T>
+constexpr bool isRun<Constant<T>> = true;
 
 }  // namespace vorm

@@ -8,24 +8,26 @@
 #include "frame/team.hpp"
 
 // The operands by layout, in the order and with the names of the exported prototypes.
-#define VAC_PARAMS(T)                                                                             \
-    const T *pSrc, int srcStride0, int srcStride2, T val, T *pDst, int dstStride0, int dstStride2,\
-    int len, int count
+#define VAC_PARAMS(T) \
+    const T *pSrc, int srcStride0, int srcStride2, T val, T *pDst, int dstStride0, int dstStride2, int len, int count
 #define VAC_ARGS pSrc, srcStride0, srcStride2, val, pDst, dstStride0, dstStride2, len, count
-#define VAC_PARAMS_L(T)                                                                           \
-    const T *const *ppSrc, int srcShift, int srcStride2, T val, T *const *ppDst, int dstShift,    \
-    int dstStride2, int len, int count
+#define VAC_PARAMS_L(T)                                                                                        \
+    const T *const *ppSrc, int srcShift, int srcStride2, T val, T *const *ppDst, int dstShift, int dstStride2, \
+        int len, int count
 #define VAC_ARGS_L ppSrc, srcShift, srcStride2, val, ppDst, dstShift, dstStride2, len, count
-#define VAC_PARAMS_P(T)                                                                           \
-    const T *const *ppSrc, int srcShift, int srcStride0, T val, T *const *ppDst, int dstShift,    \
-    int dstStride0, int len, int count
+#define VAC_PARAMS_P(T)                                                                                        \
+    const T *const *ppSrc, int srcShift, int srcStride0, T val, T *const *ppDst, int dstShift, int dstStride0, \
+        int len, int count
 #define VAC_ARGS_P ppSrc, srcShift, srcStride0, val, ppDst, dstShift, dstStride0, len, count
 
 namespace vorm {
 
-template <class T> using VacLayer = VormStatus(VAC_PARAMS(T));
-template <class T> using VacLayerL = VormStatus(VAC_PARAMS_L(T));
-template <class T> using VacLayerP = VormStatus(VAC_PARAMS_P(T));
+template <class T>
+using VacLayer = VormStatus(VAC_PARAMS(T));
+template <class T>
+using VacLayerL = VormStatus(VAC_PARAMS_L(T));
+template <class T>
+using VacLayerP = VormStatus(VAC_PARAMS_P(T));
 
 // (2 count + 1) len. cva measures its objects alone: 2 count.
 enum class Work { elements, objects };

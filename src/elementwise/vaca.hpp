@@ -8,27 +8,27 @@
 #include "frame/team.hpp"
 
 // The operands by layout, in the order and with the names of the exported prototypes.
-#define VACA_PARAMS(T)                                                                            \
-    const T *pSrc, int srcStride0, int srcStride2, const T *pVal, int valStride0, T *pDst,        \
-    int dstStride0, int dstStride2, int len, int count
-#define VACA_ARGS                                                                                 \
-    pSrc, srcStride0, srcStride2, pVal, valStride0, pDst, dstStride0, dstStride2, len, count
-#define VACA_PARAMS_L(T)                                                                          \
-    const T *const *ppSrc, int srcShift, int srcStride2, const T *const *ppVal, int valShift,     \
-    T *const *ppDst, int dstShift, int dstStride2, int len, int count
-#define VACA_ARGS_L                                                                               \
-    ppSrc, srcShift, srcStride2, ppVal, valShift, ppDst, dstShift, dstStride2, len, count
-#define VACA_PARAMS_P(T)                                                                          \
-    const T *const *ppSrc, int srcShift, int srcStride0, const T *pVal, int valStride0,           \
-    T *const *ppDst, int dstShift, int dstStride0, int len, int count
-#define VACA_ARGS_P                                                                               \
-    ppSrc, srcShift, srcStride0, pVal, valStride0, ppDst, dstShift, dstStride0, len, count
+#define VACA_PARAMS(T)                                                                                     \
+    const T *pSrc, int srcStride0, int srcStride2, const T *pVal, int valStride0, T *pDst, int dstStride0, \
+        int dstStride2, int len, int count
+#define VACA_ARGS pSrc, srcStride0, srcStride2, pVal, valStride0, pDst, dstStride0, dstStride2, len, count
+#define VACA_PARAMS_L(T)                                                                                       \
+    const T *const *ppSrc, int srcShift, int srcStride2, const T *const *ppVal, int valShift, T *const *ppDst, \
+        int dstShift, int dstStride2, int len, int count
+#define VACA_ARGS_L ppSrc, srcShift, srcStride2, ppVal, valShift, ppDst, dstShift, dstStride2, len, count
+#define VACA_PARAMS_P(T)                                                                                               \
+    const T *const *ppSrc, int srcShift, int srcStride0, const T *pVal, int valStride0, T *const *ppDst, int dstShift, \
+        int dstStride0, int len, int count
+#define VACA_ARGS_P ppSrc, srcShift, srcStride0, pVal, valStride0, ppDst, dstShift, dstStride0, len, count
 
 namespace vorm {
 
-template <class T> using VacaLayer = VormStatus(VACA_PARAMS(T));
-template <class T> using VacaLayerL = VormStatus(VACA_PARAMS_L(T));
-template <class T> using VacaLayerP = VormStatus(VACA_PARAMS_P(T));
+template <class T>
+using VacaLayer = VormStatus(VACA_PARAMS(T));
+template <class T>
+using VacaLayerL = VormStatus(VACA_PARAMS_L(T));
+template <class T>
+using VacaLayerP = VormStatus(VACA_PARAMS_P(T));
 
 // count (2 len + 1)
 constexpr int vacaWork(int len, int count) { return wrapMul(count, wrapAdd(wrapMul(2, len), 1)); }

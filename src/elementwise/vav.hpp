@@ -9,27 +9,27 @@
 #include "frame/team.hpp"
 
 // The operands by layout, in the order and with the names of the exported prototypes.
-#define VAV_PARAMS(T)                                                                             \
-    const T *pSrc1, int src1Stride0, int src1Stride2, const T *pSrc2, int src2Stride2, T *pDst,   \
-    int dstStride0, int dstStride2, int len, int count
-#define VAV_ARGS                                                                                  \
-    pSrc1, src1Stride0, src1Stride2, pSrc2, src2Stride2, pDst, dstStride0, dstStride2, len, count
-#define VAV_PARAMS_L(T)                                                                           \
-    const T *const *ppSrc1, int src1Shift, int src1Stride2, const T *pSrc2, int src2Stride2,      \
-    T *const *ppDst, int dstShift, int dstStride2, int len, int count
-#define VAV_ARGS_L                                                                                \
-    ppSrc1, src1Shift, src1Stride2, pSrc2, src2Stride2, ppDst, dstShift, dstStride2, len, count
-#define VAV_PARAMS_P(T)                                                                           \
-    const T *const *ppSrc1, int src1Shift, int src1Stride0, const T *const *ppSrc2, int src2Shift,\
-    T *const *ppDst, int dstShift, int dstStride0, int len, int count
-#define VAV_ARGS_P                                                                                \
-    ppSrc1, src1Shift, src1Stride0, ppSrc2, src2Shift, ppDst, dstShift, dstStride0, len, count
+#define VAV_PARAMS(T)                                                                                           \
+    const T *pSrc1, int src1Stride0, int src1Stride2, const T *pSrc2, int src2Stride2, T *pDst, int dstStride0, \
+        int dstStride2, int len, int count
+#define VAV_ARGS pSrc1, src1Stride0, src1Stride2, pSrc2, src2Stride2, pDst, dstStride0, dstStride2, len, count
+#define VAV_PARAMS_L(T)                                                                                       \
+    const T *const *ppSrc1, int src1Shift, int src1Stride2, const T *pSrc2, int src2Stride2, T *const *ppDst, \
+        int dstShift, int dstStride2, int len, int count
+#define VAV_ARGS_L ppSrc1, src1Shift, src1Stride2, pSrc2, src2Stride2, ppDst, dstShift, dstStride2, len, count
+#define VAV_PARAMS_P(T)                                                                                             \
+    const T *const *ppSrc1, int src1Shift, int src1Stride0, const T *const *ppSrc2, int src2Shift, T *const *ppDst, \
+        int dstShift, int dstStride0, int len, int count
+#define VAV_ARGS_P ppSrc1, src1Shift, src1Stride0, ppSrc2, src2Shift, ppDst, dstShift, dstStride0, len, count
 
 namespace vorm {
 
-template <class T> using VavLayer = VormStatus(VAV_PARAMS(T));
-template <class T> using VavLayerL = VormStatus(VAV_PARAMS_L(T));
-template <class T> using VavLayerP = VormStatus(VAV_PARAMS_P(T));
+template <class T>
+using VavLayer = VormStatus(VAV_PARAMS(T));
+template <class T>
+using VavLayerL = VormStatus(VAV_PARAMS_L(T));
+template <class T>
+using VavLayerP = VormStatus(VAV_PARAMS_P(T));
 
 // (2 count + 1) len
 constexpr int vavWork(int len, int count) { return wrapMul(wrapAdd(wrapMul(2, count), 1), len); }
@@ -136,7 +136,8 @@ VORM_INLINE VormStatus vavEachSingle(VvLayer<T>* single, VAV_PARAMS_L(T))
 {
     const VectorList src1{ppSrc1, src1Shift, src1Stride2};
     const VectorList dst{ppDst, dstShift, dstStride2};
-    for (int n = 0; n < count; ++n) single(src1.object(n), src1Stride2, pSrc2, src2Stride2, dst.object(n), dstStride2, len);
+    for (int n = 0; n < count; ++n)
+        single(src1.object(n), src1Stride2, pSrc2, src2Stride2, dst.object(n), dstStride2, len);
     return StatusOk;
 }
 

@@ -8,30 +8,30 @@
 #include "frame/team.hpp"
 
 // The operands by layout, in the order and with the names of the exported prototypes.
-#define VAVA_PARAMS(T)                                                                            \
-    const T *pSrc1, int src1Stride0, int src1Stride2, const T *pSrc2, int src2Stride0,            \
-    int src2Stride2, T *pDst, int dstStride0, int dstStride2, int len, int count
-#define VAVA_ARGS                                                                                 \
-    pSrc1, src1Stride0, src1Stride2, pSrc2, src2Stride0, src2Stride2, pDst, dstStride0,           \
-    dstStride2, len, count
-#define VAVA_PARAMS_L(T)                                                                          \
-    const T *const *ppSrc1, int src1Shift, int src1Stride2, const T *const *ppSrc2, int src2Shift,\
-    int src2Stride2, T *const *ppDst, int dstShift, int dstStride2, int len, int count
-#define VAVA_ARGS_L                                                                               \
-    ppSrc1, src1Shift, src1Stride2, ppSrc2, src2Shift, src2Stride2, ppDst, dstShift, dstStride2,  \
-    len, count
-#define VAVA_PARAMS_P(T)                                                                          \
-    const T *const *ppSrc1, int src1Shift, int src1Stride0, const T *const *ppSrc2, int src2Shift,\
-    int src2Stride0, T *const *ppDst, int dstShift, int dstStride0, int len, int count
-#define VAVA_ARGS_P                                                                               \
-    ppSrc1, src1Shift, src1Stride0, ppSrc2, src2Shift, src2Stride0, ppDst, dstShift, dstStride0,  \
-    len, count
+#define VAVA_PARAMS(T)                                                                                           \
+    const T *pSrc1, int src1Stride0, int src1Stride2, const T *pSrc2, int src2Stride0, int src2Stride2, T *pDst, \
+        int dstStride0, int dstStride2, int len, int count
+#define VAVA_ARGS \
+    pSrc1, src1Stride0, src1Stride2, pSrc2, src2Stride0, src2Stride2, pDst, dstStride0, dstStride2, len, count
+#define VAVA_PARAMS_L(T)                                                                                            \
+    const T *const *ppSrc1, int src1Shift, int src1Stride2, const T *const *ppSrc2, int src2Shift, int src2Stride2, \
+        T *const *ppDst, int dstShift, int dstStride2, int len, int count
+#define VAVA_ARGS_L \
+    ppSrc1, src1Shift, src1Stride2, ppSrc2, src2Shift, src2Stride2, ppDst, dstShift, dstStride2, len, count
+#define VAVA_PARAMS_P(T)                                                                                            \
+    const T *const *ppSrc1, int src1Shift, int src1Stride0, const T *const *ppSrc2, int src2Shift, int src2Stride0, \
+        T *const *ppDst, int dstShift, int dstStride0, int len, int count
+#define VAVA_ARGS_P \
+    ppSrc1, src1Shift, src1Stride0, ppSrc2, src2Shift, src2Stride0, ppDst, dstShift, dstStride0, len, count
 
 namespace vorm {
 
-template <class T> using VavaLayer = VormStatus(VAVA_PARAMS(T));
-template <class T> using VavaLayerL = VormStatus(VAVA_PARAMS_L(T));
-template <class T> using VavaLayerP = VormStatus(VAVA_PARAMS_P(T));
+template <class T>
+using VavaLayer = VormStatus(VAVA_PARAMS(T));
+template <class T>
+using VavaLayerL = VormStatus(VAVA_PARAMS_L(T));
+template <class T>
+using VavaLayerP = VormStatus(VAVA_PARAMS_P(T));
 
 // 3 count len
 constexpr int vavaWork(int len, int count) { return wrapMul(3, count, len); }
@@ -44,7 +44,8 @@ VORM_INLINE VormStatus vavaChecked(VavaLayer<T>* driver, VavaLayer<T>* kernel, V
     if (anyNull(pSrc1, pSrc2, pDst)) return StatusNullPointer;
     if (count < 1) return StatusBadCount;
     if (len < 1) return StatusBadSize;
-    if (anyBadStride<T>(src1Stride0, src1Stride2, src2Stride0, src2Stride2, dstStride0, dstStride2)) return StatusBadStride;
+    if (anyBadStride<T>(src1Stride0, src1Stride2, src2Stride0, src2Stride2, dstStride0, dstStride2))
+        return StatusBadStride;
 
     if (vavaWork(len, count) > teamLimit) return driver(VAVA_ARGS);
     if (contiguous<T>(src1Stride2, src2Stride2, dstStride2)) return kernel(VAVA_ARGS);
@@ -142,7 +143,8 @@ VORM_INLINE VormStatus vavaEachSingle(VvLayer<T>* single, VAVA_PARAMS_L(T))
     const VectorList src1{ppSrc1, src1Shift, src1Stride2};
     const VectorList src2{ppSrc2, src2Shift, src2Stride2};
     const VectorList dst{ppDst, dstShift, dstStride2};
-    for (int n = 0; n < count; ++n) single(src1.object(n), src1Stride2, src2.object(n), src2Stride2, dst.object(n), dstStride2, len);
+    for (int n = 0; n < count; ++n)
+        single(src1.object(n), src1Stride2, src2.object(n), src2Stride2, dst.object(n), dstStride2, len);
     return StatusOk;
 }
 

@@ -9,14 +9,15 @@
 // The operands by layout, in the order and with the names of the exported prototypes.
 #define VC_PARAMS(T) const T *pSrc, int srcStride2, T val, T *pDst, int dstStride2, int len
 #define VC_ARGS pSrc, srcStride2, val, pDst, dstStride2, len
-#define VC_PARAMS_P(T)                                                                            \
-    const T *const *ppSrc, int srcShift, T val, T *const *ppDst, int dstShift, int len
+#define VC_PARAMS_P(T) const T *const *ppSrc, int srcShift, T val, T *const *ppDst, int dstShift, int len
 #define VC_ARGS_P ppSrc, srcShift, val, ppDst, dstShift, len
 
 namespace vorm {
 
-template <class T> using VcLayer = VormStatus(VC_PARAMS(T));
-template <class T> using VcLayerP = VormStatus(VC_PARAMS_P(T));
+template <class T>
+using VcLayer = VormStatus(VC_PARAMS(T));
+template <class T>
+using VcLayerP = VormStatus(VC_PARAMS_P(T));
 
 // Public layers. ----------------------------------------------------------------------------------
 

@@ -8,24 +8,27 @@
 #include "frame/team.hpp"
 
 // The operands by layout, in the order and with the names of the exported prototypes.
-#define VCA_PARAMS(T)                                                                             \
-    const T *pSrc, int srcStride2, const T *pVal, int valStride0, T *pDst, int dstStride0,        \
-    int dstStride2, int len, int count
+#define VCA_PARAMS(T)                                                                                               \
+    const T *pSrc, int srcStride2, const T *pVal, int valStride0, T *pDst, int dstStride0, int dstStride2, int len, \
+        int count
 #define VCA_ARGS pSrc, srcStride2, pVal, valStride0, pDst, dstStride0, dstStride2, len, count
-#define VCA_PARAMS_L(T)                                                                           \
-    const T *pSrc, int srcStride2, const T *const *ppVal, int valShift, T *const *ppDst,          \
-    int dstShift, int dstStride2, int len, int count
+#define VCA_PARAMS_L(T)                                                                                                \
+    const T *pSrc, int srcStride2, const T *const *ppVal, int valShift, T *const *ppDst, int dstShift, int dstStride2, \
+        int len, int count
 #define VCA_ARGS_L pSrc, srcStride2, ppVal, valShift, ppDst, dstShift, dstStride2, len, count
-#define VCA_PARAMS_P(T)                                                                           \
-    const T *const *ppSrc, int srcShift, const T *pVal, int valStride0, T *const *ppDst,          \
-    int dstShift, int dstStride0, int len, int count
+#define VCA_PARAMS_P(T)                                                                                                \
+    const T *const *ppSrc, int srcShift, const T *pVal, int valStride0, T *const *ppDst, int dstShift, int dstStride0, \
+        int len, int count
 #define VCA_ARGS_P ppSrc, srcShift, pVal, valStride0, ppDst, dstShift, dstStride0, len, count
 
 namespace vorm {
 
-template <class T> using VcaLayer = VormStatus(VCA_PARAMS(T));
-template <class T> using VcaLayerL = VormStatus(VCA_PARAMS_L(T));
-template <class T> using VcaLayerP = VormStatus(VCA_PARAMS_P(T));
+template <class T>
+using VcaLayer = VormStatus(VCA_PARAMS(T));
+template <class T>
+using VcaLayerL = VormStatus(VCA_PARAMS_L(T));
+template <class T>
+using VcaLayerP = VormStatus(VCA_PARAMS_P(T));
 
 // len count + len + count
 constexpr int vcaWork(int len, int count) { return wrapAdd(wrapMul(len, count), len, count); }

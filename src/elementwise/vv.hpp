@@ -6,19 +6,18 @@
 #include "frame/checks.hpp"
 
 // The operands by layout, in the order and with the names of the exported prototypes.
-#define VV_PARAMS(T)                                                                              \
-    const T *pSrc1, int src1Stride2, const T *pSrc2, int src2Stride2, T *pDst, int dstStride2,    \
-    int len
+#define VV_PARAMS(T) const T *pSrc1, int src1Stride2, const T *pSrc2, int src2Stride2, T *pDst, int dstStride2, int len
 #define VV_ARGS pSrc1, src1Stride2, pSrc2, src2Stride2, pDst, dstStride2, len
-#define VV_PARAMS_P(T)                                                                            \
-    const T *const *ppSrc1, int src1Shift, const T *const *ppSrc2, int src2Shift, T *const *ppDst,\
-    int dstShift, int len
+#define VV_PARAMS_P(T) \
+    const T *const *ppSrc1, int src1Shift, const T *const *ppSrc2, int src2Shift, T *const *ppDst, int dstShift, int len
 #define VV_ARGS_P ppSrc1, src1Shift, ppSrc2, src2Shift, ppDst, dstShift, len
 
 namespace vorm {
 
-template <class T> using VvLayer = VormStatus(VV_PARAMS(T));
-template <class T> using VvLayerP = VormStatus(VV_PARAMS_P(T));
+template <class T>
+using VvLayer = VormStatus(VV_PARAMS(T));
+template <class T>
+using VvLayerP = VormStatus(VV_PARAMS_P(T));
 
 // Public layers. ----------------------------------------------------------------------------------
 

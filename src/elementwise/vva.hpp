@@ -9,27 +9,27 @@
 #include "frame/team.hpp"
 
 // The operands by layout, in the order and with the names of the exported prototypes.
-#define VVA_PARAMS(T)                                                                             \
-    const T *pSrc1, int src1Stride2, const T *pSrc2, int src2Stride0, int src2Stride2, T *pDst,   \
-    int dstStride0, int dstStride2, int len, int count
-#define VVA_ARGS                                                                                  \
-    pSrc1, src1Stride2, pSrc2, src2Stride0, src2Stride2, pDst, dstStride0, dstStride2, len, count
-#define VVA_PARAMS_L(T)                                                                           \
-    const T *pSrc1, int src1Stride2, const T *const *ppSrc2, int src2Shift, int src2Stride2,      \
-    T *const *ppDst, int dstShift, int dstStride2, int len, int count
-#define VVA_ARGS_L                                                                                \
-    pSrc1, src1Stride2, ppSrc2, src2Shift, src2Stride2, ppDst, dstShift, dstStride2, len, count
-#define VVA_PARAMS_P(T)                                                                           \
-    const T *const *ppSrc1, int src1Shift, const T *const *ppSrc2, int src2Shift, int src2Stride0,\
-    T *const *ppDst, int dstShift, int dstStride0, int len, int count
-#define VVA_ARGS_P                                                                                \
-    ppSrc1, src1Shift, ppSrc2, src2Shift, src2Stride0, ppDst, dstShift, dstStride0, len, count
+#define VVA_PARAMS(T)                                                                                           \
+    const T *pSrc1, int src1Stride2, const T *pSrc2, int src2Stride0, int src2Stride2, T *pDst, int dstStride0, \
+        int dstStride2, int len, int count
+#define VVA_ARGS pSrc1, src1Stride2, pSrc2, src2Stride0, src2Stride2, pDst, dstStride0, dstStride2, len, count
+#define VVA_PARAMS_L(T)                                                                                       \
+    const T *pSrc1, int src1Stride2, const T *const *ppSrc2, int src2Shift, int src2Stride2, T *const *ppDst, \
+        int dstShift, int dstStride2, int len, int count
+#define VVA_ARGS_L pSrc1, src1Stride2, ppSrc2, src2Shift, src2Stride2, ppDst, dstShift, dstStride2, len, count
+#define VVA_PARAMS_P(T)                                                                                             \
+    const T *const *ppSrc1, int src1Shift, const T *const *ppSrc2, int src2Shift, int src2Stride0, T *const *ppDst, \
+        int dstShift, int dstStride0, int len, int count
+#define VVA_ARGS_P ppSrc1, src1Shift, ppSrc2, src2Shift, src2Stride0, ppDst, dstShift, dstStride0, len, count
 
 namespace vorm {
 
-template <class T> using VvaLayer = VormStatus(VVA_PARAMS(T));
-template <class T> using VvaLayerL = VormStatus(VVA_PARAMS_L(T));
-template <class T> using VvaLayerP = VormStatus(VVA_PARAMS_P(T));
+template <class T>
+using VvaLayer = VormStatus(VVA_PARAMS(T));
+template <class T>
+using VvaLayerL = VormStatus(VVA_PARAMS_L(T));
+template <class T>
+using VvaLayerP = VormStatus(VVA_PARAMS_P(T));
 
 // (2 count + 1) len
 constexpr int vvaWork(int len, int count) { return wrapMul(wrapAdd(wrapMul(2, count), 1), len); }
@@ -136,7 +136,8 @@ VORM_INLINE VormStatus vvaEachSingle(VvLayer<T>* single, VVA_PARAMS_L(T))
 {
     const VectorList src2{ppSrc2, src2Shift, src2Stride2};
     const VectorList dst{ppDst, dstShift, dstStride2};
-    for (int n = 0; n < count; ++n) single(pSrc1, src1Stride2, src2.object(n), src2Stride2, dst.object(n), dstStride2, len);
+    for (int n = 0; n < count; ++n)
+        single(pSrc1, src1Stride2, src2.object(n), src2Stride2, dst.object(n), dstStride2, len);
     return StatusOk;
 }
 

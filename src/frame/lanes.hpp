@@ -11,8 +11,10 @@
 
 namespace vorm {
 
-template <class T> struct Lanes;
-template <class T> struct LaneMask;
+template <class T>
+struct Lanes;
+template <class T>
+struct LaneMask;
 
 template <>
 struct LaneMask<float> {

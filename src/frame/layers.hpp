@@ -11,10 +11,10 @@
 #define VORM_INLINE_LAMBDA __attribute__((always_inline))
 
 // No layer is inlined into another one, even within a module: the step between them stays a jump.
-#define VORM_LAYERS(name, parameters)                                                              \
-    VORM_LAYER VormStatus n8_##name parameters;         /* public layer                        */  \
-    VORM_LAYER VormStatus n8_ownOMP_##name parameters;  /* team-parallel driver                */  \
-    VORM_LAYER VormStatus n8_own##name parameters;      /* kernel: contiguous, or the only one */  \
-    VORM_LAYER VormStatus n8_own##name##_S2 parameters; /* any-stride kernel, standard layout  */  \
+#define VORM_LAYERS(name, parameters)                                                             \
+    VORM_LAYER VormStatus n8_##name parameters;         /* public layer                        */ \
+    VORM_LAYER VormStatus n8_ownOMP_##name parameters;  /* team-parallel driver                */ \
+    VORM_LAYER VormStatus n8_own##name parameters;      /* kernel: contiguous, or the only one */ \
+    VORM_LAYER VormStatus n8_own##name##_S2 parameters; /* any-stride kernel, standard layout  */ \
     VORM_LAYER VormStatus n8_own##name##S2 parameters;  /* any-stride kernel, list layout      */
 #define VORM_LAYER VORM_HIDDEN __attribute__((noinline))

@@ -11,7 +11,8 @@ namespace vorm {
 
 // One element wherever it lies.
 template <class T>
-struct [[gnu::packed, gnu::may_alias]] Loose {
+struct [[gnu::packed, gnu::may_alias]] Loose
+{
     T value;
     operator T() const { return value; }
     Loose& operator=(T v)

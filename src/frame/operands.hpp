@@ -132,7 +132,10 @@ struct MatrixArrayPointers {  // ma; width is that of the stored matrix
     T* const* pp;
     int shift, stride0, width;
     T* element(int r, int c) const { return advance(pp[std::ptrdiff_t{r} * width + c], shift); }
-    decltype(auto) operator()(int n, int r, int c) const { return elementAt(element(r, c), std::ptrdiff_t{n} * stride0); }
+    decltype(auto) operator()(int n, int r, int c) const
+    {
+        return elementAt(element(r, c), std::ptrdiff_t{n} * stride0);
+    }
 };
 
 // Transposed: any matrix view read with its indices swapped. -------------------------------------
@@ -170,19 +173,33 @@ struct ConstantList {  // ca, list layout
 };
 
 // clang 14 deduces no aggregates by itself.
-template <class T, class Step> Vector(T*, Step) -> Vector<T, Step>;
-template <class T, class Step> VectorArray(T*, int, Step) -> VectorArray<T, Step>;
-template <class T, class Step> Matrix(T*, int, Step) -> Matrix<T, Step>;
-template <class T, class Step> MatrixArray(T*, int, int, Step) -> MatrixArray<T, Step>;
-template <class T, class Step> VectorList(T* const*, int, Step) -> VectorList<T, Step>;
-template <class T, class Step> MatrixList(T* const*, int, int, Step) -> MatrixList<T, Step>;
-template <class T> VectorPointers(T* const*, int) -> VectorPointers<T>;
-template <class T> VectorArrayPointers(T* const*, int, int) -> VectorArrayPointers<T>;
-template <class T> MatrixPointers(T* const*, int, int) -> MatrixPointers<T>;
-template <class T> MatrixArrayPointers(T* const*, int, int, int) -> MatrixArrayPointers<T>;
-template <class Stored> Transposed(Stored) -> Transposed<Stored>;
-template <class T> Constant(T) -> Constant<T>;
-template <class T> ConstantArray(const T*, int) -> ConstantArray<T>;
-template <class T> ConstantList(const T* const*, int) -> ConstantList<T>;
+template <class T, class Step>
+Vector(T*, Step) -> Vector<T, Step>;
+template <class T, class Step>
+VectorArray(T*, int, Step) -> VectorArray<T, Step>;
+template <class T, class Step>
+Matrix(T*, int, Step) -> Matrix<T, Step>;
+template <class T, class Step>
+MatrixArray(T*, int, int, Step) -> MatrixArray<T, Step>;
+template <class T, class Step>
+VectorList(T* const*, int, Step) -> VectorList<T, Step>;
+template <class T, class Step>
+MatrixList(T* const*, int, int, Step) -> MatrixList<T, Step>;
+template <class T>
+VectorPointers(T* const*, int) -> VectorPointers<T>;
+template <class T>
+VectorArrayPointers(T* const*, int, int) -> VectorArrayPointers<T>;
+template <class T>
+MatrixPointers(T* const*, int, int) -> MatrixPointers<T>;
+template <class T>
+MatrixArrayPointers(T* const*, int, int, int) -> MatrixArrayPointers<T>;
+template <class Stored>
+Transposed(Stored) -> Transposed<Stored>;
+template <class T>
+Constant(T) -> Constant<T>;
+template <class T>
+ConstantArray(const T*, int) -> ConstantArray<T>;
+template <class T>
+ConstantList(const T* const*, int) -> ConstantList<T>;
 
 }  // namespace vorm

@@ -7,15 +7,24 @@ namespace vorm {
 
 struct Add {
     template <class Number>
-    VORM_INLINE static Number apply(Number a, Number b) { return a + b; }
+    VORM_INLINE static Number apply(Number a, Number b)
+    {
+        return a + b;
+    }
 };
 struct Sub {
     template <class Number>
-    VORM_INLINE static Number apply(Number a, Number b) { return a - b; }
+    VORM_INLINE static Number apply(Number a, Number b)
+    {
+        return a - b;
+    }
 };
 struct SubFrom {  // the constant shapes name their vector first: constant minus element
     template <class Number>
-    VORM_INLINE static Number apply(Number a, Number b) { return b - a; }
+    VORM_INLINE static Number apply(Number a, Number b)
+    {
+        return b - a;
+    }
 };
 
 }  // namespace vorm

@@ -48,10 +48,12 @@ VORM_INLINE VormStatus inTeam(int count, const Work& work, std::size_t scratchPe
 #pragma omp barrier
         const int t = omp_get_thread_num();
         const bool larger = t < chunkExtra;  // the first chunkExtra threads take one object more
-        const Chunk chunk{larger ? t * (chunkBase + 1) : chunkExtra * (chunkBase + 1) + (t - chunkExtra) * chunkBase,
-                          larger ? chunkBase + 1 : chunkBase, t,
-                          scratchPerThread ? scratch.bytes() + static_cast<std::size_t>(t) * scratchPerThread : nullptr};
-        const VormStatus status = work(chunk);
+        const Chunk chunk{
+            larger ? t * (chunkBase + 1) : chunkExtra * (chunkBase + 1) + (t - chunkExtra) * chunkBase,
+            larger ? chunkBase + 1 : chunkBase, t,
+            scratchPerThread ? scratch.bytes() + static_cast<std::size_t>(t) * scratchPerThread : nullptr};
+        // A team may turn out larger than asked for by the count.
+        const VormStatus status = chunk.objects > 0 ? work(chunk) : StatusOk;
         if constexpr (kernels == Kernels::canFail) {
 #pragma omp critical
             if (sharedStatus == StatusOk) sharedStatus = status;

@@ -10,7 +10,10 @@ namespace vorm {
 
 struct Mul {
     template <class Number>
-    VORM_INLINE static Number apply(Number a, Number b) { return a * b; }
+    VORM_INLINE static Number apply(Number a, Number b)
+    {
+        return a * b;
+    }
 };
 struct Min {  // b where they are equal or unordered, as the processor's own minimum
     VORM_INLINE static Lanes<float> apply(Lanes<float> a, Lanes<float> b) { return _mm_min_ps(a.v, b.v); }
@@ -24,7 +27,8 @@ template <class Op, int Len>
 VORM_INLINE VormStatus elements(const float* pSrc1, const float* pSrc2, float* pDst)
 {
     using V = SmallVector<float, Len>;
-    combine<Op>(V::load(Vector{pSrc1, adjacent}, 0), V::load(Vector{pSrc2, adjacent}, 0)).store(Vector{pDst, adjacent}, 0);
+    combine<Op>(V::load(Vector{pSrc1, adjacent}, 0), V::load(Vector{pSrc2, adjacent}, 0))
+        .store(Vector{pDst, adjacent}, 0);
     return StatusOk;
 }
 

@@ -18,5 +18,4 @@ VormStatus n8_vormAdd_v4_32f(const float* pSrc1, const float* pSrc2, float* pDst
 {
     return elements<Add, 4>(pSrc1, pSrc2, pDst);
 }
-
 }

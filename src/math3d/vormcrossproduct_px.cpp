@@ -34,10 +34,11 @@ VormStatus n8_vormCrossProduct_v4_32f(const float* a, const float* b, const floa
 {
     // The order within each minor is part of the result's rounding; a minor of (c, b) is c_i b_j - c_j b_i.
     at(pDst, 0) = minor2(b, c, 2, 3) * at(a, 1) - minor2(c, b, 3, 1) * at(a, 2) + minor2(c, b, 2, 1) * at(a, 3);
-    at(pDst, 1) = 0.0f - (minor2(b, c, 2, 3) * at(a, 0) - minor2(c, b, 3, 0) * at(a, 2) + minor2(c, b, 2, 0) * at(a, 3));
+    at(pDst, 1) =
+        0.0f - (minor2(b, c, 2, 3) * at(a, 0) - minor2(c, b, 3, 0) * at(a, 2) + minor2(c, b, 2, 0) * at(a, 3));
     at(pDst, 2) = minor2(c, b, 3, 1) * at(a, 0) - minor2(c, b, 3, 0) * at(a, 1) + minor2(c, b, 1, 0) * at(a, 3);
-    at(pDst, 3) = 0.0f - (minor2(c, b, 2, 1) * at(a, 0) - minor2(c, b, 2, 0) * at(a, 1) + minor2(c, b, 1, 0) * at(a, 2));
+    at(pDst, 3) =
+        0.0f - (minor2(c, b, 2, 1) * at(a, 0) - minor2(c, b, 2, 0) * at(a, 1) + minor2(c, b, 1, 0) * at(a, 2));
     return StatusOk;
 }
-
 }

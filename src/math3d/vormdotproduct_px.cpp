@@ -28,5 +28,4 @@ VORM_HIDDEN VormStatus vormMul_v3_32f(const float* pSrc1, const float* pSrc2, fl
     at(pDst, 0) = dot<3>(pSrc1, pSrc2);
     return StatusOk;
 }
-
 }

@@ -21,5 +21,4 @@ VormStatus n8_vormLenSqr_v4_32f(const float* pSrc, float* pDst)
     at(pDst, 0) = dot<4>(pSrc, pSrc);
     return StatusOk;
 }
-
 }

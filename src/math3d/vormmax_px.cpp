@@ -18,5 +18,4 @@ VormStatus n8_vormMax_v4_32f(const float* pSrc1, const float* pSrc2, float* pDst
 {
     return elements<Max, 4>(pSrc1, pSrc2, pDst);
 }
-
 }

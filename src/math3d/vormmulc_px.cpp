@@ -21,5 +21,4 @@ extern "C" {
 VormStatus n8_vormMulC_v2_32f(const float* pSrc, float* pDst, float val) { return timesConstant<2>(pSrc, pDst, val); }
 VormStatus n8_vormMulC_v3_32f(const float* pSrc, float* pDst, float val) { return timesConstant<3>(pSrc, pDst, val); }
 VormStatus n8_vormMulC_v4_32f(const float* pSrc, float* pDst, float val) { return timesConstant<4>(pSrc, pDst, val); }
-
 }

@@ -19,5 +19,4 @@ VormStatus n8_vormNormalize_v4_32f(const float* pSrc, float* pDst)
     // Unlike the other lengths, the first element comes last.
     return divideByLength<4>(pSrc, dot<3>(pSrc + 1, pSrc + 1) + at(pSrc, 0) * at(pSrc, 0), pDst);
 }
-
 }

@@ -18,5 +18,4 @@ VormStatus n8_vormSub_v4_32f(const float* pSrc1, const float* pSrc2, float* pDst
 {
     return elements<Sub, 4>(pSrc1, pSrc2, pDst);
 }
-
 }

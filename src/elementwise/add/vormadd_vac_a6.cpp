@@ -8,5 +8,4 @@ extern "C" {
 
 VormStatus n8_ownvormAdd_vac_32f(VAC_PARAMS(float)) { return vacContiguous<Add>(VAC_ARGS); }
 VormStatus n8_ownvormAdd_vac_32f_L(VAC_PARAMS_L(float)) { return vacContiguousL<Add>(VAC_ARGS_L); }
-
 }

@@ -8,5 +8,4 @@ extern "C" {
 
 VormStatus n8_ownvormAdd_vaca_32f(VACA_PARAMS(float)) { return vacaContiguous<Add>(VACA_ARGS); }
 VormStatus n8_ownvormAdd_vaca_32f_L(VACA_PARAMS_L(float)) { return vacaContiguousL<Add>(VACA_ARGS_L); }
-
 }

@@ -30,5 +30,4 @@ VormStatus n8_ownOMP_vormAdd_vaca_64f_P(VACA_PARAMS_P(double))
 {
     return vacaTeamP(n8_ownvormAdd_vaca_64f_P, VACA_ARGS_P);
 }
-
 }

@@ -40,5 +40,4 @@ VormStatus n8_ownvormAdd_vaca_32f_LS2(VACA_PARAMS_L(float)) { return vacaAnyStri
 VormStatus n8_ownvormAdd_vaca_64f_LS2(VACA_PARAMS_L(double)) { return vacaAnyStrideL<Add>(VACA_ARGS_L); }
 VormStatus n8_ownvormAdd_vaca_32f_P(VACA_PARAMS_P(float)) { return vacaPointers<Add>(VACA_ARGS_P); }
 VormStatus n8_ownvormAdd_vaca_64f_P(VACA_PARAMS_P(double)) { return vacaPointers<Add>(VACA_ARGS_P); }
-
 }

@@ -8,5 +8,4 @@ extern "C" {
 
 VormStatus n8_ownvormAdd_vav_32f(VAV_PARAMS(float)) { return vavContiguous<Add>(VAV_ARGS); }
 VormStatus n8_ownvormAdd_vav_32f_L(VAV_PARAMS_L(float)) { return vavContiguousL<Add>(VAV_ARGS_L); }
-
 }

@@ -35,15 +35,11 @@ VormStatus n8_vormAdd_vav_64f_P(VAV_PARAMS_P(double))
 
 VormStatus n8_ownvormAdd_vav_32f_S2(VAV_PARAMS(float)) { return vavAnyStride<Add>(VAV_ARGS); }
 VormStatus n8_ownvormAdd_vav_64f_S2(VAV_PARAMS(double)) { return vavAnyStride<Add>(VAV_ARGS); }
-VormStatus n8_ownvormAdd_vav_32f_LS2(VAV_PARAMS_L(float))
-{
-    return vavEachSingle(n8_ownvormAdd_vv_32f_S2, VAV_ARGS_L);
-}
+VormStatus n8_ownvormAdd_vav_32f_LS2(VAV_PARAMS_L(float)) { return vavEachSingle(n8_ownvormAdd_vv_32f_S2, VAV_ARGS_L); }
 VormStatus n8_ownvormAdd_vav_64f_LS2(VAV_PARAMS_L(double))
 {
     return vavEachSingle(n8_ownvormAdd_vv_64f_S2, VAV_ARGS_L);
 }
 VormStatus n8_ownvormAdd_vav_32f_P(VAV_PARAMS_P(float)) { return vavPointers<Add>(VAV_ARGS_P); }
 VormStatus n8_ownvormAdd_vav_64f_P(VAV_PARAMS_P(double)) { return vavPointers<Add>(VAV_ARGS_P); }
-
 }

@@ -8,5 +8,4 @@ extern "C" {
 
 VormStatus n8_ownvormAdd_vav_64f(VAV_PARAMS(double)) { return vavContiguous<Add>(VAV_ARGS); }
 VormStatus n8_ownvormAdd_vav_64f_L(VAV_PARAMS_L(double)) { return vavContiguousL<Add>(VAV_ARGS_L); }
-
 }

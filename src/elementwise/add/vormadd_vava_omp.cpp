@@ -30,5 +30,4 @@ VormStatus n8_ownOMP_vormAdd_vava_64f_P(VAVA_PARAMS_P(double))
 {
     return vavaTeamP(n8_ownvormAdd_vava_64f_P, VAVA_ARGS_P);
 }
-
 }

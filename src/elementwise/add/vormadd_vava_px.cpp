@@ -45,5 +45,4 @@ VormStatus n8_ownvormAdd_vava_64f_LS2(VAVA_PARAMS_L(double))
 }
 VormStatus n8_ownvormAdd_vava_32f_P(VAVA_PARAMS_P(float)) { return vavaPointers<Add>(VAVA_ARGS_P); }
 VormStatus n8_ownvormAdd_vava_64f_P(VAVA_PARAMS_P(double)) { return vavaPointers<Add>(VAVA_ARGS_P); }
-
 }

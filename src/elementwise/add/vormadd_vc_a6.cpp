@@ -7,5 +7,4 @@ using namespace vorm;
 extern "C" {
 
 VormStatus n8_ownvormAdd_vc_32f(VC_PARAMS(float)) { return vcContiguous<Add>(VC_ARGS); }
-
 }

@@ -7,5 +7,4 @@ using namespace vorm;
 extern "C" {
 
 VormStatus n8_ownvormAdd_vc_64f(VC_PARAMS(double)) { return vcContiguous<Add>(VC_ARGS); }
-
 }

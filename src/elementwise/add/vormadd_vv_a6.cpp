@@ -7,5 +7,4 @@ using namespace vorm;
 extern "C" {
 
 VormStatus n8_ownvormAdd_vv_32f(VV_PARAMS(float)) { return vvContiguous<Add>(VV_ARGS); }
-
 }

@@ -14,18 +14,11 @@ VormStatus n8_vormAdd_vv_64f(VV_PARAMS(double))
 {
     return vvChecked(n8_ownvormAdd_vv_64f, n8_ownvormAdd_vv_64f_S2, VV_ARGS);
 }
-VormStatus n8_vormAdd_vv_32f_P(VV_PARAMS_P(float))
-{
-    return vvCheckedP(n8_ownvormAdd_vv_32f_P, VV_ARGS_P);
-}
-VormStatus n8_vormAdd_vv_64f_P(VV_PARAMS_P(double))
-{
-    return vvCheckedP(n8_ownvormAdd_vv_64f_P, VV_ARGS_P);
-}
+VormStatus n8_vormAdd_vv_32f_P(VV_PARAMS_P(float)) { return vvCheckedP(n8_ownvormAdd_vv_32f_P, VV_ARGS_P); }
+VormStatus n8_vormAdd_vv_64f_P(VV_PARAMS_P(double)) { return vvCheckedP(n8_ownvormAdd_vv_64f_P, VV_ARGS_P); }
 
 VormStatus n8_ownvormAdd_vv_32f_S2(VV_PARAMS(float)) { return vvAnyStride<Add>(VV_ARGS); }
 VormStatus n8_ownvormAdd_vv_64f_S2(VV_PARAMS(double)) { return vvAnyStride<Add>(VV_ARGS); }
 VormStatus n8_ownvormAdd_vv_32f_P(VV_PARAMS_P(float)) { return vvPointers<Add>(VV_ARGS_P); }
 VormStatus n8_ownvormAdd_vv_64f_P(VV_PARAMS_P(double)) { return vvPointers<Add>(VV_ARGS_P); }
-
 }

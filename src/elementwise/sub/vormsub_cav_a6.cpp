@@ -8,5 +8,4 @@ extern "C" {
 
 VormStatus n8_ownvormSub_cav_32f(VCA_PARAMS(float)) { return vcaContiguous<SubFrom>(VCA_ARGS); }
 VormStatus n8_ownvormSub_cav_32f_L(VCA_PARAMS_L(float)) { return vcaContiguousL<SubFrom>(VCA_ARGS_L); }
-
 }

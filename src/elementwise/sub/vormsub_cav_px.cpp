@@ -39,5 +39,4 @@ VormStatus n8_ownvormSub_cav_32f_LS2(VCA_PARAMS_L(float)) { return vcaAnyStrideL
 VormStatus n8_ownvormSub_cav_64f_LS2(VCA_PARAMS_L(double)) { return vcaAnyStrideL<SubFrom>(VCA_ARGS_L); }
 VormStatus n8_ownvormSub_cav_32f_P(VCA_PARAMS_P(float)) { return vcaPointers<SubFrom>(VCA_ARGS_P); }
 VormStatus n8_ownvormSub_cav_64f_P(VCA_PARAMS_P(double)) { return vcaPointers<SubFrom>(VCA_ARGS_P); }
-
 }

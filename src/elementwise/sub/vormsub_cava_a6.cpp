@@ -8,5 +8,4 @@ extern "C" {
 
 VormStatus n8_ownvormSub_cava_32f(VACA_PARAMS(float)) { return vacaContiguous<SubFrom>(VACA_ARGS); }
 VormStatus n8_ownvormSub_cava_32f_L(VACA_PARAMS_L(float)) { return vacaContiguousL<SubFrom>(VACA_ARGS_L); }
-
 }

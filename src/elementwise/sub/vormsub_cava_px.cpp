@@ -39,5 +39,4 @@ VormStatus n8_ownvormSub_cava_32f_LS2(VACA_PARAMS_L(float)) { return vacaAnyStri
 VormStatus n8_ownvormSub_cava_64f_LS2(VACA_PARAMS_L(double)) { return vacaAnyStrideL<SubFrom>(VACA_ARGS_L); }
 VormStatus n8_ownvormSub_cava_32f_P(VACA_PARAMS_P(float)) { return vacaPointers<SubFrom>(VACA_ARGS_P); }
 VormStatus n8_ownvormSub_cava_64f_P(VACA_PARAMS_P(double)) { return vacaPointers<SubFrom>(VACA_ARGS_P); }
-
 }

@@ -7,5 +7,4 @@ using namespace vorm;
 extern "C" {
 
 VormStatus n8_ownvormSub_cv_32f(VC_PARAMS(float)) { return vcContiguous<SubFrom>(VC_ARGS); }
-
 }

@@ -7,5 +7,4 @@ using namespace vorm;
 extern "C" {
 
 VormStatus n8_ownvormSub_cv_64f(VC_PARAMS(double)) { return vcContiguous<SubFrom>(VC_ARGS); }
-
 }

@@ -8,5 +8,4 @@ extern "C" {
 
 VormStatus n8_ownvormSub_cva_32f(VAC_PARAMS(float)) { return vacContiguous<SubFrom>(VAC_ARGS); }
 VormStatus n8_ownvormSub_cva_32f_L(VAC_PARAMS_L(float)) { return vacContiguousL<SubFrom>(VAC_ARGS_L); }
-
 }

@@ -22,13 +22,6 @@ VormStatus n8_ownOMP_vormSub_cva_64f_L(VAC_PARAMS_L(double))
 {
     return vacTeamL(n8_ownvormSub_cva_64f_L, n8_ownvormSub_cva_64f_LS2, VAC_ARGS_L);
 }
-VormStatus n8_ownOMP_vormSub_cva_32f_P(VAC_PARAMS_P(float))
-{
-    return vacTeamP(n8_ownvormSub_cva_32f_P, VAC_ARGS_P);
-}
-VormStatus n8_ownOMP_vormSub_cva_64f_P(VAC_PARAMS_P(double))
-{
-    return vacTeamP(n8_ownvormSub_cva_64f_P, VAC_ARGS_P);
-}
-
+VormStatus n8_ownOMP_vormSub_cva_32f_P(VAC_PARAMS_P(float)) { return vacTeamP(n8_ownvormSub_cva_32f_P, VAC_ARGS_P); }
+VormStatus n8_ownOMP_vormSub_cva_64f_P(VAC_PARAMS_P(double)) { return vacTeamP(n8_ownvormSub_cva_64f_P, VAC_ARGS_P); }
 }

@@ -8,5 +8,4 @@ extern "C" {
 
 VormStatus n8_ownvormSub_cva_64f(VAC_PARAMS(double)) { return vacContiguous<SubFrom>(VAC_ARGS); }
 VormStatus n8_ownvormSub_cva_64f_L(VAC_PARAMS_L(double)) { return vacContiguousL<SubFrom>(VAC_ARGS_L); }
-
 }

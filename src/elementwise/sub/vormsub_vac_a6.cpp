@@ -8,5 +8,4 @@ extern "C" {
 
 VormStatus n8_ownvormSub_vac_32f(VAC_PARAMS(float)) { return vacContiguous<Sub>(VAC_ARGS); }
 VormStatus n8_ownvormSub_vac_32f_L(VAC_PARAMS_L(float)) { return vacContiguousL<Sub>(VAC_ARGS_L); }
-
 }

@@ -41,5 +41,4 @@ VormStatus n8_ownvormSub_vac_32f_LS2(VAC_PARAMS_L(float)) { return vacAnyStrideL
 VormStatus n8_ownvormSub_vac_64f_LS2(VAC_PARAMS_L(double)) { return vacAnyStrideL<Sub>(VAC_ARGS_L); }
 VormStatus n8_ownvormSub_vac_32f_P(VAC_PARAMS_P(float)) { return vacPointers<Sub>(VAC_ARGS_P); }
 VormStatus n8_ownvormSub_vac_64f_P(VAC_PARAMS_P(double)) { return vacPointers<Sub>(VAC_ARGS_P); }
-
 }

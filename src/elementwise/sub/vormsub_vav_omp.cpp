@@ -22,13 +22,6 @@ VormStatus n8_ownOMP_vormSub_vav_64f_L(VAV_PARAMS_L(double))
 {
     return vavTeamL(n8_ownvormSub_vav_64f_L, n8_ownvormSub_vav_64f_LS2, VAV_ARGS_L);
 }
-VormStatus n8_ownOMP_vormSub_vav_32f_P(VAV_PARAMS_P(float))
-{
-    return vavTeamP(n8_ownvormSub_vav_32f_P, VAV_ARGS_P);
-}
-VormStatus n8_ownOMP_vormSub_vav_64f_P(VAV_PARAMS_P(double))
-{
-    return vavTeamP(n8_ownvormSub_vav_64f_P, VAV_ARGS_P);
-}
-
+VormStatus n8_ownOMP_vormSub_vav_32f_P(VAV_PARAMS_P(float)) { return vavTeamP(n8_ownvormSub_vav_32f_P, VAV_ARGS_P); }
+VormStatus n8_ownOMP_vormSub_vav_64f_P(VAV_PARAMS_P(double)) { return vavTeamP(n8_ownvormSub_vav_64f_P, VAV_ARGS_P); }
 }

@@ -8,5 +8,4 @@ extern "C" {
 
 VormStatus n8_ownvormSub_vava_64f(VAVA_PARAMS(double)) { return vavaContiguous<Sub>(VAVA_ARGS); }
 VormStatus n8_ownvormSub_vava_64f_L(VAVA_PARAMS_L(double)) { return vavaContiguousL<Sub>(VAVA_ARGS_L); }
-
 }

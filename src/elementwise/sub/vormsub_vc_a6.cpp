@@ -7,5 +7,4 @@ using namespace vorm;
 extern "C" {
 
 VormStatus n8_ownvormSub_vc_32f(VC_PARAMS(float)) { return vcContiguous<Sub>(VC_ARGS); }
-
 }

@@ -14,18 +14,11 @@ VormStatus n8_vormSub_vc_64f(VC_PARAMS(double))
 {
     return vcChecked(n8_ownvormSub_vc_64f, n8_ownvormSub_vc_64f_S2, VC_ARGS);
 }
-VormStatus n8_vormSub_vc_32f_P(VC_PARAMS_P(float))
-{
-    return vcCheckedP(n8_ownvormSub_vc_32f_P, VC_ARGS_P);
-}
-VormStatus n8_vormSub_vc_64f_P(VC_PARAMS_P(double))
-{
-    return vcCheckedP(n8_ownvormSub_vc_64f_P, VC_ARGS_P);
-}
+VormStatus n8_vormSub_vc_32f_P(VC_PARAMS_P(float)) { return vcCheckedP(n8_ownvormSub_vc_32f_P, VC_ARGS_P); }
+VormStatus n8_vormSub_vc_64f_P(VC_PARAMS_P(double)) { return vcCheckedP(n8_ownvormSub_vc_64f_P, VC_ARGS_P); }
 
 VormStatus n8_ownvormSub_vc_32f_S2(VC_PARAMS(float)) { return vcAnyStride<Sub>(VC_ARGS); }
 VormStatus n8_ownvormSub_vc_64f_S2(VC_PARAMS(double)) { return vcAnyStride<Sub>(VC_ARGS); }
 VormStatus n8_ownvormSub_vc_32f_P(VC_PARAMS_P(float)) { return vcPointers<Sub>(VC_ARGS_P); }
 VormStatus n8_ownvormSub_vc_64f_P(VC_PARAMS_P(double)) { return vcPointers<Sub>(VC_ARGS_P); }
-
 }

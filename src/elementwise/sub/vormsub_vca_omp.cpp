@@ -22,13 +22,6 @@ VormStatus n8_ownOMP_vormSub_vca_64f_L(VCA_PARAMS_L(double))
 {
     return vcaTeamL(n8_ownvormSub_vca_64f_L, n8_ownvormSub_vca_64f_LS2, VCA_ARGS_L);
 }
-VormStatus n8_ownOMP_vormSub_vca_32f_P(VCA_PARAMS_P(float))
-{
-    return vcaTeamP(n8_ownvormSub_vca_32f_P, VCA_ARGS_P);
-}
-VormStatus n8_ownOMP_vormSub_vca_64f_P(VCA_PARAMS_P(double))
-{
-    return vcaTeamP(n8_ownvormSub_vca_64f_P, VCA_ARGS_P);
-}
-
+VormStatus n8_ownOMP_vormSub_vca_32f_P(VCA_PARAMS_P(float)) { return vcaTeamP(n8_ownvormSub_vca_32f_P, VCA_ARGS_P); }
+VormStatus n8_ownOMP_vormSub_vca_64f_P(VCA_PARAMS_P(double)) { return vcaTeamP(n8_ownvormSub_vca_64f_P, VCA_ARGS_P); }
 }

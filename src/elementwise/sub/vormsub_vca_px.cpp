@@ -39,5 +39,4 @@ VormStatus n8_ownvormSub_vca_32f_LS2(VCA_PARAMS_L(float)) { return vcaAnyStrideL
 VormStatus n8_ownvormSub_vca_64f_LS2(VCA_PARAMS_L(double)) { return vcaAnyStrideL<Sub>(VCA_ARGS_L); }
 VormStatus n8_ownvormSub_vca_32f_P(VCA_PARAMS_P(float)) { return vcaPointers<Sub>(VCA_ARGS_P); }
 VormStatus n8_ownvormSub_vca_64f_P(VCA_PARAMS_P(double)) { return vcaPointers<Sub>(VCA_ARGS_P); }
-
 }

@@ -8,5 +8,4 @@ extern "C" {
 
 VormStatus n8_ownvormSub_vca_64f(VCA_PARAMS(double)) { return vcaContiguous<Sub>(VCA_ARGS); }
 VormStatus n8_ownvormSub_vca_64f_L(VCA_PARAMS_L(double)) { return vcaContiguousL<Sub>(VCA_ARGS_L); }
-
 }

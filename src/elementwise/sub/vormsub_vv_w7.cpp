@@ -7,5 +7,4 @@ using namespace vorm;
 extern "C" {
 
 VormStatus n8_ownvormSub_vv_64f(VV_PARAMS(double)) { return vvContiguous<Sub>(VV_ARGS); }
-
 }

@@ -22,13 +22,6 @@ VormStatus n8_ownOMP_vormSub_vva_64f_L(VVA_PARAMS_L(double))
 {
     return vvaTeamL(n8_ownvormSub_vva_64f_L, n8_ownvormSub_vva_64f_LS2, VVA_ARGS_L);
 }
-VormStatus n8_ownOMP_vormSub_vva_32f_P(VVA_PARAMS_P(float))
-{
-    return vvaTeamP(n8_ownvormSub_vva_32f_P, VVA_ARGS_P);
-}
-VormStatus n8_ownOMP_vormSub_vva_64f_P(VVA_PARAMS_P(double))
-{
-    return vvaTeamP(n8_ownvormSub_vva_64f_P, VVA_ARGS_P);
-}
-
+VormStatus n8_ownOMP_vormSub_vva_32f_P(VVA_PARAMS_P(float)) { return vvaTeamP(n8_ownvormSub_vva_32f_P, VVA_ARGS_P); }
+VormStatus n8_ownOMP_vormSub_vva_64f_P(VVA_PARAMS_P(double)) { return vvaTeamP(n8_ownvormSub_vva_64f_P, VVA_ARGS_P); }
 }

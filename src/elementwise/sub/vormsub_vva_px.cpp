@@ -35,15 +35,11 @@ VormStatus n8_vormSub_vva_64f_P(VVA_PARAMS_P(double))
 
 VormStatus n8_ownvormSub_vva_32f_S2(VVA_PARAMS(float)) { return vvaAnyStride<Sub>(VVA_ARGS); }
 VormStatus n8_ownvormSub_vva_64f_S2(VVA_PARAMS(double)) { return vvaAnyStride<Sub>(VVA_ARGS); }
-VormStatus n8_ownvormSub_vva_32f_LS2(VVA_PARAMS_L(float))
-{
-    return vvaEachSingle(n8_ownvormSub_vv_32f_S2, VVA_ARGS_L);
-}
+VormStatus n8_ownvormSub_vva_32f_LS2(VVA_PARAMS_L(float)) { return vvaEachSingle(n8_ownvormSub_vv_32f_S2, VVA_ARGS_L); }
 VormStatus n8_ownvormSub_vva_64f_LS2(VVA_PARAMS_L(double))
 {
     return vvaEachSingle(n8_ownvormSub_vv_64f_S2, VVA_ARGS_L);
 }
 VormStatus n8_ownvormSub_vva_32f_P(VVA_PARAMS_P(float)) { return vvaPointers<Sub>(VVA_ARGS_P); }
 VormStatus n8_ownvormSub_vva_64f_P(VVA_PARAMS_P(double)) { return vvaPointers<Sub>(VVA_ARGS_P); }
-
 }

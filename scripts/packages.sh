@@ -1,0 +1,19 @@
+# Sourced by the other scripts: Debian packages, installed where they are missing.
+
+ensurePackages()
+{
+    local missing=() package
+    for package in "$@"; do
+        [ "$(dpkg-query -W -f '${Status}' "$package" 2>/dev/null)" = 'install ok installed' ] || missing+=("$package")
+    done
+    if [ ${#missing[@]} -eq 0 ]; then
+        return 0
+    fi
+    echo "Installing ${missing[*]}"
+    local asRoot=()
+    if [ "$(id -u)" -ne 0 ]; then
+        asRoot=(sudo)
+    fi
+    "${asRoot[@]}" apt-get update -qq
+    "${asRoot[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"
+}
