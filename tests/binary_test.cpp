@@ -1,0 +1,114 @@
+// The built library as a file: what it exports, which layers each function has, and their machine code.
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <map>
+#include <set>
+#include <sstream>
+
+#include "catalogue.hpp"
+
+namespace {
+
+std::string outputOf(const std::string& command)
+{
+    std::string text;
+    FILE* const pipe = popen((command + " " VORM_LIBRARY).c_str(), "r");
+    if (!pipe) return text;
+    char block[65536];
+    for (std::size_t n; (n = std::fread(block, 1, sizeof block, pipe)) > 0;) text.append(block, n);
+    EXPECT_EQ(pclose(pipe), 0) << command;
+    return text;
+}
+
+// The names defined in the output of nm, by the class letters given.
+std::set<std::string> symbols(const std::string& command, const std::string& classes)
+{
+    std::set<std::string> names;
+    std::istringstream lines(outputOf(command));
+    for (std::string address, kind, name; lines >> address >> kind >> name;)
+        if (classes.find(kind) != std::string::npos) names.insert(name);
+    return names;
+}
+
+TEST(Binary, ExportsExactlyTheLists)
+{
+    std::set<std::string> wanted = {"vormGetLibVersion"};
+    for (const Function& f : catalogue()) wanted.insert(f.name);
+    EXPECT_EQ(wanted.size(), catalogue().size() + 1);
+    EXPECT_EQ(symbols("nm -D --defined-only", "TtWwVvDdBbRri"), wanted);
+}
+
+TEST(Binary, NamesAndStartUp)
+{
+    const std::string dynamic = outputOf("readelf -d");
+    EXPECT_NE(dynamic.find("soname: [libvormu8.so.7.1]"), std::string::npos);
+    EXPECT_NE(dynamic.find("Shared library: [libvorcore.so.7.1]"), std::string::npos);
+    EXPECT_EQ(std::string(VORM_LIBRARY).substr(std::string(VORM_LIBRARY).rfind('/') + 1), "libvormu8.so.7.1");
+    // The loader's initialisation function is ours.
+    std::map<std::string, std::string> addresses;
+    std::istringstream lines(outputOf("nm"));
+    for (std::string line; std::getline(lines, line);)
+        if (line.size() > 19) addresses[line.substr(19)] = line.substr(0, 16);
+    const auto init = dynamic.find("(INIT)");
+    ASSERT_NE(init, std::string::npos);
+    EXPECT_EQ(std::stoull(dynamic.substr(init + 6), nullptr, 16),
+              std::stoull(addresses["vormInitialise"], nullptr, 16));
+    EXPECT_TRUE(addresses.contains("vorJumpIndexForMergedDLL"));
+    EXPECT_TRUE(addresses.contains("vormMul_v3_32f"));
+}
+
+TEST(Binary, LayersOfEveryFunction)
+{
+    const auto names = symbols("nm --defined-only", "tTdD");
+    for (const Function& f : catalogue()) {
+        std::set<std::string> layers = {f.name + "_arraddr", "n8_" + f.name};
+        if (!f.isFixed()) {
+            layers.insert("n8_own" + f.name);
+            if (f.layout.empty()) layers.insert("n8_own" + f.name + "_S2");
+            if (f.layout == "L") layers.insert("n8_own" + f.name + "S2");
+        }
+        for (const std::string& layer : layers) EXPECT_TRUE(names.contains(layer)) << layer;
+        EXPECT_EQ(names.contains("n8_ownOMP_" + f.name), !f.isFixed() && f.isArray()) << f.name;
+    }
+}
+
+TEST(Binary, MachineCode)
+{
+#ifndef VORM_OPTIMISED
+    GTEST_SKIP() << "not an optimised build without sanitizers";
+#endif
+    std::istringstream lines(outputOf("objdump -d --no-show-raw-insn"));
+    std::map<std::string, std::vector<std::string>> functions;
+    std::vector<std::string>* current = nullptr;
+    for (std::string line; std::getline(lines, line);) {
+        const auto open = line.find('<');
+        if (line.ends_with(">:") && open != std::string::npos)
+            current = &functions[line.substr(open + 1, line.size() - open - 3)];
+        else if (current && line.find('\t') != std::string::npos)
+            current->push_back(line.substr(line.find('\t') + 1));
+    }
+    const auto instruction = [](const std::string& line) { return line.substr(0, line.find_first_of(" \t")); };
+    for (const auto& [name, code] : functions)
+        for (const std::string& line : code) {
+            // AVX and its kin: mnemonics in v (verr and verw aside), and the wider registers.
+            EXPECT_FALSE(instruction(line)[0] == 'v' || line.find("%ymm") != line.npos ||
+                         line.find("%zmm") != line.npos)
+                << name << ": " << line;
+        }
+    for (const Function& f : catalogue()) {
+        const auto& stub = functions[f.name];
+        ASSERT_GE(stub.size(), 3u) << f.name;
+        EXPECT_EQ(instruction(stub[0]) + instruction(stub[1]) + instruction(stub[2]), "movleajmp") << f.name;
+        for (std::size_t i = 3; i < stub.size(); ++i)
+            EXPECT_TRUE(stub[i].find("nop") != std::string::npos || stub[i].starts_with("xchg") ||
+                        stub[i].starts_with("int3"))
+                << f.name << ": " << stub[i];
+        const auto& layer = functions["n8_" + f.name];
+        EXPECT_GT(layer.size(), 1u) << f.name;
+        for (const std::string& line : layer) EXPECT_FALSE(line.starts_with("call")) << f.name << ": " << line;
+    }
+}
+
+}  // namespace

@@ -1,0 +1,41 @@
+// Every exported function as data, read from the lists: its name taken apart by the naming grammar,
+// its parameters with their roles, and a way to call it with arguments chosen at run time.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "vorm/vorm.h"
+
+enum class Role { pointer, table, shift, stride, size, count, value };
+
+struct Parameter {
+    Role role;
+    std::string name;     // as in the prototype: "src1Stride0"
+    std::string operand;  // whose it is: "src1", "val", "dst"; empty for sizes of the call and count
+    int stride = 0;       // 0, 1 or 2 of a stride
+};
+
+struct Argument {  // an address or a 32-bit number, or the value of a constant
+    std::intptr_t bits = 0;
+    double value = 0;
+};
+
+struct Function {
+    std::string name, family, shape, type, layout;  // "vormAdd_vav_32f_L": "Add", "vav", "32f", "L"
+    std::vector<Parameter> parameters;
+    std::function<VormStatus(const std::vector<Argument>&)> call;
+
+    int elementSize() const { return type == "32f" ? 4 : 8; }
+    bool isFixed() const { return shape.find_first_of("234") != std::string::npos; }  // v3, m4 and the like
+    bool isArray() const { return shape.find('a') != std::string::npos; }
+    // Operand kinds of the shape in order: "v", "va", "c", "ca", ...
+    std::vector<std::string> operands() const;
+    int indexOf(std::string_view parameter) const;  // -1 where there is none
+};
+
+const std::vector<Function>& catalogue();
+const Function& functionNamed(std::string_view name);

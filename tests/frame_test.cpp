@@ -1,0 +1,226 @@
+// The frame's own pieces: chunks of a team, scratch, wrapping arithmetic, views, lanes.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <atomic>
+#include <bit>
+#include <climits>
+#include <cmath>
+#include <cstring>
+#include <limits>
+#include <set>
+#include <vector>
+
+#include "frame/checks.hpp"
+#include "frame/lanes.hpp"
+#include "frame/operands.hpp"
+#include "frame/small_vector.hpp"
+#include "frame/team.hpp"
+#include "standin_core.hpp"
+
+using namespace vorm;
+
+namespace {
+
+class Team : public testing::Test {
+protected:
+    ~Team() override { standinThreads = 1; }
+    static std::vector<Chunk> chunksOf(int threads, int count, std::size_t scratch = 0)
+    {
+        standinThreads = threads;
+        std::vector<Chunk> chunks(std::size_t(std::max(threads, 1)), Chunk{-1, 0, -1, nullptr});
+        const auto work = [&](const Chunk& chunk) {
+            chunks[std::size_t(chunk.thread)] = chunk;
+            if (chunk.scratch) std::memset(chunk.scratch, chunk.thread + 1, scratch);
+            return VormStatus{StatusOk};
+        };
+        EXPECT_EQ(inTeam<Kernels::cannotFail>(count, work, scratch), StatusOk);
+        return chunks;
+    }
+};
+
+TEST_F(Team, ContiguousChunksTheFirstOnesLarger)
+{
+    const int firsts[] = {0, 3, 6, 8}, objects[] = {3, 3, 2, 2};
+    const auto chunks = chunksOf(4, 10);
+    for (std::size_t t = 0; t < 4; ++t) {
+        EXPECT_EQ(chunks[t].first, firsts[t]);
+        EXPECT_EQ(chunks[t].objects, objects[t]);
+    }
+    for (int threads : {1, 2, 3, 5, 8})
+        for (int count = threads; count < 3 * threads + 2; ++count) {
+            int next = 0;
+            for (const Chunk& chunk : chunksOf(threads, count)) {
+                EXPECT_EQ(chunk.first, next);
+                next += chunk.objects;
+            }
+            EXPECT_EQ(next, count);
+        }
+}
+
+TEST_F(Team, OneCallWithoutAFork)
+{
+    for (int threads : {-1, 0, 1, 8}) {
+        const auto chunk = chunksOf(threads, 7, 16)[0];
+        EXPECT_EQ(chunk.first, 0);
+        EXPECT_EQ(chunk.objects, 7);
+        EXPECT_EQ(chunk.scratch, nullptr);
+    }
+}
+
+TEST_F(Team, ScratchForEachThread)
+{
+    const auto chunks = chunksOf(5, 50, 4096);
+    std::set<char*> stretches;
+    for (const Chunk& chunk : chunks) stretches.insert(chunk.scratch);
+    EXPECT_EQ(stretches.size(), 5u);
+    EXPECT_FALSE(stretches.contains(nullptr));
+    for (const Chunk& chunk : chunks) EXPECT_EQ(chunk.scratch - chunks[0].scratch, 4096 * chunk.thread);
+}
+
+TEST_F(Team, FailuresStopNoOtherChunk)
+{
+    standinThreads = 6;
+    std::atomic<int> done{0};
+    const auto failing = [&](std::set<int> threads) {
+        return inTeam<Kernels::canFail>(60, [&](const Chunk& chunk) {
+            ++done;
+            return VormStatus{threads.contains(chunk.thread) ? StatusSingular : StatusOk};
+        });
+    };
+    EXPECT_EQ(failing({}), StatusOk);
+    EXPECT_EQ(failing({3}), StatusSingular);
+    EXPECT_EQ(failing({0, 1, 2, 3, 4, 5}), StatusSingular);
+    EXPECT_EQ(done, 18);
+    standinThreads = 1;
+    EXPECT_EQ(failing({0}), StatusSingular);
+}
+
+TEST(Wrapping, As32Bits)
+{
+    EXPECT_EQ(wrapMul(1 << 20, 1 << 11), INT_MIN);
+    EXPECT_EQ(wrapMul(3, 1 << 16, 1 << 15), INT_MIN);
+    EXPECT_EQ(wrapAdd(INT_MAX, 1, 1), INT_MIN + 1);
+    EXPECT_TRUE((anyBadStride<double>(8, 4)));
+    EXPECT_TRUE((anyBadStride<float>(4, INT_MIN)));
+    EXPECT_FALSE((anyBadShift<float>(0, 4)));
+    EXPECT_FALSE((contiguous<float>(4, 8, 4)));
+}
+
+// The address of every kind of operand, against the documented formula.
+TEST(Views, Addresses)
+{
+    alignas(8) static char memory[4096];
+    auto* const p = reinterpret_cast<float*>(memory);
+    const auto offset = [&](auto&& element) { return reinterpret_cast<const char*>(&element) - memory; };
+    const int n = 3, r = 2, c = 1, i = 4, s0 = 200, s1 = 40, s2 = 8, shift = 12;
+    EXPECT_EQ(offset(Vector{p, s2}(n, i)), i * s2);
+    EXPECT_EQ(offset(Vector{p, adjacent}(n, i)), i * 4);
+    EXPECT_EQ(offset(VectorArray{p, s0, s2}(n, i)), n * s0 + i * s2);
+    EXPECT_EQ(offset(Matrix{p, s1, s2}(n, r, c)), r * s1 + c * s2);
+    EXPECT_EQ(offset(MatrixArray{p, s0, s1, s2}(n, r, c)), n * s0 + r * s1 + c * s2);
+    EXPECT_EQ(offset(Transposed{Matrix{p, s1, s2}}(n, r, c)), c * s1 + r * s2);
+    EXPECT_EQ(offset(Transposed{MatrixArray{p, s0, s1, s2}}(n, r, c)), n * s0 + c * s1 + r * s2);
+
+    float* table[12];
+    for (int k = 0; k < 12; ++k) table[k] = p + (k * 37) % 100;
+    const auto entry = [&](int k) { return (k * 37) % 100 * 4 + shift; };
+    float* const* const pp = table;
+    EXPECT_EQ(offset(VectorList{pp, shift, s2}(n, i)), entry(n) + i * s2);
+    EXPECT_EQ(offset(MatrixList{pp, shift, s1, s2}(n, r, c)), entry(n) + r * s1 + c * s2);
+    EXPECT_EQ(offset(Transposed{MatrixList{pp, shift, s1, s2}}(n, r, c)), entry(n) + c * s1 + r * s2);
+    EXPECT_EQ(offset(VectorPointers{pp, shift}(n, i)), entry(i));
+    EXPECT_EQ(offset(VectorArrayPointers{pp, shift, s0}(n, i)), entry(i) + n * s0);
+    EXPECT_EQ(offset(MatrixPointers{pp, shift, 4}(n, r, c)), entry(r * 4 + c));
+    EXPECT_EQ(offset(MatrixArrayPointers{pp, shift, s0, 4}(n, r, c)), entry(r * 4 + c) + n * s0);
+    EXPECT_EQ(offset(Transposed{MatrixArrayPointers{pp, shift, s0, 4}}(n, c, r)), entry(r * 4 + c) + n * s0);
+
+    for (int k = 0; k < 1000; ++k) p[k] = float(k);
+    EXPECT_EQ(Constant{2.5f}(n, i), 2.5f);
+    EXPECT_EQ((ConstantArray<float>{p, s0}(n, i)), float(n * s0 / 4));
+    const float* const* const constants = table;
+    EXPECT_EQ((ConstantList<float>{constants, shift}(n, i)), float(entry(n) / 4));
+}
+
+// Far objects: serial addresses are formed in 64 bits.
+TEST(Views, BeyondTwoGiB)
+{
+    const VectorArray far{reinterpret_cast<float*>(4096), 1 << 20, 4};
+    EXPECT_EQ(reinterpret_cast<std::uintptr_t>(far.object(1 << 12)), 4096 + (std::uintptr_t{1} << 32));
+}
+
+template <class T>
+class LanesOf : public testing::Test {
+};
+using Types = testing::Types<float, double>;
+TYPED_TEST_SUITE(LanesOf, Types);
+
+TYPED_TEST(LanesOf, EachLaneAsTheScalar)
+{
+    using T = TypeParam;
+    using Bits = std::conditional_t<sizeof(T) == 4, std::uint32_t, std::uint64_t>;
+    constexpr int width = Lanes<T>::width;
+    const T inf = std::numeric_limits<T>::infinity(), nan = std::numeric_limits<T>::quiet_NaN();
+    const T values[] = {0, T(-0.0), 1, T(-2.5), inf, -inf, nan, std::numeric_limits<T>::denorm_min(), T(1) / 3, 7};
+    const auto same = [](T x, T y) {
+        return std::bit_cast<Bits>(x) == std::bit_cast<Bits>(y) || (std::isnan(x) && std::isnan(y));
+    };
+    for (T x : values)
+        for (T y : values) {
+            T a[width], b[width], out[width];
+            for (int k = 0; k < width; ++k) a[k] = k % 2 ? x : y, b[k] = k % 2 ? y : x;
+            const auto la = Lanes<T>::load(a), lb = Lanes<T>::load(b);
+            const auto expect = [&](Lanes<T> lanes, auto scalar) {
+                lanes.store(out);
+                for (int k = 0; k < width; ++k) EXPECT_TRUE(same(out[k], scalar(a[k], b[k]))) << a[k] << " " << b[k];
+            };
+            expect(la + lb, [](T u, T v) { return u + v; });
+            expect(la - lb, [](T u, T v) { return u - v; });
+            expect(la * lb, [](T u, T v) { return u * v; });
+            expect(la / lb, [](T u, T v) { return u / v; });
+            expect(sqrt(la), [](T u, T) { return std::sqrt(u); });
+            expect(abs(la), [](T u, T) { return std::fabs(u); });
+            expect(select(la < lb, la, lb), [](T u, T v) { return vorm::select(u < v, u, v); });
+            expect(select(la <= lb, la, lb), [](T u, T v) { return u <= v ? u : v; });
+            expect(select(la > lb, la, lb), [](T u, T v) { return u > v ? u : v; });
+            expect(select(la >= lb, la, lb), [](T u, T v) { return u >= v ? u : v; });
+            expect(select((la == lb) | (la < lb), la, Lanes<T>(T(5))), [](T u, T v) { return u <= v ? u : T(5); });
+            EXPECT_EQ(any((la < lb) & (lb < la)), false);
+            EXPECT_EQ(any(la < lb), x < y || y < x);
+        }
+}
+
+TYPED_TEST(LanesOf, TransposeTurnsObjectsIntoLanes)
+{
+    using T = TypeParam;
+    constexpr int width = Lanes<T>::width;
+    T block[width * width], turned[width * width];
+    for (int k = 0; k < width * width; ++k) block[k] = T(k);
+    Lanes<T> rows[width];
+    for (int k = 0; k < width; ++k) rows[k] = Lanes<T>::load(block + k * width);
+    transpose(rows);
+    for (int k = 0; k < width; ++k) rows[k].store(turned + k * width);
+    for (int r = 0; r < width; ++r)
+        for (int c = 0; c < width; ++c) EXPECT_EQ(turned[r * width + c], block[c * width + r]);
+}
+
+// Vectors of every small length: exactly their elements are stored, at any address.
+TYPED_TEST(LanesOf, SmallVectorsStoreTheirElementsOnly)
+{
+    using T = TypeParam;
+    const auto check = [&]<int Len>(std::integral_constant<int, Len>) {
+        for (int at = 0; at < 16; ++at) {
+            char from[96], to[96], expected[96];
+            for (std::size_t k = 0; k < 96; ++k) from[k] = char(k * 7), to[k] = expected[k] = char(k);
+            std::memcpy(expected + at, from + 3, Len * sizeof(T));
+            const Vector source{reinterpret_cast<const T*>(from + 3), adjacent};
+            SmallVector<T, Len>::load(source, 0).store(Vector{reinterpret_cast<T*>(to + at), adjacent}, 0);
+            EXPECT_EQ(std::memcmp(to, expected, 96), 0) << Len << " at " << at;
+        }
+    };
+    check(std::integral_constant<int, 3>{}), check(std::integral_constant<int, 4>{});
+    check(std::integral_constant<int, 5>{}), check(std::integral_constant<int, 6>{});
+}
+
+}  // namespace

@@ -1,0 +1,11 @@
+// What a test sets and asks of the stand-in for the companion core library.
+#pragma once
+
+#include <atomic>
+#include <cstdint>
+
+extern "C" {
+extern std::atomic<int> standinThreads;  // what ownGetNumThreads answers
+extern std::atomic<int> standinAsked;    // how often it was asked
+extern char standinLoadCalls[64];        // the calls made while libraries were loaded, a letter each
+}
