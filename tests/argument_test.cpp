@@ -137,7 +137,9 @@ TEST(Arguments, GapsAreAccepted)
     double sum;
     std::memcpy(&sum, destination + 4, 8);
     EXPECT_EQ(sum, 3);
-    EXPECT_EQ(vormSub_cav_32f_P(srcTable, 0, vals, 4, dstTable, 0, 12, 3, 3), StatusOk);
+    const auto* oddTable = reinterpret_cast<const float*>(source);
+    auto* oddOut = reinterpret_cast<float*>(destination);
+    EXPECT_EQ(vormSub_cav_32f_P(&oddTable, 2, vals, 4, &oddOut, 2, 4, 1, 1), StatusOk);
 }
 
 // The fixed forms are left out above; this keeps the exclusion from growing by itself.

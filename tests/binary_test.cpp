@@ -100,7 +100,10 @@ TEST(Binary, MachineCode)
     for (const Function& f : catalogue()) {
         const auto& stub = functions[f.name];
         ASSERT_GE(stub.size(), 3u) << f.name;
-        EXPECT_EQ(instruction(stub[0]) + instruction(stub[1]) + instruction(stub[2]), "movleajmp") << f.name;
+        EXPECT_TRUE(stub[0].starts_with("mov ") && stub[0].find("<vorJumpIndexForMergedDLL>") != std::string::npos &&
+                    stub[1].starts_with("lea ") && stub[1].find("<" + f.name + "_arraddr>") != std::string::npos &&
+                    stub[2].starts_with("jmp "))
+            << f.name << ": " << stub[0] << "; " << stub[1] << "; " << stub[2];
         for (std::size_t i = 3; i < stub.size(); ++i)
             EXPECT_TRUE(stub[i].find("nop") != std::string::npos || stub[i].starts_with("xchg") ||
                         stub[i].starts_with("int3"))
