@@ -2,8 +2,6 @@
 // of additions, in all layouts, with operands that end or begin at an unmapped page.
 
 #include <gtest/gtest.h>
-#include <sys/mman.h>
-#include <unistd.h>
 
 #include <cmath>
 #include <cstring>
@@ -11,6 +9,7 @@
 #include <tuple>
 #include <vector>
 
+#include "guarded.hpp"
 #include "vorcore/vorcore.h"
 #include "vorm/vorm.h"
 
@@ -28,13 +27,15 @@ bool isContiguous(Layout layout) { return layout == Layout::contiguous || layout
 
 // The members of a shape by kind. ----------------------------------------------------------------
 
-template <class T> struct Members;
+template <class T>
+struct Members;
 #define KINDS(a, b, c, d, suffix)                                                          \
     {                                                                                      \
         vormMul_##a##suffix, vormMul_##b##suffix, vormMul_##c##suffix, vormMul_##d##suffix \
     }
 #define MEMBERS(T, type)                                                                          \
-    template <> struct Members<T> {                                                               \
+    template <>                                                                                   \
+    struct Members<T> {                                                                           \
         decltype(&vormMul_mm_##type) single[4] = KINDS(mm, mt, tm, tt, _##type);                  \
         decltype(&vormMul_mm_##type##_P) singleP[4] = KINDS(mm, mt, tm, tt, _##type##_P);         \
         decltype(&vormMul_mam_##type) first[4] = KINDS(mam, mat, tam, tat, _##type);              \
@@ -54,38 +55,30 @@ MEMBERS(double, 64f)
 
 enum class Against { pageBefore, pageBehind };
 
-class Guarded {
+class Placed : public Guarded {
 public:
-    Guarded(std::size_t bytes, Against against) : page_(static_cast<std::size_t>(sysconf(_SC_PAGESIZE)))
+    Placed(std::size_t bytes, Against against)
+        : Guarded(bytes), place(Guarded::data() + (against == Against::pageBehind ? size() - bytes : 0))
     {
-        const std::size_t inner = (bytes + page_ - 1) / page_ * page_;
-        size_ = inner + 2 * page_;
-        base_ = static_cast<char*>(mmap(nullptr, size_, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
-        mprotect(base_ + page_, inner, PROT_READ | PROT_WRITE);
-        data_ = base_ + page_ + (against == Against::pageBehind ? inner - bytes : 0);
-        std::memset(base_ + page_, 0xA5, inner);
+        std::memset(Guarded::data(), 0xA5, size());
     }
-    ~Guarded() { munmap(base_, size_); }
-    Guarded(const Guarded&) = delete;
-    Guarded& operator=(const Guarded&) = delete;
-
-    char* data() const { return data_; }
-    std::vector<char> image() const { return {base_ + page_, base_ + size_ - page_}; }
-    char* imageBase() const { return base_ + page_; }
+    char* data() const { return place; }
+    char* imageBase() const { return Guarded::data(); }
+    std::vector<char> image() const { return {imageBase(), imageBase() + size()}; }
 
 private:
-    std::size_t page_, size_;
-    char *base_, *data_;
+    char* place;
 };
 
 // One operand: count objects of height rows and width columns somewhere in guarded memory.
-template <class T> struct Operand {
+template <class T>
+struct Operand {
     static constexpr int e = sizeof(T);
     int width, height, count;
     bool isArray;
     Layout layout;
     int stride0, stride1, stride2, shift = 0;
-    Guarded memory;
+    Placed memory;
     std::vector<T*> table;
 
     Operand(int width_, int height_, int count_, bool isArray_, Layout layout_, Against against, int padding)
@@ -129,7 +122,8 @@ template <class T> struct Operand {
         return v;
     }
     void set(int n, int r, int c, T v) const { std::memcpy(address(n, r, c), &v, sizeof v); }
-    template <class Value> void fill(Value value) const
+    template <class Value>
+    void fill(Value value) const
     {
         for (int n = 0; n < count; ++n)
             for (int r = 0; r < height; ++r)
@@ -176,7 +170,11 @@ private:
 
 // The documented order of additions. ------------------------------------------------------------------
 
-template <class T> T foldLanes(const T* s) { return (s[0] + s[1]) + (s[2] + s[3]); }
+template <class T>
+T foldLanes(const T* s)
+{
+    return (s[0] + s[1]) + (s[2] + s[3]);
+}
 
 template <class T, class Product>
 T expected(Kind kind, Shape shape, Layout layout, int m, int n, int terms, int i, Product product)
@@ -231,7 +229,8 @@ std::ostream& operator<<(std::ostream& out, const Problem& p)
                << " padding " << p.padding;
 }
 
-template <class T, class Value> void check(const Problem& p, Value value)
+template <class T, class Value>
+void check(const Problem& p, Value value)
 {
     const bool transposed1 = p.kind == tm || p.kind == tt, transposed2 = p.kind == mt || p.kind == tt;
     const bool array1 = p.shape == Shape::firstArray || p.shape == Shape::bothArrays;
@@ -293,7 +292,8 @@ template <class T, class Value> void check(const Problem& p, Value value)
     ASSERT_EQ(dst.memory.image(), image) << p << ": bytes between the elements were written";
 }
 
-template <class T> class MatrixProducts : public testing::Test {
+template <class T>
+class MatrixProducts : public testing::Test {
 protected:
     // Numbers of either sign, some of them zeros of either sign.
     void checkRandom(const Problem& p)

@@ -10,12 +10,18 @@
 namespace vorm {
 
 // Views whose stored rows are contiguous, and views that are read transposed.
-template <class View> constexpr bool adjacentRows = false;
-template <class T> constexpr bool adjacentRows<Matrix<T, Adjacent>> = true;
-template <class T> constexpr bool adjacentRows<MatrixArray<T, Adjacent>> = true;
-template <class T> constexpr bool adjacentRows<MatrixList<T, Adjacent>> = true;
-template <class View> constexpr bool isTransposed = false;
-template <class Stored> constexpr bool isTransposed<Transposed<Stored>> = true;
+template <class View>
+constexpr bool adjacentRows = false;
+template <class T>
+constexpr bool adjacentRows<Matrix<T, Adjacent>> = true;
+template <class T>
+constexpr bool adjacentRows<MatrixArray<T, Adjacent>> = true;
+template <class T>
+constexpr bool adjacentRows<MatrixList<T, Adjacent>> = true;
+template <class View>
+constexpr bool isTransposed = false;
+template <class Stored>
+constexpr bool isTransposed<Transposed<Stored>> = true;
 
 // One lane in all lanes.
 template <int lane>
@@ -24,7 +30,10 @@ VORM_INLINE Lanes<float> splat(Lanes<float> a)
     return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(a.v), lane * 0x55));
 }
 template <int lane>
-VORM_INLINE Lanes<double> splat(Lanes<double> a) { return _mm_shuffle_pd(a.v, a.v, lane * 3); }
+VORM_INLINE Lanes<double> splat(Lanes<double> a)
+{
+    return _mm_shuffle_pd(a.v, a.v, lane * 3);
+}
 VORM_INLINE float firstLane(Lanes<float> a) { return _mm_cvtss_f32(a.v); }
 VORM_INLINE double firstLane(Lanes<double> a) { return _mm_cvtsd_f64(a.v); }
 
@@ -47,7 +56,8 @@ VORM_INLINE Lanes<float> loadTwice(const float* p)
 // How the rows of a matrix of order n lie in registers: as many full ones as fit, then one for the
 // rest, in which the one or two elements left over repeat: 4 4 4 4 or 4 5 4 5 behind 0 1 2 3. Three
 // floats are a register whose last lane is undefined.
-template <class T, int n> struct SmallMatrix {
+template <class T, int n>
+struct SmallMatrix {
     static constexpr int width = Lanes<T>::width;
     static constexpr bool lastLaneUndefined = n < width;
     static constexpr int full = lastLaneUndefined ? 1 : n / width;  // registers of a row without its rest

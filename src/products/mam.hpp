@@ -33,12 +33,16 @@
 
 namespace vorm {
 
-template <class T> using MamLayer = VormStatus(MAM_PARAMS(T));
-template <class T> using MamLayerL = VormStatus(MAM_PARAMS_L(T));
-template <class T> using MamLayerP = VormStatus(MAM_PARAMS_P(T));
+template <class T>
+using MamLayer = VormStatus(MAM_PARAMS(T));
+template <class T>
+using MamLayerL = VormStatus(MAM_PARAMS_L(T));
+template <class T>
+using MamLayerP = VormStatus(MAM_PARAMS_P(T));
 
 // W2 H2 + (N + K) M count
-template <class Kind> constexpr int mamWork(int src1Width, int src1Height, int src2Width, int src2Height, int count)
+template <class Kind>
+constexpr int mamWork(int src1Width, int src1Height, int src2Width, int src2Height, int count)
 {
     const Lengths d = Kind::lengths(src1Width, src1Height, src2Width, src2Height);
     return wrapAdd(wrapMul(src2Width, src2Height), wrapMul(wrapAdd(d.n, d.k), d.m, count));
@@ -58,9 +62,10 @@ VORM_INLINE VormStatus mamChecked(MamLayer<T>* driver, MamLayer<T>* kernel, MamL
         return StatusBadStride;
 
     const int work = mamWork<Kind>(src1Width, src1Height, src2Width, src2Height, count);
-    if (contiguous<T>(src1Stride2, src2Stride2, dstStride2))
-        return work > teamLimit ? driver(MAM_ARGS) : kernel(MAM_ARGS);
-    return work > teamLimitAnyStride ? driver(MAM_ARGS) : kernelS2(MAM_ARGS);
+    const bool isContiguous = contiguous<T>(src1Stride2, src2Stride2, dstStride2);
+    if (work > (isContiguous ? teamLimit : teamLimitAnyStride)) return driver(MAM_ARGS);
+    if (isContiguous) return kernel(MAM_ARGS);
+    return kernelS2(MAM_ARGS);
 }
 
 template <class Kind, class T>
@@ -75,9 +80,10 @@ VORM_INLINE VormStatus mamCheckedL(MamLayerL<T>* driver, MamLayerL<T>* kernel, M
     if (anyBadShift<T>(src1Shift, dstShift)) return StatusBadShift;
 
     const int work = mamWork<Kind>(src1Width, src1Height, src2Width, src2Height, count);
-    if (contiguous<T>(src1Stride2, src2Stride2, dstStride2))
-        return work > teamLimitList ? driver(MAM_ARGS_L) : kernel(MAM_ARGS_L);
-    return work > teamLimitAnyStride ? driver(MAM_ARGS_L) : kernelS2(MAM_ARGS_L);
+    const bool isContiguous = contiguous<T>(src1Stride2, src2Stride2, dstStride2);
+    if (work > (isContiguous ? teamLimitList : teamLimitAnyStride)) return driver(MAM_ARGS_L);
+    if (isContiguous) return kernel(MAM_ARGS_L);
+    return kernelS2(MAM_ARGS_L);
 }
 
 template <class Kind, class T>
@@ -91,7 +97,8 @@ VORM_INLINE VormStatus mamCheckedP(MamLayerP<T>* driver, MamLayerP<T>* kernel, M
     if (anyBadShift<T>(src1Shift, src2Shift, dstShift)) return StatusBadShift;
 
     const int work = mamWork<Kind>(src1Width, src1Height, src2Width, src2Height, count);
-    return work > teamLimitPointers ? driver(MAM_ARGS_P) : kernel(MAM_ARGS_P);
+    if (work > teamLimitPointers) return driver(MAM_ARGS_P);
+    return kernel(MAM_ARGS_P);
 }
 
 // Drivers. ----------------------------------------------------------------------------------------

@@ -37,12 +37,16 @@
 
 namespace vorm {
 
-template <class T> using MamaLayer = VormStatus(MAMA_PARAMS(T));
-template <class T> using MamaLayerL = VormStatus(MAMA_PARAMS_L(T));
-template <class T> using MamaLayerP = VormStatus(MAMA_PARAMS_P(T));
+template <class T>
+using MamaLayer = VormStatus(MAMA_PARAMS(T));
+template <class T>
+using MamaLayerL = VormStatus(MAMA_PARAMS_L(T));
+template <class T>
+using MamaLayerP = VormStatus(MAMA_PARAMS_P(T));
 
 // ((N + K) M + W2 H2) count
-template <class Kind> constexpr int mamaWork(int src1Width, int src1Height, int src2Width, int src2Height, int count)
+template <class Kind>
+constexpr int mamaWork(int src1Width, int src1Height, int src2Width, int src2Height, int count)
 {
     const Lengths d = Kind::lengths(src1Width, src1Height, src2Width, src2Height);
     return wrapMul(wrapAdd(wrapMul(wrapAdd(d.n, d.k), d.m), wrapMul(src2Width, src2Height)), count);
@@ -62,14 +66,15 @@ VORM_INLINE VormStatus mamaChecked(MamaLayer<T>* driver, MamaLayer<T>* kernel, M
         return StatusBadStride;
 
     const int work = mamaWork<Kind>(src1Width, src1Height, src2Width, src2Height, count);
-    if (contiguous<T>(src1Stride2, src2Stride2, dstStride2))
-        return work > teamLimit ? driver(MAMA_ARGS) : kernel(MAMA_ARGS);
-    return work > teamLimitAnyStride ? driver(MAMA_ARGS) : kernelS2(MAMA_ARGS);
+    const bool isContiguous = contiguous<T>(src1Stride2, src2Stride2, dstStride2);
+    if (work > (isContiguous ? teamLimit : teamLimitAnyStride)) return driver(MAMA_ARGS);
+    if (isContiguous) return kernel(MAMA_ARGS);
+    return kernelS2(MAMA_ARGS);
 }
 
 template <class Kind, class T>
-VORM_INLINE VormStatus mamaCheckedL(MamaLayerL<T>* driver, MamaLayerL<T>* kernel,
-                                                                   MamaLayerL<T>* kernelS2, MAMA_PARAMS_L(T))
+VORM_INLINE VormStatus mamaCheckedL(MamaLayerL<T>* driver, MamaLayerL<T>* kernel, MamaLayerL<T>* kernelS2,
+                                    MAMA_PARAMS_L(T))
 {
     if (anyNull(ppSrc1, ppSrc2, ppDst)) return StatusNullPointer;
     if (count < 1) return StatusBadCount;
@@ -80,9 +85,10 @@ VORM_INLINE VormStatus mamaCheckedL(MamaLayerL<T>* driver, MamaLayerL<T>* kernel
     if (anyBadShift<T>(src1Shift, src2Shift, dstShift)) return StatusBadShift;
 
     const int work = mamaWork<Kind>(src1Width, src1Height, src2Width, src2Height, count);
-    if (contiguous<T>(src1Stride2, src2Stride2, dstStride2))
-        return work > teamLimitList ? driver(MAMA_ARGS_L) : kernel(MAMA_ARGS_L);
-    return work > teamLimitAnyStride ? driver(MAMA_ARGS_L) : kernelS2(MAMA_ARGS_L);
+    const bool isContiguous = contiguous<T>(src1Stride2, src2Stride2, dstStride2);
+    if (work > (isContiguous ? teamLimitList : teamLimitAnyStride)) return driver(MAMA_ARGS_L);
+    if (isContiguous) return kernel(MAMA_ARGS_L);
+    return kernelS2(MAMA_ARGS_L);
 }
 
 template <class Kind, class T>
@@ -96,7 +102,8 @@ VORM_INLINE VormStatus mamaCheckedP(MamaLayerP<T>* driver, MamaLayerP<T>* kernel
     if (anyBadShift<T>(src1Shift, src2Shift, dstShift)) return StatusBadShift;
 
     const int work = mamaWork<Kind>(src1Width, src1Height, src2Width, src2Height, count);
-    return work > teamLimitPointers ? driver(MAMA_ARGS_P) : kernel(MAMA_ARGS_P);
+    if (work > teamLimitPointers) return driver(MAMA_ARGS_P);
+    return kernel(MAMA_ARGS_P);
 }
 
 // Drivers. ----------------------------------------------------------------------------------------

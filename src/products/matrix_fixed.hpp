@@ -16,20 +16,27 @@ namespace vorm {
 // matrix_tiles.hpp).
 enum class Order { leftToRight, asInTiles };
 
-template <class T, int n> constexpr int grouped = sizeof(T) == sizeof(float) ? SmallMatrix<T, n>::rest : 0;
-template <class T, int n> constexpr int groupRows = Lanes<T>::width / std::max(grouped<T, n>, 1);
-template <class T, int n> constexpr int groups = grouped<T, n> ? n / groupRows<T, n> : 0;
+template <class T, int n>
+constexpr int grouped = sizeof(T) == sizeof(float) ? SmallMatrix<T, n>::rest : 0;
+template <class T, int n>
+constexpr int groupRows = Lanes<T>::width / std::max(grouped<T, n>, 1);
+template <class T, int n>
+constexpr int groups = grouped<T, n> ? n / groupRows<T, n> : 0;
 
 // The elements of A: get<i, k> is A(i, k) in all lanes, group<g, k> has those of a group's rows, each
 // in the lanes of its row. -----------------------------------------------------------------------------
 
 // Out of memory, element by element.
-template <class T, int n, class View> struct FactorsInMemory {
+template <class T, int n, class View>
+struct FactorsInMemory {
     View view;
     int object;
 
     template <int i, int k>
-    VORM_INLINE Lanes<T> get() const { return T(view(object, i, k)); }
+    VORM_INLINE Lanes<T> get() const
+    {
+        return T(view(object, i, k));
+    }
     template <int g, int k>
     VORM_INLINE Lanes<T> group() const
     {
@@ -39,7 +46,8 @@ template <class T, int n, class View> struct FactorsInMemory {
 };
 
 // Out of the rows of A.
-template <int n, class View> struct FactorsInRows {
+template <int n, class View>
+struct FactorsInRows {
     using Small = SmallMatrix<float, n>;
     const View& view;
     int object;
@@ -60,16 +68,16 @@ template <int n, class View> struct FactorsInRows {
     template <int g, int k>
     VORM_INLINE Lanes<float> group() const
     {
-        if constexpr (Small::rest == 1)
-            return columns[k];
-        else
-            return _mm_shuffle_ps(Small::template load<2 * g, k / 4>(view, object).v,
-                                  Small::template load<2 * g + 1, k / 4>(view, object).v, k % 4 * 0x55);
+        if constexpr (Small::rest == 1) return columns[k];
+        const Lanes<float> first = Small::template load<2 * g, k / 4>(view, object);
+        const Lanes<float> second = Small::template load<2 * g + 1, k / 4>(view, object);
+        return _mm_shuffle_ps(first.v, second.v, k % 4 * 0x55);
     }
 };
 
 // Out of the columns of A, which are the rows of the stored matrix.
-template <int n, class Stored> struct FactorsInColumns {
+template <int n, class Stored>
+struct FactorsInColumns {
     using Small = SmallMatrix<float, n>;
     Lanes<float> columns[Small::parts][n];
     VORM_INLINE FactorsInColumns(const Stored& stored, int object)
@@ -79,7 +87,10 @@ template <int n, class Stored> struct FactorsInColumns {
     }
 
     template <int i, int k>
-    VORM_INLINE Lanes<float> get() const { return splat<i % 4>(columns[i / 4][k]); }
+    VORM_INLINE Lanes<float> get() const
+    {
+        return splat<i % 4>(columns[i / 4][k]);
+    }
     template <int g, int k>
     VORM_INLINE Lanes<float> group() const
     {
@@ -91,7 +102,8 @@ template <int n, class Stored> struct FactorsInColumns {
 };
 
 // Prepared once for all objects.
-template <class T, int n> struct FactorsPrepared {
+template <class T, int n>
+struct FactorsPrepared {
     Lanes<T> all[n][n], inGroups[std::max(groups<T, n>, 1)][n];
     template <class View>
     VORM_INLINE explicit FactorsPrepared(const View& view)
@@ -104,14 +116,21 @@ template <class T, int n> struct FactorsPrepared {
     }
 
     template <int i, int k>
-    VORM_INLINE Lanes<T> get() const { return all[i][k]; }
+    VORM_INLINE Lanes<T> get() const
+    {
+        return all[i][k];
+    }
     template <int g, int k>
-    VORM_INLINE Lanes<T> group() const { return inGroups[g][k]; }
+    VORM_INLINE Lanes<T> group() const
+    {
+        return inGroups[g][k];
+    }
 };
 
 // The operands of the products of an array, by object. What all objects share is loaded once. ----------
 
-template <class T, int n, class View> struct Factors {
+template <class T, int n, class View>
+struct Factors {
     View view;
     VORM_INLINE auto operator()(int object) const
     {
@@ -127,7 +146,8 @@ struct Factors<float, n, Transposed<Stored>> {
     Transposed<Stored> view;
     VORM_INLINE auto operator()(int object) const { return FactorsInColumns<n, Stored>(view.stored, object); }
 };
-template <class T, int n, class View> struct CommonFactors {
+template <class T, int n, class View>
+struct CommonFactors {
     View view;
     FactorsPrepared<T, n> prepared;
     VORM_INLINE explicit CommonFactors(const View& view_) : view(view_), prepared(view_) {}
@@ -135,7 +155,8 @@ template <class T, int n, class View> struct CommonFactors {
 };
 
 // Parts of the rows of B: v[p][k] is part p of row k.
-template <class T, int n> struct RowParts {
+template <class T, int n>
+struct RowParts {
     static constexpr int parts = SmallMatrix<T, n>::parts;
     Lanes<T> v[parts][n];
     template <int from, int to, class View>
@@ -148,7 +169,8 @@ template <class T, int n> struct RowParts {
         return rows;
     }
 };
-template <class T, int n, class View> struct Rows {
+template <class T, int n, class View>
+struct Rows {
     View view;
     template <int from, int to>
     VORM_INLINE RowParts<T, n> load(int object) const
@@ -156,7 +178,8 @@ template <class T, int n, class View> struct Rows {
         return RowParts<T, n>::template load<from, to>(view, object);
     }
 };
-template <class T, int n, class View> struct CommonRows {
+template <class T, int n, class View>
+struct CommonRows {
     View view;
     RowParts<T, n> all;
     VORM_INLINE explicit CommonRows(const View& view_)
@@ -164,7 +187,10 @@ template <class T, int n, class View> struct CommonRows {
     {
     }
     template <int, int>
-    VORM_INLINE const RowParts<T, n>& load(int) const { return all; }
+    VORM_INLINE const RowParts<T, n>& load(int) const
+    {
+        return all;
+    }
 };
 
 // ------------------------------------------------------------------------------------------------------
@@ -191,7 +217,8 @@ VORM_INLINE auto sumOf(const Term& term)
 }
 
 // The parts of a row, as one number.
-template <class T, int count> struct Parts {
+template <class T, int count>
+struct Parts {
     Lanes<T> v[count];
     VORM_INLINE friend Parts operator+(Parts a, const Parts& b)
     {

@@ -12,12 +12,17 @@ struct Lengths {
     int m, n, k;
 };
 
-template <bool isTransposed1, bool isTransposed2> struct Kind {
+template <bool isTransposed1, bool isTransposed2>
+struct Kind {
     static constexpr bool transposed1 = isTransposed1, transposed2 = isTransposed2;
 
-    static constexpr bool fits(int src1Width, int src1Height, int src2Width, int src2Height)
+    // Opaque like the test for contiguous elements (frame/checks.hpp): a compiler that knows two sizes to
+    // be equal passes one for the other.
+    VORM_INLINE static bool fits(int src1Width, int src1Height, int src2Width, int src2Height)
     {
-        return (transposed1 ? src1Height : src1Width) == (transposed2 ? src2Width : src2Height);
+        int difference = (transposed1 ? src1Height : src1Width) ^ (transposed2 ? src2Width : src2Height);
+        __asm__("" : "+r"(difference));
+        return difference == 0;
     }
     static constexpr Lengths lengths(int src1Width, int src1Height, int src2Width, int src2Height)
     {
@@ -26,11 +31,20 @@ template <bool isTransposed1, bool isTransposed2> struct Kind {
     }
 
     // The stored operands as the product reads them: A(i, k) and B(k, j).
-    template <class Stored> static auto first(const Stored& stored) { return asUsed<transposed1>(stored); }
-    template <class Stored> static auto second(const Stored& stored) { return asUsed<transposed2>(stored); }
+    template <class Stored>
+    static auto first(const Stored& stored)
+    {
+        return asUsed<transposed1>(stored);
+    }
+    template <class Stored>
+    static auto second(const Stored& stored)
+    {
+        return asUsed<transposed2>(stored);
+    }
 
 private:
-    template <bool transposed, class Stored> static auto asUsed(const Stored& stored)
+    template <bool transposed, class Stored>
+    static auto asUsed(const Stored& stored)
     {
         if constexpr (transposed)
             return Transposed{stored};

@@ -46,7 +46,8 @@ VORM_INLINE void storeAcross(const View& view, int r, int c, Lanes<T> v)
 
 // Rows r to r + height of A and the terms from k on, some at a time: get<i, ahead> is A(r + i, k + ahead)
 // in all lanes.
-template <class T, int height, class A> struct TermsOf {
+template <class T, int height, class A>
+struct TermsOf {
     static constexpr int width = Lanes<T>::width;
     static constexpr bool inRows = sizeof(T) == sizeof(float) && adjacentRows<A>;
     static constexpr bool inColumns = sizeof(T) == sizeof(float) && isTransposed<A> && height == width;
@@ -200,9 +201,9 @@ VORM_INLINE void dots(const Matrix<const T, Adjacent>& a, const Matrix<const T, 
 // -----------------------------------------------------------------------------------------------------
 
 // One product of any size.
-template <class Kind, class T> [[gnu::noinline]] void generalProduct(const T* pSrc1, int src1Stride1, const T* pSrc2,
-                                                                     int src2Stride1, T* pDst, int dstStride1,
-                                                                     Lengths lengths)
+template <class Kind, class T>
+[[gnu::noinline]] void generalProduct(const T* pSrc1, int src1Stride1, const T* pSrc2, int src2Stride1, T* pDst,
+                                      int dstStride1, Lengths lengths)
 {
     const Matrix stored1{pSrc1, src1Stride1, adjacent}, stored2{pSrc2, src2Stride1, adjacent};
     const Matrix dst{pDst, dstStride1, adjacent};

@@ -24,8 +24,10 @@
 
 namespace vorm {
 
-template <class T> using MmLayer = VormStatus(MM_PARAMS(T));
-template <class T> using MmLayerP = VormStatus(MM_PARAMS_P(T));
+template <class T>
+using MmLayer = VormStatus(MM_PARAMS(T));
+template <class T>
+using MmLayerP = VormStatus(MM_PARAMS_P(T));
 
 // Public layers. ----------------------------------------------------------------------------------
 

@@ -33,12 +33,16 @@
 
 namespace vorm {
 
-template <class T> using MmaLayer = VormStatus(MMA_PARAMS(T));
-template <class T> using MmaLayerL = VormStatus(MMA_PARAMS_L(T));
-template <class T> using MmaLayerP = VormStatus(MMA_PARAMS_P(T));
+template <class T>
+using MmaLayer = VormStatus(MMA_PARAMS(T));
+template <class T>
+using MmaLayerL = VormStatus(MMA_PARAMS_L(T));
+template <class T>
+using MmaLayerP = VormStatus(MMA_PARAMS_P(T));
 
 // W1 H1 + (M + K) N count
-template <class Kind> constexpr int mmaWork(int src1Width, int src1Height, int src2Width, int src2Height, int count)
+template <class Kind>
+constexpr int mmaWork(int src1Width, int src1Height, int src2Width, int src2Height, int count)
 {
     const Lengths d = Kind::lengths(src1Width, src1Height, src2Width, src2Height);
     return wrapAdd(wrapMul(src1Width, src1Height), wrapMul(wrapAdd(d.m, d.k), d.n, count));
@@ -58,9 +62,10 @@ VORM_INLINE VormStatus mmaChecked(MmaLayer<T>* driver, MmaLayer<T>* kernel, MmaL
         return StatusBadStride;
 
     const int work = mmaWork<Kind>(src1Width, src1Height, src2Width, src2Height, count);
-    if (contiguous<T>(src1Stride2, src2Stride2, dstStride2))
-        return work > teamLimit ? driver(MMA_ARGS) : kernel(MMA_ARGS);
-    return work > teamLimitAnyStride ? driver(MMA_ARGS) : kernelS2(MMA_ARGS);
+    const bool isContiguous = contiguous<T>(src1Stride2, src2Stride2, dstStride2);
+    if (work > (isContiguous ? teamLimit : teamLimitAnyStride)) return driver(MMA_ARGS);
+    if (isContiguous) return kernel(MMA_ARGS);
+    return kernelS2(MMA_ARGS);
 }
 
 template <class Kind, class T>
@@ -75,9 +80,10 @@ VORM_INLINE VormStatus mmaCheckedL(MmaLayerL<T>* driver, MmaLayerL<T>* kernel, M
     if (anyBadShift<T>(src2Shift, dstShift)) return StatusBadShift;
 
     const int work = mmaWork<Kind>(src1Width, src1Height, src2Width, src2Height, count);
-    if (contiguous<T>(src1Stride2, src2Stride2, dstStride2))
-        return work > teamLimitList ? driver(MMA_ARGS_L) : kernel(MMA_ARGS_L);
-    return work > teamLimitAnyStride ? driver(MMA_ARGS_L) : kernelS2(MMA_ARGS_L);
+    const bool isContiguous = contiguous<T>(src1Stride2, src2Stride2, dstStride2);
+    if (work > (isContiguous ? teamLimitList : teamLimitAnyStride)) return driver(MMA_ARGS_L);
+    if (isContiguous) return kernel(MMA_ARGS_L);
+    return kernelS2(MMA_ARGS_L);
 }
 
 template <class Kind, class T>
@@ -91,7 +97,8 @@ VORM_INLINE VormStatus mmaCheckedP(MmaLayerP<T>* driver, MmaLayerP<T>* kernel, M
     if (anyBadShift<T>(src1Shift, src2Shift, dstShift)) return StatusBadShift;
 
     const int work = mmaWork<Kind>(src1Width, src1Height, src2Width, src2Height, count);
-    return work > teamLimitPointers ? driver(MMA_ARGS_P) : kernel(MMA_ARGS_P);
+    if (work > teamLimitPointers) return driver(MMA_ARGS_P);
+    return kernel(MMA_ARGS_P);
 }
 
 // Drivers. ----------------------------------------------------------------------------------------
