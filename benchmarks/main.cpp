@@ -148,6 +148,8 @@ int run(const std::string& filter, const std::string& output)
 {
     Sections sections;
     addElementwise(sections);
+    addVectorProducts(sections);
+    addMatrixProducts(sections);
     addCalls(sections);
     addTeam(sections);
 

@@ -1,0 +1,146 @@
+// The square matrices of order 3 to 6, held row by row in registers.
+#pragma once
+
+#include <algorithm>
+
+#include "frame/lanes.hpp"
+#include "frame/operands.hpp"
+#include "frame/unrolled.hpp"
+
+namespace vorm {
+
+// Views whose stored rows are contiguous, and views that are read transposed.
+template <class View>
+constexpr bool adjacentRows = false;
+template <class T>
+constexpr bool adjacentRows<Matrix<T, Adjacent>> = true;
+template <class T>
+constexpr bool adjacentRows<MatrixArray<T, Adjacent>> = true;
+template <class T>
+constexpr bool adjacentRows<MatrixList<T, Adjacent>> = true;
+template <class View>
+constexpr bool isTransposed = false;
+template <class Stored>
+constexpr bool isTransposed<Transposed<Stored>> = true;
+
+// One lane in all lanes.
+template <int lane>
+VORM_INLINE Lanes<float> splat(Lanes<float> a)
+{
+    return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(a.v), lane * 0x55));
+}
+template <int lane>
+VORM_INLINE Lanes<double> splat(Lanes<double> a)
+{
+    return _mm_shuffle_pd(a.v, a.v, lane * 3);
+}
+VORM_INLINE float firstLane(Lanes<float> a) { return _mm_cvtss_f32(a.v); }
+VORM_INLINE double firstLane(Lanes<double> a) { return _mm_cvtsd_f64(a.v); }
+
+// A register of element(0), element(1), ...
+template <class T, class Element>
+VORM_INLINE Lanes<T> lanes(const Element& element)
+{
+    if constexpr (Lanes<T>::width == 4)
+        return _mm_setr_ps(element(0), element(1), element(2), element(3));
+    else
+        return _mm_setr_pd(element(0), element(1));
+}
+
+// Two floats, repeated.
+VORM_INLINE Lanes<float> loadTwice(const float* p)
+{
+    return _mm_castpd_ps(_mm_set1_pd(elementAt(reinterpret_cast<const double*>(p), 0)));
+}
+
+// How the rows of a matrix of order n lie in registers: as many full ones as fit, then one for the
+// rest, in which the one or two elements left over repeat: 4 4 4 4 or 4 5 4 5 behind 0 1 2 3. Three
+// floats are a register whose last lane is undefined.
+template <class T, int n>
+struct SmallMatrix {
+    static constexpr int width = Lanes<T>::width;
+    static constexpr bool lastLaneUndefined = n < width;
+    static constexpr int full = lastLaneUndefined ? 1 : n / width;  // registers of a row without its rest
+    static constexpr int rest = lastLaneUndefined ? 0 : n % width, parts = full + (rest != 0);
+
+    // The column that lane l of part p holds.
+    static constexpr int column(int p, int l)
+    {
+        return p < full ? std::min(p * width + l, n - 1) : full * width + l % std::max(rest, 1);
+    }
+
+    // Part p of row r.
+    template <int r, int p, class View>
+    VORM_INLINE static Lanes<T> load(const View& view, int object)
+    {
+        if constexpr (adjacentRows<View>) {
+            const T* const from = advance(view.object(object), std::ptrdiff_t{r} * view.stride1) + p * width;
+            if constexpr (p == full && rest == 1)
+                return elementAt(from, 0);
+            else if constexpr (p == full)
+                return loadTwice(from);
+            else if constexpr (!lastLaneUndefined || r < n - 1)
+                return Lanes<T>::load(from);  // three floats are read as four: this one is the next row's or before it
+            else
+                return _mm_castsi128_ps(_mm_srli_si128(_mm_castps_si128(Lanes<T>::load(from - 1).v), 4));
+        } else {
+            return lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(view(object, r, column(p, l))); });
+        }
+    }
+
+    // Part p of all rows.
+    template <int p, class View>
+    VORM_INLINE static void loadAll(const View& view, int object, Lanes<T> (&rows)[n])
+    {
+        if constexpr (isTransposed<View>) {
+            unrolled<parts>([&](auto across) VORM_INLINE_LAMBDA {
+                if constexpr (across == full && rest == 1) {
+                    rows[n - 1] = load<n - 1, p>(view, object);
+                    return;
+                }
+                Lanes<T> block[width];
+                unrolled<width>([&](auto l)
+                                    VORM_INLINE_LAMBDA { block[l] = load<column(p, l), across>(view.stored, object); });
+                transpose(block);
+                for (int l = 0; l < width && width * across + l < n; ++l) rows[width * across + l] = block[l];
+            });
+        } else {
+            unrolled<n>([&](auto r) VORM_INLINE_LAMBDA { rows[r] = load<r, p>(view, object); });
+        }
+    }
+
+    // The rest of the i-th row in a register that holds the rests of several, in the first lanes.
+    template <int i>
+    VORM_INLINE static Lanes<T> restOf(Lanes<T> rests)
+    {
+        if constexpr (i == 0)
+            return rests;
+        else if constexpr (rest == 2)
+            return _mm_movehl_ps(rests.v, rests.v);
+        else
+            return splat<i>(rests);
+    }
+
+    template <int r, int p, class View>
+    VORM_INLINE static void store(const View& view, int object, Lanes<T> part)
+    {
+        if constexpr (adjacentRows<View>) {
+            T* const to = advance(view.object(object), std::ptrdiff_t{r} * view.stride1) + p * width;
+            if constexpr (p == full) {
+                storeFirst<rest>(to, part);
+            } else if constexpr (!lastLaneUndefined) {
+                part.store(to);
+            } else if (r < n - 1 && view.stride1 == n * int{sizeof(T)}) {
+                part.store(to);  // the next row overwrites what is too much
+            } else {
+                storeFirst<2>(to, part);
+                storeFirst<1>(to + 2, _mm_movehl_ps(part.v, part.v));
+            }
+        } else {
+            unrolled<p == full ? rest : std::min(width, n - p * width)>(
+                [&](auto l) VORM_INLINE_LAMBDA { view(object, r, p * width + l) = firstLane(splat<l>(part)); });
+        }
+    }
+};
+
+}  // namespace vorm

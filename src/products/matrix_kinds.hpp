@@ -1,0 +1,64 @@
+// The four kinds of matrix product, D = A B with either operand read transposed. The size arguments
+// are those of the stored matrices, so that a kind says what they mean.
+#pragma once
+
+#include "frame/operands.hpp"
+#include "frame/wrapping.hpp"
+
+namespace vorm {
+
+// The shape of a product: D has m rows and n columns, each element is a sum of k terms.
+struct Lengths {
+    int m, n, k;
+};
+
+template <bool isTransposed1, bool isTransposed2>
+struct Kind {
+    static constexpr bool transposed1 = isTransposed1, transposed2 = isTransposed2;
+
+    // Opaque like the test for contiguous elements (frame/checks.hpp): a compiler that knows two sizes to
+    // be equal passes one for the other.
+    VORM_INLINE static bool fits(int src1Width, int src1Height, int src2Width, int src2Height)
+    {
+        int difference = (transposed1 ? src1Height : src1Width) ^ (transposed2 ? src2Width : src2Height);
+        __asm__("" : "+r"(difference));
+        return difference == 0;
+    }
+    static constexpr Lengths lengths(int src1Width, int src1Height, int src2Width, int src2Height)
+    {
+        return {transposed1 ? src1Width : src1Height, transposed2 ? src2Height : src2Width,
+                transposed1 ? src1Height : src1Width};
+    }
+
+    // The stored operands as the product reads them: A(i, k) and B(k, j).
+    template <class Stored>
+    static auto first(const Stored& stored)
+    {
+        return asUsed<transposed1>(stored);
+    }
+    template <class Stored>
+    static auto second(const Stored& stored)
+    {
+        return asUsed<transposed2>(stored);
+    }
+
+private:
+    template <bool transposed, class Stored>
+    static auto asUsed(const Stored& stored)
+    {
+        if constexpr (transposed)
+            return Transposed{stored};
+        else
+            return stored;
+    }
+};
+
+using Mm = Kind<false, false>;
+using Mt = Kind<false, true>;
+using Tm = Kind<true, false>;
+using Tt = Kind<true, true>;
+
+// Which orders have a straight-line body. Each kernel without some of them says so by name.
+enum class Bodies { none, upTo5, upTo6 };
+
+}  // namespace vorm

@@ -1,0 +1,12 @@
+// vormMul_mam: the kernels for contiguous elements, double precision.
+
+#include "products/mam.hpp"
+
+using namespace vorm;
+
+extern "C" {
+
+VormStatus n8_ownvormMul_mam_64f(MAM_PARAMS(double)) { return mamContiguous<Mm>(MAM_ARGS); }
+VormStatus n8_ownvormMul_mam_64f_L(MAM_PARAMS_L(double)) { return mamContiguousL<Mm>(MAM_ARGS_L); }
+
+}

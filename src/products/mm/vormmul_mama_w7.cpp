@@ -1,0 +1,12 @@
+// vormMul_mama: the kernels for contiguous elements, double precision.
+
+#include "products/mama.hpp"
+
+using namespace vorm;
+
+extern "C" {
+
+VormStatus n8_ownvormMul_mama_64f(MAMA_PARAMS(double)) { return mamaContiguous<Mm>(MAMA_ARGS); }
+VormStatus n8_ownvormMul_mama_64f_L(MAMA_PARAMS_L(double)) { return mamaContiguousL<Mm>(MAMA_ARGS_L); }
+
+}

@@ -1,0 +1,11 @@
+// vormMul_mm: the kernel for contiguous elements, single precision.
+
+#include "products/mm.hpp"
+
+using namespace vorm;
+
+extern "C" {
+
+VormStatus n8_ownvormMul_mm_32f(MM_PARAMS(float)) { return mmContiguous<Mm>(MM_ARGS); }
+
+}

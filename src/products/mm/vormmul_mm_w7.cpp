@@ -1,0 +1,11 @@
+// vormMul_mm: the kernel for contiguous elements, double precision.
+
+#include "products/mm.hpp"
+
+using namespace vorm;
+
+extern "C" {
+
+VormStatus n8_ownvormMul_mm_64f(MM_PARAMS(double)) { return mmContiguous<Mm>(MM_ARGS); }
+
+}

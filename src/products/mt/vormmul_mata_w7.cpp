@@ -1,0 +1,12 @@
+// vormMul_mata: the kernels for contiguous elements, double precision.
+
+#include "products/mama.hpp"
+
+using namespace vorm;
+
+extern "C" {
+
+VormStatus n8_ownvormMul_mata_64f(MAMA_PARAMS(double)) { return mamaContiguous<Mt>(MAMA_ARGS); }
+VormStatus n8_ownvormMul_mata_64f_L(MAMA_PARAMS_L(double)) { return mamaContiguousL<Mt>(MAMA_ARGS_L); }
+
+}

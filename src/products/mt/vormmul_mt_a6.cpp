@@ -1,0 +1,11 @@
+// vormMul_mt: the kernel for contiguous elements, single precision.
+
+#include "products/mm.hpp"
+
+using namespace vorm;
+
+extern "C" {
+
+VormStatus n8_ownvormMul_mt_32f(MM_PARAMS(float)) { return mmContiguous<Mt>(MM_ARGS); }
+
+}

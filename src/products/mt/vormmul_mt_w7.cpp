@@ -1,0 +1,11 @@
+// vormMul_mt: the kernel for contiguous elements, double precision.
+
+#include "products/mm.hpp"
+
+using namespace vorm;
+
+extern "C" {
+
+VormStatus n8_ownvormMul_mt_64f(MM_PARAMS(double)) { return mmContiguous<Mt>(MM_ARGS); }
+
+}

@@ -1,0 +1,10 @@
+// vormMul_mv: the kernel for contiguous elements, single precision.
+
+#include "products/mv.hpp"
+
+using namespace vorm;
+
+extern "C" {
+
+VormStatus n8_ownvormMul_mv_32f(MV_PARAMS(float)) { return mvContiguous<AsStored>(MV_ARGS); }
+}

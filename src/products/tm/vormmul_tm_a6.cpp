@@ -1,0 +1,11 @@
+// vormMul_tm: the kernel for contiguous elements, single precision.
+
+#include "products/mm.hpp"
+
+using namespace vorm;
+
+extern "C" {
+
+VormStatus n8_ownvormMul_tm_32f(MM_PARAMS(float)) { return mmContiguous<Tm, Bodies::upTo5>(MM_ARGS); }
+
+}

@@ -1,0 +1,31 @@
+// vormMul_tm: public layers, and the kernels for elements anywhere.
+
+#include "products/mm.hpp"
+
+using namespace vorm;
+
+extern "C" {
+
+VormStatus n8_vormMul_tm_32f(MM_PARAMS(float))
+{
+    return mmChecked<Tm>(n8_ownvormMul_tm_32f, n8_ownvormMul_tm_32f_S2, MM_ARGS);
+}
+VormStatus n8_vormMul_tm_64f(MM_PARAMS(double))
+{
+    return mmChecked<Tm>(n8_ownvormMul_tm_64f, n8_ownvormMul_tm_64f_S2, MM_ARGS);
+}
+VormStatus n8_vormMul_tm_32f_P(MM_PARAMS_P(float))
+{
+    return mmCheckedP<Tm>(n8_ownvormMul_tm_32f_P, MM_ARGS_P);
+}
+VormStatus n8_vormMul_tm_64f_P(MM_PARAMS_P(double))
+{
+    return mmCheckedP<Tm>(n8_ownvormMul_tm_64f_P, MM_ARGS_P);
+}
+
+VormStatus n8_ownvormMul_tm_32f_S2(MM_PARAMS(float)) { return mmAnyStride<Tm>(MM_ARGS); }
+VormStatus n8_ownvormMul_tm_64f_S2(MM_PARAMS(double)) { return mmAnyStride<Tm>(MM_ARGS); }
+VormStatus n8_ownvormMul_tm_32f_P(MM_PARAMS_P(float)) { return mmPointers<Tm>(MM_ARGS_P); }
+VormStatus n8_ownvormMul_tm_64f_P(MM_PARAMS_P(double)) { return mmPointers<Tm>(MM_ARGS_P); }
+
+}

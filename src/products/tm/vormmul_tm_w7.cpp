@@ -1,0 +1,11 @@
+// vormMul_tm: the kernel for contiguous elements, double precision.
+
+#include "products/mm.hpp"
+
+using namespace vorm;
+
+extern "C" {
+
+VormStatus n8_ownvormMul_tm_64f(MM_PARAMS(double)) { return mmContiguous<Tm>(MM_ARGS); }
+
+}

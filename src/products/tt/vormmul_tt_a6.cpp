@@ -1,0 +1,11 @@
+// vormMul_tt: the kernel for contiguous elements, single precision.
+
+#include "products/mm.hpp"
+
+using namespace vorm;
+
+extern "C" {
+
+VormStatus n8_ownvormMul_tt_32f(MM_PARAMS(float)) { return mmContiguous<Tt>(MM_ARGS); }
+
+}

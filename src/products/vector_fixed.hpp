@@ -1,0 +1,415 @@
+// The straight-line bodies: products of a square matrix of order 3 to 6 with a vector. Every element is
+// the sum of its products from left to right, whichever lanes they are computed in.
+#pragma once
+
+#include "frame/operands.hpp"
+#include "frame/shuffles.hpp"
+#include "frame/unrolled.hpp"
+
+namespace vorm {
+
+// What a sum starts with: the first product, or zero as in the general path. A sum of negative zeros
+// shows the difference.
+enum class Start { firstProduct, zero };
+
+// term(0) + term(1) + ... + term(n - 1).
+template <int n, Start start, class Term>
+VORM_INLINE auto leftToRight(const Term& term)
+{
+    auto sum = term(std::integral_constant<int, 0>{});
+    if constexpr (start == Start::zero) sum = decltype(sum)(0) + sum;
+    unrolled<n - 1>([&](auto k) VORM_INLINE_LAMBDA { sum = sum + term(std::integral_constant<int, k + 1>{}); });
+    return sum;
+}
+
+// An operand in the form Part takes from its view; what all objects share is taken once.
+template <class Part, class View>
+class PerObject {
+public:
+    VORM_INLINE explicit PerObject(const View& view) : view_(view)
+    {
+        if constexpr (View::isCommon) common_ = Part::load(view, 0);
+    }
+    VORM_INLINE Part operator()(int object) const
+    {
+        if constexpr (View::isCommon)
+            return common_;
+        else
+            return Part::load(view_, object);
+    }
+
+private:
+    View view_;
+    Part common_;
+};
+
+// Elements anywhere, one number each. ------------------------------------------------------------------
+
+template <class T, int n>
+struct ScatteredElements {
+    T v[n];
+    template <class View>
+    VORM_INLINE static ScatteredElements load(const View& view, int object)
+    {
+        ScatteredElements r;
+        for (int k = 0; k < n; ++k) r.v[k] = view(object, k);
+        return r;
+    }
+};
+template <class T, int n>
+struct ScatteredMatrix {
+    T v[n][n];
+    template <class View>
+    VORM_INLINE static ScatteredMatrix load(const View& view, int object)
+    {
+        ScatteredMatrix r;
+        for (int i = 0; i < n; ++i)
+            for (int k = 0; k < n; ++k) r.v[i][k] = view(object, i, k);
+        return r;
+    }
+};
+
+template <class T, int n, Start start = Start::firstProduct, class A, class X, class D>
+VORM_INLINE void scatteredProducts(const A& a, const X& x, const D& y, int first, int end)
+{
+    const PerObject<ScatteredMatrix<T, n>, A> matrices(a);
+    const PerObject<ScatteredElements<T, n>, X> vectors(x);
+    for (int object = first; object < end; ++object) {
+        const auto matrix = matrices(object);
+        const auto vector = vectors(object);
+        T result[n];
+        for (int i = 0; i < n; ++i)
+            result[i] = leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA { return matrix.v[i][k] * vector.v[k]; });
+        for (int i = 0; i < n; ++i) y(object, i) = result[i];
+    }
+}
+
+// Vectors in registers, in the forms the products take them. ---------------------------------------------
+
+// Each element in all lanes.
+template <class T, int n>
+struct Spread {
+    Lanes<T> v[n];
+    template <class View>
+    VORM_INLINE static Spread load(const View& view, int object)
+    {
+        constexpr int width = Lanes<T>::width;
+        constexpr bool shuffled = width == 4;  // a double is spread by the load itself
+        const T* const p = view.object(object);
+        Spread r;
+        if constexpr (shuffled && n >= width) {
+            const auto whole = Lanes<T>::load(p);
+            unrolled<width>([&](auto k) VORM_INLINE_LAMBDA { r.v[k] = laneEverywhere<k>(whole); });
+        }
+        for (int k = shuffled && n >= width ? width : 0; k < n; ++k) r.v[k] = T(elementAt(p + k, 0));
+        return r;
+    }
+};
+
+// The elements as they lie, and those behind the last full register repeated: 4 4 4 4 or 4 5 4 5 behind
+// 0 1 2 3. Three floats are one register, its last lane zero.
+template <class T, int n>
+struct InLine {
+    static constexpr int width = Lanes<T>::width;
+    static constexpr int full = n < width ? 1 : n / width, rest = n < width ? 0 : n % width;
+    Lanes<T> v[full + (rest != 0)];
+    template <class View>
+    VORM_INLINE static InLine load(const View& view, int object)
+    {
+        const T* const p = view.object(object);
+        InLine r;
+        if constexpr (n < width)
+            r.v[0] = loadThree(p);
+        else
+            for (int c = 0; c < full; ++c) r.v[c] = Lanes<T>::load(p + c * width);
+        if constexpr (rest == 1) r.v[full] = T(elementAt(p + n - 1, 0));
+        if constexpr (rest == 2) r.v[full] = loadPairs(p + n - 2, p + n - 2);
+        return r;
+    }
+};
+
+// Row r of a contiguous matrix of three floats per row, as a whole register whose last lane is undefined.
+// The element behind any row but the last one lies within the matrix, and so does the one before the last.
+template <int r>
+VORM_INLINE Lanes<float> loadRowOfThree(const float* row)
+{
+    if constexpr (r == 2)
+        return _mm_castsi128_ps(_mm_srli_si128(_mm_castps_si128(_mm_loadu_ps(row - 1)), 4));
+    else
+        return Lanes<float>::load(row);
+}
+
+// A matrix for each object. ------------------------------------------------------------------------------
+
+// As stored: products along the rows, turned so that term k of as many rows as there are lanes makes a
+// register.
+template <class T, int n, Start start>
+VORM_INLINE void rowsProduct(const T* a, std::ptrdiff_t stride1, const InLine<T, n>& x, T* y)
+{
+    using Number = Lanes<T>;
+    constexpr int width = Number::width, full = n / width, rest = n % width;
+    const auto row = [&](int r) VORM_INLINE_LAMBDA { return advance(a, r * stride1); };
+    if constexpr (n < width) {
+        const Number r0 = loadRowOfThree<0>(row(0)) * x.v[0], r1 = loadRowOfThree<1>(row(1)) * x.v[0],
+                     r2 = loadRowOfThree<2>(row(2)) * x.v[0];
+        const Number low = _mm_unpacklo_ps(r0.v, r1.v);                // 00 10 01 11
+        const Number high = _mm_unpackhi_ps(r0.v, r1.v);               // 02 12 03 13
+        const Number terms[3] = {_mm_shuffle_ps(low.v, r2.v, 0x04),    // 00 10 20
+                                 _mm_shuffle_ps(low.v, r2.v, 0x5E),    // 01 11 21
+                                 _mm_shuffle_ps(high.v, r2.v, 0xA4)};  // 02 12 22
+        storeThree(y, leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA { return terms[k]; }));
+    } else {
+        unrolled<full>([&](auto g) VORM_INLINE_LAMBDA {
+            constexpr int r0 = g * width;
+            Number terms[n];
+            for (int c = 0; c < full; ++c) {
+                Number block[width];
+                for (int r = 0; r < width; ++r) block[r] = Number::load(row(r0 + r) + c * width) * x.v[c];
+                transpose(block);
+                for (int k = 0; k < width; ++k) terms[c * width + k] = block[k];
+            }
+            if constexpr (rest == 1)
+                terms[n - 1] =
+                    gather<T>([&](int r) VORM_INLINE_LAMBDA { return T(elementAt(row(r0 + r) + n - 1, 0)); }) *
+                    x.v[full];
+            if constexpr (rest == 2) {
+                const Number low = loadPairs(row(r0) + n - 2, row(r0 + 1) + n - 2) * x.v[full];
+                const Number high = loadPairs(row(r0 + 2) + n - 2, row(r0 + 3) + n - 2) * x.v[full];
+                terms[n - 2] = _mm_shuffle_ps(low.v, high.v, 0x88);
+                terms[n - 1] = _mm_shuffle_ps(low.v, high.v, 0xDD);
+            }
+            leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA { return terms[k]; }).store(y + r0);
+        });
+        unrolled<rest>([&](auto g) VORM_INLINE_LAMBDA {
+            const T* const p = row(full * width + g);
+            Number products[full];
+            for (int c = 0; c < full; ++c) products[c] = Number::load(p + c * width) * x.v[c];
+            elementAt(y + full * width + g, 0) = leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA {
+                if constexpr (k < full * width)
+                    return lane<k % width>(products[k / width]);
+                else
+                    return T(elementAt(p + k, 0)) * lane<k - full * width>(x.v[full]);
+            });
+        });
+    }
+}
+
+// Transposed: the stored rows, each times its element of the vector, added up.
+template <class T, int n, Start start>
+VORM_INLINE void weightedRows(const T* a, std::ptrdiff_t stride1, const Spread<T, n>& x, T* y)
+{
+    using Number = Lanes<T>;
+    constexpr int width = Number::width, full = n / width, rest = n % width;
+    const auto row = [&](int r) VORM_INLINE_LAMBDA { return advance(a, r * stride1); };
+    if constexpr (n < width) {
+        storeThree(
+            y, leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA { return loadRowOfThree<k>(row(k)) * x.v[k]; }));
+    } else {
+        unrolled<full>([&](auto c) VORM_INLINE_LAMBDA {
+            leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA {
+                return Number::load(row(k) + c * width) * x.v[k];
+            }).store(y + c * width);
+        });
+        if constexpr (rest != 0)
+            storeFirst<rest>(y + full * width, leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA {
+                                 return loadFirst<rest>(row(k) + full * width) * x.v[k];
+                             }));
+    }
+}
+
+template <class T, int n, Start start, class Stored, class X, class D>
+VORM_INLINE void productsByObject(const Stored& a, const X& x, const D& y, int count)
+{
+    const PerObject<InLine<T, n>, X> vectors(x);
+    for (int object = 0; object < count; ++object)
+        rowsProduct<T, n, start>(a.object(object), a.stride1, vectors(object), y.object(object));
+}
+template <class T, int n, Start start, class Stored, class X, class D>
+VORM_INLINE void productsByObject(const Transposed<Stored>& a, const X& x, const D& y, int count)
+{
+    const PerObject<Spread<T, n>, X> vectors(x);
+    for (int object = 0; object < count; ++object)
+        weightedRows<T, n, start>(a.stored.object(object), a.stored.stride1, vectors(object), y.object(object));
+}
+
+// One matrix for all objects. ------------------------------------------------------------------------------
+
+// Its elements, each in all lanes.
+template <class T, int n>
+struct SpreadMatrix {
+    Lanes<T> v[n][n];
+    template <class A>
+    VORM_INLINE explicit SpreadMatrix(const A& a)
+    {
+        for (int i = 0; i < n; ++i)
+            for (int k = 0; k < n; ++k) v[i][k] = T(a(0, i, k));
+    }
+};
+
+// Its columns, as whole registers of rows; with one row left over that one's elements in all lanes.
+template <class T, int n>
+struct Columns {
+    static constexpr int width = Lanes<T>::width, full = (n + (width == 4)) / width;
+    Lanes<T> v[full][n], last[n];
+    template <class A>
+    VORM_INLINE explicit Columns(const A& a)
+    {
+        unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
+            for (int c = 0; c < full; ++c)
+                v[c][k] = gather<T>([&](int l) VORM_INLINE_LAMBDA {
+                    const int r = c * width + l;
+                    return r < n ? T(a(0, r, k)) : T(0);
+                });
+            last[k] = T(a(0, n - 1, k));
+        });
+    }
+    template <Start start, int c>
+    VORM_INLINE Lanes<T> times(const Spread<T, n>& x) const
+    {
+        return leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA { return v[c][k] * x.v[k]; });
+    }
+};
+
+// Four packed vectors of three floats at a time, whose results fill three registers: lane l of register
+// j is element (4 j + l) % 3 of object (4 j + l) / 3.
+template <Start start, class A>
+VORM_INLINE int packedThrees(const A& a, const float* x, float* y, int count)
+{
+    Lanes<float> rows[3][3];
+    for (int j = 0; j < 3; ++j)
+        for (int k = 0; k < 3; ++k)
+            rows[j][k] = gather<float>([&](int l) VORM_INLINE_LAMBDA { return float(a(0, (4 * j + l) % 3, k)); });
+    int object = 0;
+    for (; object + 4 <= count; object += 4, x += 12, y += 12) {
+        Lanes<float> result[3];
+        unrolled<3>([&](auto j) VORM_INLINE_LAMBDA {
+            constexpr int begin = 4 * j, first = begin / 3;  // the lanes belong to this object and the next one
+            constexpr auto from = [](int l) { return (begin + l) / 3 == first ? 0 : 3; };
+            result[j] = leftToRight<3, start>([&](auto k) VORM_INLINE_LAMBDA {
+                const __m128 elements = Lanes<float>::load(x + 3 * first + k).v;
+                return rows[j][k] * Lanes<float>(_mm_shuffle_ps(elements, elements,
+                                                                from(0) | from(1) << 2 | from(2) << 4 | from(3) << 6));
+            });
+        });
+        for (int j = 0; j < 3; ++j) result[j].store(y + 4 * j);
+    }
+    return object;
+}
+
+// Four objects at a time, element by element in registers of four objects.
+template <class T, int n, class View>
+VORM_INLINE void loadObjects(const View& view, int object, Lanes<T> (&v)[n])
+{
+    constexpr int width = Lanes<T>::width;
+    const T* p[width];
+    for (int l = 0; l < width; ++l) p[l] = view.object(object + l);
+    Lanes<T> block[width];
+    for (int l = 0; l < width; ++l) block[l] = Lanes<T>::load(p[l]);
+    transpose(block);
+    for (int k = 0; k < width; ++k) v[k] = block[k];
+    if constexpr (n == 5) v[4] = gather<T>([&](int l) VORM_INLINE_LAMBDA { return T(elementAt(p[l] + 4, 0)); });
+    if constexpr (n == 6) {
+        const auto low = loadPairs(p[0] + 4, p[1] + 4), high = loadPairs(p[2] + 4, p[3] + 4);
+        v[4] = _mm_shuffle_ps(low.v, high.v, 0x88);
+        v[5] = _mm_shuffle_ps(low.v, high.v, 0xDD);
+    }
+}
+template <class T, int n, class View>
+VORM_INLINE void storeObjects(const View& view, int object, const Lanes<T> (&v)[n])
+{
+    Lanes<T> block[4] = {v[0], v[1], v[2], v[3]}, rest[2];
+    transpose(block);
+    if constexpr (n == 6) {
+        rest[0] = _mm_unpacklo_ps(v[4].v, v[5].v);
+        rest[1] = _mm_unpackhi_ps(v[4].v, v[5].v);
+    }
+    unrolled<4>([&](auto l) VORM_INLINE_LAMBDA {
+        T* const p = view.object(object + l);
+        block[l].store(p);
+        if constexpr (n == 5) elementAt(p + 4, 0) = lane<l>(v[4]);
+        if constexpr (n == 6 && l % 2 == 0) _mm_storel_pi(reinterpret_cast<__m64*>(p + 4), rest[l / 2].v);
+        if constexpr (n == 6 && l % 2 == 1) _mm_storeh_pi(reinterpret_cast<__m64*>(p + 4), rest[l / 2].v);
+    });
+}
+
+template <class T, int n, Start start, class A, class X, class D>
+VORM_INLINE int productsInLanes(const A& a, const X& x, const D& y, int count)
+{
+    const SpreadMatrix<T, n> matrix(a);
+    int object = 0;
+    for (; object + 4 <= count; object += 4) {
+        Lanes<T> vectors[n], results[n];
+        loadObjects(x, object, vectors);
+        unrolled<n>([&](auto i) VORM_INLINE_LAMBDA {
+            results[i] = leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA { return matrix.v[i][k] * vectors[k]; });
+        });
+        storeObjects(y, object, results);
+    }
+    return object;
+}
+
+template <class T>
+VORM_INLINE bool isPackedArray(const VectorArray<T, Adjacent>& view, int len)
+{
+    return view.stride0 == len * static_cast<int>(sizeof(T));
+}
+template <class View>
+VORM_INLINE bool isPackedArray(const View&, int)
+{
+    return false;
+}
+
+template <class T, int n, Start start, class A, class X, class D>
+VORM_INLINE void productsOfCommon(const A& a, const X& x, const D& y, int count)
+{
+    constexpr bool isFloat = sizeof(T) == sizeof(float);
+    int object = 0;
+    if constexpr (isFloat && n >= 5) {
+        object = productsInLanes<T, n, start>(a, x, y, count);
+    } else if constexpr (isFloat) {
+        if constexpr (n == 3)
+            if (isPackedArray(x, n) && isPackedArray(y, n))
+                object = packedThrees<start>(a, x.object(0), y.object(0), count);
+        const Columns<T, n> columns(a);
+        for (; object < count; ++object) {
+            const auto result = columns.template times<start, 0>(Spread<T, n>::load(x, object));
+            if constexpr (n == 3)
+                storeThree(y.object(object), result);
+            else
+                result.store(y.object(object));
+        }
+    } else {
+        // A row left over is done for two objects at once.
+        const Columns<T, n> columns(a);
+        constexpr int full = n / 2, step = 1 + n % 2;
+        for (; object + step <= count; object += step) {
+            Spread<T, n> vectors[step];
+            for (int o = 0; o < step; ++o) vectors[o] = Spread<T, n>::load(x, object + o);
+            Lanes<T> results[step][full], last;
+            unrolled<full>([&](auto c) VORM_INLINE_LAMBDA {
+                for (int o = 0; o < step; ++o) results[o][c] = columns.template times<start, c>(vectors[o]);
+            });
+            if constexpr (step == 2)
+                last = leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA {
+                    return columns.last[k] * Lanes<T>(_mm_unpacklo_pd(vectors[0].v[k].v, vectors[1].v[k].v));
+                });
+            unrolled<step>([&](auto o) VORM_INLINE_LAMBDA {
+                T* const p = y.object(object + o);
+                for (int c = 0; c < full; ++c) results[o][c].store(p + 2 * c);
+                if constexpr (step == 2) elementAt(p + n - 1, 0) = lane<o>(last);
+            });
+        }
+    }
+    if (object < count) scatteredProducts<T, n, start>(a, x, y, object, count);
+}
+
+template <class T, int n, Start start, class A, class X, class D>
+VORM_INLINE void fixedProducts(const A& a, const X& x, const D& y, int count)
+{
+    if constexpr (A::isCommon && !X::isCommon)
+        productsOfCommon<T, n, start>(a, x, y, count);
+    else
+        productsByObject<T, n, start>(a, x, y, count);
+}
+
+}  // namespace vorm

@@ -1,0 +1,111 @@
+// The kernels of the products with vectors, written once over operand views. A shape header says which
+// views its operands are.
+#pragma once
+
+#include "products/vector_fixed.hpp"
+#include "products/vector_forms.hpp"
+#include "products/vector_general.hpp"
+#include "products/vector_planes.hpp"
+#include "vorm/status.h"
+
+namespace vorm {
+
+// Calls body(integral_constant<int, n>) for a square matrix of order n from 3 to 6; false for any other.
+template <class Body>
+VORM_INLINE bool withOrder(int rows, int terms, const Body& body)
+{
+    switch (rows == terms ? rows : 0) {
+    case 3: body(std::integral_constant<int, 3>{}); return true;
+    case 4: body(std::integral_constant<int, 4>{}); return true;
+    case 5: body(std::integral_constant<int, 5>{}); return true;
+    case 6: body(std::integral_constant<int, 6>{}); return true;
+    default: return false;
+    }
+}
+
+// Contiguous elements. --------------------------------------------------------------------------------
+
+template <class Form, class T, class A, class X, class D>
+VORM_INLINE VormStatus contiguousProduct(const A& src1, const X& x, const D& y, int width, int height)
+{
+    const bool done = withOrder(width, height, [&](auto n) VORM_INLINE_LAMBDA {
+        productsByObject<T, n, Start::firstProduct>(Form::used(src1), x, y, 1);
+    });
+    if (done) return StatusOk;
+    if constexpr (Form::isTurned)
+        generalProductTurned(src1.p, src1.stride1, x.p, y.p, width, height);
+    else
+        generalProduct(src1.p, src1.stride1, x.p, y.p, height, width);
+    return StatusOk;
+}
+
+template <class Form, Bodies bodies, class T, class A, class X, class D>
+VORM_INLINE VormStatus contiguousProducts(const A& src1, const X& x, const D& y, int width, int height, int count)
+{
+    // Without straight-line bodies the sums start at zero, and have the same order otherwise.
+    constexpr Start start = bodies == Bodies::none ? Start::zero : Start::firstProduct;
+    const auto a = Form::used(src1);
+    const bool done =
+        withOrder(width, height, [&](auto n) VORM_INLINE_LAMBDA { fixedProducts<T, n, start>(a, x, y, count); });
+    if (done) return StatusOk;
+
+    const int rows = Form::rows(width, height), terms = width + height - rows;
+    if constexpr (bodies == Bodies::none && !Form::isTurned) {
+        runningProducts<T>(a, x, y, rows, terms, count);
+    } else {
+        for (int n = 0; n < count; ++n) {
+            const T* const matrix = src1.object(n);
+            if constexpr (bodies == Bodies::none)
+                columnStrip<RunningSums>(matrix, src1.stride1, x.object(n), y.object(n), 0, rows, terms);
+            else if constexpr (Form::isTurned)
+                generalProductOfArrayTurned(matrix, src1.stride1, x.object(n), y.object(n), rows, terms);
+            else
+                generalProductOfArray(matrix, src1.stride1, x.object(n), y.object(n), rows, terms);
+        }
+    }
+    return StatusOk;
+}
+
+// Elements anywhere: the _S2 and _P kernels. ------------------------------------------------------------
+
+// Every sum starts at zero and takes its products in ascending k.
+template <class T, class Number, class A, class X, class D>
+VORM_INLINE void generalProductAnywhere(const A& a, const X& x, const D& y, int rows, int terms, int object)
+{
+    for (int i = 0; i < rows; ++i) {
+        Number sum(0);
+        for (int k = 0; k < terms; ++k)
+            sum = sum + loadPlane<Number>(a, object, i, k) * loadPlane<Number>(x, object, k);
+        if constexpr (std::is_floating_point_v<Number>)
+            y(object, i) = sum;
+        else
+            sum.store(y.element(i) + object);
+    }
+}
+
+template <class T, class A, class X, class D>
+VORM_INLINE VormStatus productsAnywhere(const A& a, const X& x, const D& y, int rows, int terms, int first, int count)
+{
+    const bool done =
+        withOrder(rows, terms, [&](auto n) VORM_INLINE_LAMBDA { scatteredProducts<T, n>(a, x, y, first, count); });
+    if (done) return StatusOk;
+    for (int n = first; n < count; ++n) generalProductAnywhere<T, T>(a, x, y, rows, terms, n);
+    return StatusOk;
+}
+
+template <class T, class A, class X, class D>
+VORM_INLINE VormStatus pointerProducts(const A& a, const X& x, const D& y, int rows, int terms, int count)
+{
+    int inLanes = 0;
+    if (count >= Lanes<T>::width && inPlanes(a) && inPlanes(x) && inPlanes(y) && storesApart(y, rows)) {
+        inLanes = count / Lanes<T>::width * Lanes<T>::width;
+        const bool done =
+            withOrder(rows, terms, [&](auto n) VORM_INLINE_LAMBDA { productsInPlanes<T, n>(a, x, y, inLanes); });
+        if (!done)
+            for (int n = 0; n < inLanes; n += Lanes<T>::width)
+                generalProductAnywhere<T, Lanes<T>>(a, x, y, rows, terms, n);
+    }
+    return productsAnywhere<T>(a, x, y, rows, terms, inLanes, count);
+}
+
+}  // namespace vorm
