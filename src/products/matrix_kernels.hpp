@@ -6,6 +6,7 @@
 #include "products/matrix_kinds.hpp"
 #include "products/matrix_planes.hpp"
 #include "products/matrix_tiles.hpp"
+#include "products/paths.hpp"
 #include "vorm/status.h"
 
 namespace vorm {
@@ -17,10 +18,6 @@ VORM_INLINE int fixedOrder(Lengths lengths)
     const bool square = lengths.m == lengths.n && lengths.n == lengths.k;
     return bodies != Bodies::none && square && lengths.k <= (bodies == Bodies::upTo5 ? 5 : 6) ? lengths.k : 0;
 }
-
-// The work above which an array goes to a team; that of the standard layout's contiguous kernels is
-// stated by the members.
-constexpr int teamLimitList = 3600, teamLimitAnyStride = 1440, teamLimitPointers = 1440;
 
 // Contiguous rows: stored views of all three operands. -----------------------------------------------
 

@@ -58,7 +58,4 @@ using Mt = Kind<false, true>;
 using Tm = Kind<true, false>;
 using Tt = Kind<true, true>;
 
-// Which orders have a straight-line body. Each kernel without some of them says so by name.
-enum class Bodies { none, upTo5, upTo6 };
-
 }  // namespace vorm

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "frame/operands.hpp"
+#include "products/paths.hpp"
 
 namespace vorm {
 
@@ -27,12 +28,5 @@ struct Turned {  // y(i) = sum over k of A(k, i) x(k)
         return {stored};
     }
 };
-
-// Which kernels have straight-line bodies for 3 to 6 rows and columns. Each one without says so by name.
-enum class Bodies { none, upTo6 };
-
-// The work above which an array goes to a team; that of the standard layout's contiguous kernels is
-// stated by the members.
-constexpr int teamLimitList = 3600, teamLimitAnyStride = 1440, teamLimitPointers = 1440;
 
 }  // namespace vorm
