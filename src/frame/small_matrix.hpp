@@ -5,6 +5,7 @@
 
 #include "frame/lanes.hpp"
 #include "frame/operands.hpp"
+#include "frame/shuffles.hpp"
 #include "frame/unrolled.hpp"
 
 namespace vorm {
@@ -22,36 +23,6 @@ template <class View>
 constexpr bool isTransposed = false;
 template <class Stored>
 constexpr bool isTransposed<Transposed<Stored>> = true;
-
-// One lane in all lanes.
-template <int lane>
-VORM_INLINE Lanes<float> splat(Lanes<float> a)
-{
-    return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(a.v), lane * 0x55));
-}
-template <int lane>
-VORM_INLINE Lanes<double> splat(Lanes<double> a)
-{
-    return _mm_shuffle_pd(a.v, a.v, lane * 3);
-}
-VORM_INLINE float firstLane(Lanes<float> a) { return _mm_cvtss_f32(a.v); }
-VORM_INLINE double firstLane(Lanes<double> a) { return _mm_cvtsd_f64(a.v); }
-
-// A register of element(0), element(1), ...
-template <class T, class Element>
-VORM_INLINE Lanes<T> lanes(const Element& element)
-{
-    if constexpr (Lanes<T>::width == 4)
-        return _mm_setr_ps(element(0), element(1), element(2), element(3));
-    else
-        return _mm_setr_pd(element(0), element(1));
-}
-
-// Two floats, repeated.
-VORM_INLINE Lanes<float> loadTwice(const float* p)
-{
-    return _mm_castpd_ps(_mm_set1_pd(elementAt(reinterpret_cast<const double*>(p), 0)));
-}
 
 // How the rows of a matrix of order n lie in registers: as many full ones as fit, then one for the
 // rest, in which the one or two elements left over repeat: 4 4 4 4 or 4 5 4 5 behind 0 1 2 3. Three

@@ -11,9 +11,9 @@ namespace vorm {
 VORM_INLINE float foldLanes(Lanes<float> s)
 {
     const __m128 pairs = _mm_hadd_ps(s.v, s.v);
-    return lane0(Lanes<float>(_mm_hadd_ps(pairs, pairs)));
+    return firstLane(Lanes<float>(_mm_hadd_ps(pairs, pairs)));
 }
-VORM_INLINE double foldLanes(Lanes<double> s) { return lane0(Lanes<double>(_mm_hadd_pd(s.v, s.v))); }
+VORM_INLINE double foldLanes(Lanes<double> s) { return firstLane(Lanes<double>(_mm_hadd_pd(s.v, s.v))); }
 
 // y[r] = sum over k of row r of a times x, for some rows. The first lead terms are summed on their own,
 // the next ones in whole groups of registers, which are added to each other before the fold; then the

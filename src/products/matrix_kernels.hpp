@@ -2,11 +2,12 @@
 // views its operands are.
 #pragma once
 
+#include "products/gathered.hpp"
 #include "products/matrix_fixed.hpp"
 #include "products/matrix_kinds.hpp"
-#include "products/matrix_planes.hpp"
 #include "products/matrix_tiles.hpp"
 #include "products/paths.hpp"
+#include "products/planes.hpp"
 #include "vorm/status.h"
 
 namespace vorm {
@@ -57,8 +58,8 @@ VORM_INLINE void generalProductAnywhere(const A& a, const B& b, const D& dst, Le
             const int i = byRows ? outer : inner, j = byRows ? inner : outer;
             Number sum(0);
             for (int k = 0; k < lengths.k; ++k)
-                sum = sum + loadLanes<Number>(a, object, i, k) * loadLanes<Number>(b, object, k, j);
-            storeLanes(dst, object, i, j, sum);
+                sum = sum + loadPlane<Number>(a, object, i, k) * loadPlane<Number>(b, object, k, j);
+            storePlane(sum, dst, object, i, j);
         }
 }
 
@@ -66,56 +67,29 @@ template <class T, Outermost outermost = Outermost::rows, class A, class B, clas
 VORM_INLINE VormStatus productsAnywhere(const A& a, const B& b, const D& dst, Lengths lengths, int first, int count)
 {
     switch (fixedOrder<Bodies::upTo6>(lengths)) {
-    case 3: products<T, 3>(a, b, dst, first, count); break;
-    case 4: products<T, 4>(a, b, dst, first, count); break;
-    case 5: products<T, 5>(a, b, dst, first, count); break;
-    case 6: products<T, 6>(a, b, dst, first, count); break;
+    case 3: gatheredProducts<T, 3>(a, b, dst, first, count); break;
+    case 4: gatheredProducts<T, 4>(a, b, dst, first, count); break;
+    case 5: gatheredProducts<T, 5>(a, b, dst, first, count); break;
+    case 6: gatheredProducts<T, 6>(a, b, dst, first, count); break;
     default:
         for (int n = first; n < count; ++n) generalProductAnywhere<T, outermost>(a, b, dst, lengths, n);
     }
     return StatusOk;
 }
 
-// Structure of arrays, order n: the body over registers that hold one element of several objects.
-template <class T, int n, class A, class B, class D>
-VORM_INLINE void productsInPlanes(const A& a, const B& b, const D& dst, int end)
-{
-    using Number = Lanes<T>;
-    Number ofB[n][n];
-    for (int object = 0; object < end; object += Number::width) {
-        if (!B::isCommon || object == 0)
-            unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
-                unrolled<n>([&](auto j) VORM_INLINE_LAMBDA { ofB[k][j] = loadLanes<Number>(b, object, k, j); });
-            });
-        for (int i = 0; i < n; ++i) {
-            Number row[n];
-            unrolled<n>([&](auto k) VORM_INLINE_LAMBDA { row[k] = loadLanes<Number>(a, object, i, k); });
-            unrolled<n>([&](auto j) VORM_INLINE_LAMBDA {
-                Number sum = row[0] * ofB[0][j];
-                unrolled<n - 1>([&](auto k) VORM_INLINE_LAMBDA { sum = sum + row[k + 1] * ofB[k + 1][j]; });
-                storeLanes(dst, object, i, j, sum);
-            });
-        }
-    }
-}
-
 template <class T, Outermost outermost, class A, class B>
 VORM_INLINE VormStatus pointerProducts(const A& a, const B& b, const MatrixArrayPointers<T>& dst, Lengths lengths,
                                        int count)
 {
+    constexpr int width = Lanes<T>::width;
     int inLanes = 0;
-    if (count >= Lanes<T>::width && inPlanes(a) && inPlanes(b) && inPlanes(dst) &&
-        storesApart(dst, lengths.m * lengths.n)) {
-        inLanes = count / Lanes<T>::width * Lanes<T>::width;
-        switch (fixedOrder<Bodies::upTo6>(lengths)) {
-        case 3: productsInPlanes<T, 3>(a, b, dst, inLanes); break;
-        case 4: productsInPlanes<T, 4>(a, b, dst, inLanes); break;
-        case 5: productsInPlanes<T, 5>(a, b, dst, inLanes); break;
-        case 6: productsInPlanes<T, 6>(a, b, dst, inLanes); break;
-        default:
-            for (int n = 0; n < inLanes; n += Lanes<T>::width)
-                generalProductAnywhere<Lanes<T>, outermost>(a, b, dst, lengths, n);
-        }
+    if (count >= width && inPlanes(a) && inPlanes(b) && inPlanes(dst) &&
+        planesApart(dst, lengths.m * lengths.n, count)) {
+        inLanes = count / width * width;
+        if (const int order = fixedOrder<Bodies::upTo6>(lengths); order != 0 && order >= 3)
+            productsInPlanes<T>(order, planeTable(a), planeTable(b), planeTable(dst), order, inLanes);
+        else
+            for (int n = 0; n < inLanes; n += width) generalProductAnywhere<Lanes<T>, outermost>(a, b, dst, lengths, n);
     }
     return productsAnywhere<T, outermost>(a, b, dst, lengths, inLanes, count);
 }

@@ -9,27 +9,26 @@
 #include "products/mm.hpp"
 
 // The operands by layout, in the order and with the names of the exported prototypes.
-#define MMA_PARAMS(T)                                                                             \
-    const T *pSrc1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,              \
-    const T *pSrc2, int src2Stride0, int src2Stride1, int src2Stride2, int src2Width,             \
-    int src2Height, T *pDst, int dstStride0, int dstStride1, int dstStride2, int count
-#define MMA_ARGS                                                                                  \
-    pSrc1, src1Stride1, src1Stride2, src1Width, src1Height, pSrc2, src2Stride0, src2Stride1,      \
-    src2Stride2, src2Width, src2Height, pDst, dstStride0, dstStride1, dstStride2, count
-#define MMA_PARAMS_L(T)                                                                           \
-    const T *pSrc1, int src1Stride1, int src1Stride2, int src1Width, int src1Height,              \
-    const T *const *ppSrc2, int src2Shift, int src2Stride1, int src2Stride2, int src2Width,       \
-    int src2Height, T *const *ppDst, int dstShift, int dstStride1, int dstStride2, int count
-#define MMA_ARGS_L                                                                                \
-    pSrc1, src1Stride1, src1Stride2, src1Width, src1Height, ppSrc2, src2Shift, src2Stride1,       \
-    src2Stride2, src2Width, src2Height, ppDst, dstShift, dstStride1, dstStride2, count
-#define MMA_PARAMS_P(T)                                                                           \
-    const T *const *ppSrc1, int src1Shift, int src1Width, int src1Height,                         \
-    const T *const *ppSrc2, int src2Shift, int src2Stride0, int src2Width, int src2Height,        \
-    T *const *ppDst, int dstShift, int dstStride0, int count
-#define MMA_ARGS_P                                                                                \
-    ppSrc1, src1Shift, src1Width, src1Height, ppSrc2, src2Shift, src2Stride0, src2Width,          \
-    src2Height, ppDst, dstShift, dstStride0, count
+#define MMA_PARAMS(T)                                                                                                 \
+    const T *pSrc1, int src1Stride1, int src1Stride2, int src1Width, int src1Height, const T *pSrc2, int src2Stride0, \
+        int src2Stride1, int src2Stride2, int src2Width, int src2Height, T *pDst, int dstStride0, int dstStride1,     \
+        int dstStride2, int count
+#define MMA_ARGS                                                                                                     \
+    pSrc1, src1Stride1, src1Stride2, src1Width, src1Height, pSrc2, src2Stride0, src2Stride1, src2Stride2, src2Width, \
+        src2Height, pDst, dstStride0, dstStride1, dstStride2, count
+#define MMA_PARAMS_L(T)                                                                                                \
+    const T *pSrc1, int src1Stride1, int src1Stride2, int src1Width, int src1Height, const T *const *ppSrc2,           \
+        int src2Shift, int src2Stride1, int src2Stride2, int src2Width, int src2Height, T *const *ppDst, int dstShift, \
+        int dstStride1, int dstStride2, int count
+#define MMA_ARGS_L                                                                                                  \
+    pSrc1, src1Stride1, src1Stride2, src1Width, src1Height, ppSrc2, src2Shift, src2Stride1, src2Stride2, src2Width, \
+        src2Height, ppDst, dstShift, dstStride1, dstStride2, count
+#define MMA_PARAMS_P(T)                                                                                          \
+    const T *const *ppSrc1, int src1Shift, int src1Width, int src1Height, const T *const *ppSrc2, int src2Shift, \
+        int src2Stride0, int src2Width, int src2Height, T *const *ppDst, int dstShift, int dstStride0, int count
+#define MMA_ARGS_P                                                                                                    \
+    ppSrc1, src1Shift, src1Width, src1Height, ppSrc2, src2Shift, src2Stride0, src2Width, src2Height, ppDst, dstShift, \
+        dstStride0, count
 
 namespace vorm {
 

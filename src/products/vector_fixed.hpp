@@ -2,6 +2,8 @@
 // the sum of its products from left to right, whichever lanes they are computed in.
 #pragma once
 
+#include <algorithm>
+
 #include "frame/operands.hpp"
 #include "frame/shuffles.hpp"
 #include "frame/unrolled.hpp"
@@ -99,7 +101,7 @@ struct Spread {
         Spread r;
         if constexpr (shuffled && n >= width) {
             const auto whole = Lanes<T>::load(p);
-            unrolled<width>([&](auto k) VORM_INLINE_LAMBDA { r.v[k] = laneEverywhere<k>(whole); });
+            unrolled<width>([&](auto k) VORM_INLINE_LAMBDA { r.v[k] = splat<k>(whole); });
         }
         for (int k = shuffled && n >= width ? width : 0; k < n; ++k) r.v[k] = T(elementAt(p + k, 0));
         return r;
@@ -123,7 +125,7 @@ struct InLine {
         else
             for (int c = 0; c < full; ++c) r.v[c] = Lanes<T>::load(p + c * width);
         if constexpr (rest == 1) r.v[full] = T(elementAt(p + n - 1, 0));
-        if constexpr (rest == 2) r.v[full] = loadPairs(p + n - 2, p + n - 2);
+        if constexpr (rest == 2) r.v[full] = loadTwice(p + n - 2);
         return r;
     }
 };
@@ -170,7 +172,7 @@ VORM_INLINE void rowsProduct(const T* a, std::ptrdiff_t stride1, const InLine<T,
             }
             if constexpr (rest == 1)
                 terms[n - 1] =
-                    gather<T>([&](int r) VORM_INLINE_LAMBDA { return T(elementAt(row(r0 + r) + n - 1, 0)); }) *
+                    lanes<T>([&](int r) VORM_INLINE_LAMBDA { return T(elementAt(row(r0 + r) + n - 1, 0)); }) *
                     x.v[full];
             if constexpr (rest == 2) {
                 const Number low = loadPairs(row(r0) + n - 2, row(r0 + 1) + n - 2) * x.v[full];
@@ -180,7 +182,20 @@ VORM_INLINE void rowsProduct(const T* a, std::ptrdiff_t stride1, const InLine<T,
             }
             leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA { return terms[k]; }).store(y + r0);
         });
-        unrolled<rest>([&](auto g) VORM_INLINE_LAMBDA {
+        if constexpr (rest == 2) {  // two rows of floats side by side, 4 5 4 5
+            const Number r4 = Number::load(row(4)) * x.v[0], r5 = Number::load(row(5)) * x.v[0];
+            const Number tails = loadPairs(row(4) + 4, row(5) + 4) * x.v[1];
+            const Number low = _mm_unpacklo_ps(r4.v, r5.v);   // terms 0 0 1 1
+            const Number high = _mm_unpackhi_ps(r4.v, r5.v);  // terms 2 2 3 3
+            const Number terms[6] = {low,
+                                     _mm_movehl_ps(low.v, low.v),
+                                     high,
+                                     _mm_movehl_ps(high.v, high.v),
+                                     _mm_shuffle_ps(tails.v, tails.v, 0x88),
+                                     _mm_shuffle_ps(tails.v, tails.v, 0xDD)};
+            storeHalf<0>(y + 4, leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA { return terms[k]; }));
+        }
+        unrolled<rest == 1>([&](auto g) VORM_INLINE_LAMBDA {
             const T* const p = row(full * width + g);
             Number products[full];
             for (int c = 0; c < full; ++c) products[c] = Number::load(p + c * width) * x.v[c];
@@ -246,17 +261,17 @@ struct SpreadMatrix {
     }
 };
 
-// Its columns, as whole registers of rows; with one row left over that one's elements in all lanes.
+// Its columns, as whole registers of rows, and the elements of the last row, each in all lanes.
 template <class T, int n>
 struct Columns {
-    static constexpr int width = Lanes<T>::width, full = (n + (width == 4)) / width;
-    Lanes<T> v[full][n], last[n];
+    static constexpr int width = Lanes<T>::width, full = std::max(n / width, 1);
+    Lanes<T> whole[full][n], last[n];
     template <class A>
     VORM_INLINE explicit Columns(const A& a)
     {
         unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
             for (int c = 0; c < full; ++c)
-                v[c][k] = gather<T>([&](int l) VORM_INLINE_LAMBDA {
+                whole[c][k] = lanes<T>([&](int l) VORM_INLINE_LAMBDA {
                     const int r = c * width + l;
                     return r < n ? T(a(0, r, k)) : T(0);
                 });
@@ -266,9 +281,62 @@ struct Columns {
     template <Start start, int c>
     VORM_INLINE Lanes<T> times(const Spread<T, n>& x) const
     {
-        return leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA { return v[c][k] * x.v[k]; });
+        return leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA { return whole[c][k] * x.v[k]; });
+    }
+    // The last row with two vectors at once.
+    template <Start start>
+    VORM_INLINE Lanes<T> timesLast(const Spread<T, n>& x0, const Spread<T, n>& x1) const
+    {
+        return leftToRight<n, start>(
+            [&](auto k) VORM_INLINE_LAMBDA { return last[k] * Lanes<T>(_mm_unpacklo_pd(x0.v[k].v, x1.v[k].v)); });
     }
 };
+
+// Four columns of floats. The first two products of a sum may change places: so two elements of the
+// vector are loaded twice over, 0 1 0 1, and exchanged, 1 0 1 0, where spreading them takes two shuffles.
+struct FourColumns {
+    Lanes<float> asLoaded, exchanged, third, fourth;
+    template <class A>
+    VORM_INLINE explicit FourColumns(const A& a)
+    {
+        const auto column = [&](auto k) VORM_INLINE_LAMBDA {
+            return lanes<float>([&](int r) VORM_INLINE_LAMBDA { return float(a(0, r, k(r))); });
+        };
+        asLoaded = column([](int r) { return r % 2; }), exchanged = column([](int r) { return 1 - r % 2; });
+        third = column([](int) { return 2; }), fourth = column([](int) { return 3; });
+    }
+    template <Start start>
+    VORM_INLINE Lanes<float> times(const float* x) const
+    {
+        const Lanes<float> low = loadTwice(x), high = loadTwice(x + 2);
+        const Lanes<float> other = _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(low.v), 0xB1));
+        Lanes<float> sum = asLoaded * low;
+        if constexpr (start == Start::zero) sum = Lanes<float>(0.0f) + sum;
+        sum = sum + exchanged * other;
+        sum = sum + third * splat<0>(high);
+        return sum + fourth * splat<1>(high);
+    }
+};
+
+// Calls body(from, to) with the vectors and results of the objects up to count, some of them at once.
+template <int some, class X, class D, class Body>
+VORM_INLINE void eachVector(const X& x, const D& y, int object, int count, const Body& body)
+{
+    for (; object + some <= count; object += some)
+        unrolled<some>([&](auto o) VORM_INLINE_LAMBDA { body(x.object(object + o), y.object(object + o)); });
+    for (; object < count; ++object) body(x.object(object), y.object(object));
+}
+template <int some, class T, class Body>
+VORM_INLINE void eachVector(const VectorArray<const T, Adjacent>& x, const VectorArray<T, Adjacent>& y, int object,
+                            int count, const Body& body)
+{
+    const std::ptrdiff_t xStep = x.stride0, yStep = y.stride0;
+    const T* from = x.object(object);
+    T* to = y.object(object);
+    for (; object + some <= count; object += some, from = advance(from, some * xStep), to = advance(to, some * yStep))
+        unrolled<some>([&](auto o) VORM_INLINE_LAMBDA { body(advance(from, o * xStep), advance(to, o * yStep)); });
+    for (; object < count; ++object, from = advance(from, xStep), to = advance(to, yStep)) body(from, to);
+}
 
 // Four packed vectors of three floats at a time, whose results fill three registers: lane l of register
 // j is element (4 j + l) % 3 of object (4 j + l) / 3.
@@ -278,7 +346,7 @@ VORM_INLINE int packedThrees(const A& a, const float* x, float* y, int count)
     Lanes<float> rows[3][3];
     for (int j = 0; j < 3; ++j)
         for (int k = 0; k < 3; ++k)
-            rows[j][k] = gather<float>([&](int l) VORM_INLINE_LAMBDA { return float(a(0, (4 * j + l) % 3, k)); });
+            rows[j][k] = lanes<float>([&](int l) VORM_INLINE_LAMBDA { return float(a(0, (4 * j + l) % 3, k)); });
     int object = 0;
     for (; object + 4 <= count; object += 4, x += 12, y += 12) {
         Lanes<float> result[3];
@@ -296,54 +364,53 @@ VORM_INLINE int packedThrees(const A& a, const float* x, float* y, int count)
     return object;
 }
 
-// Four objects at a time, element by element in registers of four objects.
-template <class T, int n, class View>
-VORM_INLINE void loadObjects(const View& view, int object, Lanes<T> (&v)[n])
+// Four vectors of five or six floats, element by element in registers of four objects.
+template <int n, class View>
+VORM_INLINE void loadFour(const View& view, int object, Lanes<float> (&v)[n])
 {
-    constexpr int width = Lanes<T>::width;
-    const T* p[width];
-    for (int l = 0; l < width; ++l) p[l] = view.object(object + l);
-    Lanes<T> block[width];
-    for (int l = 0; l < width; ++l) block[l] = Lanes<T>::load(p[l]);
+    const float* p[4];
+    Lanes<float> block[4];
+    for (int o = 0; o < 4; ++o) p[o] = view.object(object + o), block[o] = Lanes<float>::load(p[o]);
     transpose(block);
-    for (int k = 0; k < width; ++k) v[k] = block[k];
-    if constexpr (n == 5) v[4] = gather<T>([&](int l) VORM_INLINE_LAMBDA { return T(elementAt(p[l] + 4, 0)); });
-    if constexpr (n == 6) {
-        const auto low = loadPairs(p[0] + 4, p[1] + 4), high = loadPairs(p[2] + 4, p[3] + 4);
-        v[4] = _mm_shuffle_ps(low.v, high.v, 0x88);
-        v[5] = _mm_shuffle_ps(low.v, high.v, 0xDD);
+    for (int k = 0; k < 4; ++k) v[k] = block[k];
+    if constexpr (n == 5) {
+        v[4] = lanes<float>([&](int o) VORM_INLINE_LAMBDA { return float(elementAt(p[o] + 4, 0)); });
+    } else {
+        const __m128 low = loadPairs(p[0] + 4, p[1] + 4).v;   // a4 a5 b4 b5
+        const __m128 high = loadPairs(p[2] + 4, p[3] + 4).v;  // c4 c5 d4 d5
+        v[4] = _mm_shuffle_ps(low, high, 0x88);
+        v[5] = _mm_shuffle_ps(low, high, 0xDD);
     }
 }
-template <class T, int n, class View>
-VORM_INLINE void storeObjects(const View& view, int object, const Lanes<T> (&v)[n])
+template <int n, class View>
+VORM_INLINE void storeFour(const View& view, int object, const Lanes<float> (&v)[n])
 {
-    Lanes<T> block[4] = {v[0], v[1], v[2], v[3]}, rest[2];
+    Lanes<float> block[4] = {v[0], v[1], v[2], v[3]}, pairs[2];
     transpose(block);
     if constexpr (n == 6) {
-        rest[0] = _mm_unpacklo_ps(v[4].v, v[5].v);
-        rest[1] = _mm_unpackhi_ps(v[4].v, v[5].v);
+        pairs[0] = _mm_unpacklo_ps(v[4].v, v[5].v);  // a4 a5 b4 b5
+        pairs[1] = _mm_unpackhi_ps(v[4].v, v[5].v);  // c4 c5 d4 d5
     }
-    unrolled<4>([&](auto l) VORM_INLINE_LAMBDA {
-        T* const p = view.object(object + l);
-        block[l].store(p);
-        if constexpr (n == 5) elementAt(p + 4, 0) = lane<l>(v[4]);
-        if constexpr (n == 6 && l % 2 == 0) _mm_storel_pi(reinterpret_cast<__m64*>(p + 4), rest[l / 2].v);
-        if constexpr (n == 6 && l % 2 == 1) _mm_storeh_pi(reinterpret_cast<__m64*>(p + 4), rest[l / 2].v);
+    unrolled<4>([&](auto o) VORM_INLINE_LAMBDA {
+        float* const to = view.object(object + o);
+        block[o].store(to);
+        if constexpr (n == 5) elementAt(to + 4, 0) = lane<o>(v[4]);
+        if constexpr (n == 6) storeHalf<o % 2>(to + 4, pairs[o / 2]);
     });
 }
 
-template <class T, int n, Start start, class A, class X, class D>
-VORM_INLINE int productsInLanes(const A& a, const X& x, const D& y, int count)
+template <int n, Start start, class A, class X, class D>
+VORM_INLINE int productsOfFour(const A& a, const X& x, const D& y, int count)
 {
-    const SpreadMatrix<T, n> matrix(a);
+    const SpreadMatrix<float, n> matrix(a);
     int object = 0;
     for (; object + 4 <= count; object += 4) {
-        Lanes<T> vectors[n], results[n];
-        loadObjects(x, object, vectors);
+        Lanes<float> vectors[n], results[n];
+        loadFour(x, object, vectors);
         unrolled<n>([&](auto i) VORM_INLINE_LAMBDA {
             results[i] = leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA { return matrix.v[i][k] * vectors[k]; });
         });
-        storeObjects(y, object, results);
+        storeFour(y, object, results);
     }
     return object;
 }
@@ -359,57 +426,72 @@ VORM_INLINE bool isPackedArray(const View&, int)
     return false;
 }
 
+// In single precision.
 template <class T, int n, Start start, class A, class X, class D>
-VORM_INLINE void productsOfCommon(const A& a, const X& x, const D& y, int count)
+requires(sizeof(T) == sizeof(float)) VORM_INLINE int productsOfCommon(const A& a, const X& x, const D& y, int count)
 {
-    constexpr bool isFloat = sizeof(T) == sizeof(float);
-    int object = 0;
-    if constexpr (isFloat && n >= 5) {
-        object = productsInLanes<T, n, start>(a, x, y, count);
-    } else if constexpr (isFloat) {
-        if constexpr (n == 3)
-            if (isPackedArray(x, n) && isPackedArray(y, n))
-                object = packedThrees<start>(a, x.object(0), y.object(0), count);
-        const Columns<T, n> columns(a);
-        for (; object < count; ++object) {
-            const auto result = columns.template times<start, 0>(Spread<T, n>::load(x, object));
-            if constexpr (n == 3)
-                storeThree(y.object(object), result);
-            else
-                result.store(y.object(object));
-        }
+    if constexpr (n >= 5) {
+        return productsOfFour<n, start>(a, x, y, count);
+    } else if constexpr (n == 4) {
+        const FourColumns columns(a);
+        eachVector<4>(x, y, 0, count,
+                      [&](const T* from, T* to) VORM_INLINE_LAMBDA { columns.times<start>(from).store(to); });
+        return count;
     } else {
-        // A row left over is done for two objects at once.
+        int object = 0;
+        if (isPackedArray(x, 3) && isPackedArray(y, 3))
+            object = packedThrees<start>(a, x.object(0), y.object(0), count);
         const Columns<T, n> columns(a);
-        constexpr int full = n / 2, step = 1 + n % 2;
-        for (; object + step <= count; object += step) {
-            Spread<T, n> vectors[step];
-            for (int o = 0; o < step; ++o) vectors[o] = Spread<T, n>::load(x, object + o);
-            Lanes<T> results[step][full], last;
-            unrolled<full>([&](auto c) VORM_INLINE_LAMBDA {
-                for (int o = 0; o < step; ++o) results[o][c] = columns.template times<start, c>(vectors[o]);
-            });
-            if constexpr (step == 2)
-                last = leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA {
-                    return columns.last[k] * Lanes<T>(_mm_unpacklo_pd(vectors[0].v[k].v, vectors[1].v[k].v));
-                });
-            unrolled<step>([&](auto o) VORM_INLINE_LAMBDA {
-                T* const p = y.object(object + o);
-                for (int c = 0; c < full; ++c) results[o][c].store(p + 2 * c);
-                if constexpr (step == 2) elementAt(p + n - 1, 0) = lane<o>(last);
-            });
-        }
+        eachVector<2>(x, y, object, count, [&](const T* from, T* to) VORM_INLINE_LAMBDA {
+            storeThree(to, columns.template times<start, 0>(Spread<T, n>::load(Vector{from, adjacent}, 0)));
+        });
+        return count;
     }
-    if (object < count) scatteredProducts<T, n, start>(a, x, y, object, count);
+}
+
+// In double precision. A row left over is done for two objects at once.
+template <class T, int n, Start start, class A, class X, class D>
+requires(sizeof(T) == sizeof(double)) VORM_INLINE int productsOfCommon(const A& a, const X& x, const D& y, int count)
+{
+    const Columns<T, n> columns(a);
+    const auto store = [](const Lanes<T>(&results)[n / 2], T* to) VORM_INLINE_LAMBDA {
+        for (int c = 0; c < n / 2; ++c) results[c].store(to + 2 * c);
+    };
+    if constexpr (n % 2 == 0) {
+        eachVector<n == 4 ? 2 : 1>(x, y, 0, count, [&](const T* from, T* to) VORM_INLINE_LAMBDA {
+            const auto vector = Spread<T, n>::load(Vector{from, adjacent}, 0);
+            Lanes<T> results[n / 2];
+            unrolled<n / 2>([&](auto c) VORM_INLINE_LAMBDA { results[c] = columns.template times<start, c>(vector); });
+            store(results, to);
+        });
+        return count;
+    } else {
+        int object = 0;
+        for (; object + 2 <= count; object += 2) {
+            const auto x0 = Spread<T, n>::load(x, object), x1 = Spread<T, n>::load(x, object + 1);
+            Lanes<T> results0[n / 2], results1[n / 2];
+            unrolled<n / 2>([&](auto c) VORM_INLINE_LAMBDA {
+                results0[c] = columns.template times<start, c>(x0), results1[c] = columns.template times<start, c>(x1);
+            });
+            const Lanes<T> last = columns.template timesLast<start>(x0, x1);
+            T* const to0 = y.object(object);
+            T* const to1 = y.object(object + 1);
+            store(results0, to0), elementAt(to0 + n - 1, 0) = lane<0>(last);
+            store(results1, to1), elementAt(to1 + n - 1, 0) = lane<1>(last);
+        }
+        return object;
+    }
 }
 
 template <class T, int n, Start start, class A, class X, class D>
 VORM_INLINE void fixedProducts(const A& a, const X& x, const D& y, int count)
 {
-    if constexpr (A::isCommon && !X::isCommon)
-        productsOfCommon<T, n, start>(a, x, y, count);
-    else
+    if constexpr (A::isCommon && !X::isCommon) {
+        const int done = productsOfCommon<T, n, start>(a, x, y, count);
+        if (done < count) scatteredProducts<T, n, start>(a, x, y, done, count);
+    } else {
         productsByObject<T, n, start>(a, x, y, count);
+    }
 }
 
 }  // namespace vorm

@@ -2,10 +2,10 @@
 // views its operands are.
 #pragma once
 
+#include "products/planes.hpp"
 #include "products/vector_fixed.hpp"
 #include "products/vector_forms.hpp"
 #include "products/vector_general.hpp"
-#include "products/vector_planes.hpp"
 #include "vorm/status.h"
 
 namespace vorm {
@@ -76,10 +76,7 @@ VORM_INLINE void generalProductAnywhere(const A& a, const X& x, const D& y, int 
         Number sum(0);
         for (int k = 0; k < terms; ++k)
             sum = sum + loadPlane<Number>(a, object, i, k) * loadPlane<Number>(x, object, k);
-        if constexpr (std::is_floating_point_v<Number>)
-            y(object, i) = sum;
-        else
-            sum.store(y.element(i) + object);
+        storePlane(sum, y, object, i);
     }
 }
 
@@ -96,14 +93,14 @@ VORM_INLINE VormStatus productsAnywhere(const A& a, const X& x, const D& y, int 
 template <class T, class A, class X, class D>
 VORM_INLINE VormStatus pointerProducts(const A& a, const X& x, const D& y, int rows, int terms, int count)
 {
+    constexpr int width = Lanes<T>::width;
     int inLanes = 0;
-    if (count >= Lanes<T>::width && inPlanes(a) && inPlanes(x) && inPlanes(y) && storesApart(y, rows)) {
-        inLanes = count / Lanes<T>::width * Lanes<T>::width;
-        const bool done =
-            withOrder(rows, terms, [&](auto n) VORM_INLINE_LAMBDA { productsInPlanes<T, n>(a, x, y, inLanes); });
-        if (!done)
-            for (int n = 0; n < inLanes; n += Lanes<T>::width)
-                generalProductAnywhere<T, Lanes<T>>(a, x, y, rows, terms, n);
+    if (count >= width && inPlanes(a) && inPlanes(x) && inPlanes(y) && planesApart(y, rows, count)) {
+        inLanes = count / width * width;
+        if (rows == terms && rows >= 3 && rows <= 6)
+            productsInPlanes<T>(rows, planeTable(a), planeTable(x), planeTable(y), 1, inLanes);
+        else
+            for (int n = 0; n < inLanes; n += width) generalProductAnywhere<T, Lanes<T>>(a, x, y, rows, terms, n);
     }
     return productsAnywhere<T>(a, x, y, rows, terms, inLanes, count);
 }

@@ -1,0 +1,97 @@
+// Tiles of a product over structures of arrays: some rows and columns of D for one register of objects
+// after the other, all sums of a tile side by side. What limits these loops is loads, so the larger
+// the tile the better; the addresses count too, since few processors load more than two registers at
+// a time, and a pointer kept in memory is a load as well.
+#pragma once
+
+#include "frame/lanes.hpp"
+#include "frame/unrolled.hpp"
+
+namespace vorm {
+
+// Planes that lie at even distances, in bytes. Step is the distance to the next objects; columns may
+// also be registers of objects.
+template <class T>
+struct EvenPlanes {
+    T* p;
+    std::ptrdiff_t row, column, step;
+    EvenPlanes from(int r, int c) const { return {advance(p, r * row + c * column), row, column, step}; }
+};
+
+// Planes anywhere: a table of pointers, and how far behind them element (r, c) lies, in bytes.
+template <class T>
+struct ListedPlanes {
+    T* const* pp;
+    std::ptrdiff_t row, column;  // in the table
+    std::ptrdiff_t shift, shiftOfColumn, step;
+    T* at(int r, int c) const { return advance(pp[r * row + c * column], shift + c * shiftOfColumn); }
+    ListedPlanes from(int r, int c) const
+    {
+        return {pp + r * row + c * column, row, column, shift + c * shiftOfColumn, shiftOfColumn, step};
+    }
+};
+
+// sums = sums + one term each, or the first term.
+template <bool isFirst, class T, int rows, int columns, class OfA, class OfB>
+VORM_INLINE void addTerms(Lanes<T> (&sums)[rows][columns], const OfA& a, const OfB& b)
+{
+    Lanes<T> ofB[columns];
+    for (int j = 0; j < columns; ++j) ofB[j] = Lanes<T>::load(b(j));
+    for (int i = 0; i < rows; ++i) {
+        const auto ofA = Lanes<T>::load(a(i));
+        for (int j = 0; j < columns; ++j) {
+            const Lanes<T> product = ofA * ofB[j];
+            sums[i][j] = isFirst ? product : sums[i][j] + product;
+            __asm__("" : "+x"(sums[i][j].v));  // or g++ adds up one sum after the other and spills the rest
+        }
+    }
+}
+
+template <class T, int terms, int rows, int columns>
+[[gnu::noinline]] void planeTile(EvenPlanes<const T> a, EvenPlanes<const T> b, EvenPlanes<T> d, int steps)
+{
+    for (; steps > 0; --steps) {
+        Lanes<T> sums[rows][columns];
+        const T *ofA = a.p, *ofB = b.p;
+        unrolled<terms>([&](auto k) VORM_INLINE_LAMBDA {
+            addTerms<k == 0>(
+                sums, [&](int i) VORM_INLINE_LAMBDA { return advance(ofA, i * a.row); },
+                [&](int j) VORM_INLINE_LAMBDA { return advance(ofB, j * b.column); });
+            ofA = advance(ofA, a.column), ofB = advance(ofB, b.row);
+            __asm__("" : "+r"(ofA), "+r"(ofB));  // or all addresses are kept, in memory
+        });
+        T* ofD = d.p;
+        for (int i = 0; i < rows; ++i) {
+            for (int j = 0; j < columns; ++j) sums[i][j].store(advance(ofD, j * d.column));
+            ofD = advance(ofD, d.row);
+            __asm__("" : "+r"(ofD));
+        }
+        a.p = advance(a.p, a.step), b.p = advance(b.p, b.step), d.p = advance(d.p, d.step);
+    }
+}
+
+template <class T, int terms, int rows, int columns>
+[[gnu::noinline]] void planeTile(const ListedPlanes<const T>& a, const ListedPlanes<const T>& b,
+                                 const ListedPlanes<T>& d, int steps)
+{
+    const T *ofA[rows][terms], *ofB[terms][columns];
+    T* ofD[rows][columns];
+    for (int k = 0; k < terms; ++k) {
+        for (int i = 0; i < rows; ++i) ofA[i][k] = a.at(i, k);
+        for (int j = 0; j < columns; ++j) ofB[k][j] = b.at(k, j);
+    }
+    for (int i = 0; i < rows; ++i)
+        for (int j = 0; j < columns; ++j) ofD[i][j] = d.at(i, j);
+    for (std::ptrdiff_t step = 0; step < steps; ++step) {
+        Lanes<T> sums[rows][columns];
+        unrolled<terms>([&](auto k) VORM_INLINE_LAMBDA {
+            addTerms<k == 0>(
+                sums, [&](int i) VORM_INLINE_LAMBDA { return advance(ofA[i][k], step * a.step); },
+                [&](int j) VORM_INLINE_LAMBDA { return advance(ofB[k][j], step * b.step); });
+        });
+        for (int i = 0; i < rows; ++i)
+            for (int j = 0; j < columns; ++j) sums[i][j].store(advance(ofD[i][j], step * d.step));
+    }
+}
+
+}  // namespace vorm

@@ -1,0 +1,107 @@
+// Structure of arrays: pointer tables whose objects lie side by side, element by element, so that a
+// register holds the same element of several objects.
+#pragma once
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "frame/lanes.hpp"
+#include "frame/operands.hpp"
+#include "frame/small_matrix.hpp"
+
+namespace vorm {
+
+template <class View>
+VORM_INLINE bool inPlanes(const View& view)
+{
+    if constexpr (isTransposed<View>)
+        return inPlanes(view.stored);
+    else if constexpr (View::isCommon)
+        return true;
+    else
+        return view.stride0 == static_cast<int>(sizeof(*view.pp[0]));
+}
+
+// Results are computed element by element for so many objects: all their first elements, all second
+// ones, and so on. Sources that are read again for every element stay in the cache.
+template <class T>
+constexpr int objectsAtOnce = 2048 / static_cast<int>(sizeof(T));
+
+// Whether the planes written at once lie apart, or are the same: only then may an element of a later
+// object be stored before one of an earlier object.
+template <class View>
+VORM_INLINE bool planesApart(const View& dst, int elements, int count)
+{
+    using T = std::remove_reference_t<decltype(*dst.pp[0])>;
+    const auto span = static_cast<std::ptrdiff_t>(sizeof(T)) * std::min(count, objectsAtOnce<T>);
+    const auto apart = [&](int i, int j) VORM_INLINE_LAMBDA {
+        return reinterpret_cast<const char*>(dst.pp[i]) - reinterpret_cast<const char*>(dst.pp[j]);
+    };
+    int ascending = 1;
+    while (ascending < elements && apart(ascending, ascending - 1) >= span) ++ascending;
+    for (int i = ascending; i < elements; ++i)
+        for (int j = 0; j < i; ++j)
+            if (const auto distance = std::abs(apart(i, j)); distance != 0 && distance < span) return false;
+    return true;
+}
+
+// An element of the object, or of as many objects from it on as Number has lanes.
+template <class Number, class View, class... Index>
+VORM_INLINE Number loadPlane(const View& view, int object, Index... index)
+{
+    if constexpr (View::isCommon || std::is_floating_point_v<Number>)
+        return view(object, index...);
+    else
+        return Number::load(view.element(index...) + object);
+}
+template <class Number, class Stored>
+VORM_INLINE Number loadPlane(const Transposed<Stored>& view, int object, int r, int c)
+{
+    return loadPlane<Number>(view.stored, object, c, r);
+}
+template <class Number, class View, class... Index>
+VORM_INLINE void storePlane(Number v, const View& view, int object, Index... index)
+{
+    if constexpr (std::is_floating_point_v<Number>)
+        view(object, index...) = v;
+    else
+        v.store(view.element(index...) + object);
+}
+
+// The table of an operand as a product reads it: element (r, c) of object 0 lies at pp[r * row + c * column].
+template <class T>
+struct PlaneTable {
+    T* const* pp;
+    int shift, row, column;
+    bool isCommon;
+};
+
+template <class View>
+VORM_INLINE auto planeTable(const View& view)
+{
+    using T = std::remove_reference_t<decltype(*view.pp[0])>;
+    if constexpr (requires { view.width; })
+        return PlaneTable<T>{view.pp, view.shift, view.width, 1, View::isCommon};
+    else
+        return PlaneTable<T>{view.pp, view.shift, 1, 0, View::isCommon};
+}
+template <class Stored>
+VORM_INLINE auto planeTable(const Transposed<Stored>& view)
+{
+    auto table = planeTable(view.stored);
+    std::swap(table.row, table.column);
+    return table;
+}
+
+// D = A B for whole registers of objects. The order of A is 3 to 6; B and D have as many columns, or one.
+// Every sum goes from left to right, with the first product as its start value.
+template <class T>
+VORM_HIDDEN void productsInPlanes(int order, const PlaneTable<const T>& a, const PlaneTable<const T>& b,
+                                  const PlaneTable<T>& d, int columns, int count);
+
+extern template void productsInPlanes(int, const PlaneTable<const float>&, const PlaneTable<const float>&,
+                                      const PlaneTable<float>&, int, int);
+extern template void productsInPlanes(int, const PlaneTable<const double>&, const PlaneTable<const double>&,
+                                      const PlaneTable<double>&, int, int);
+
+}  // namespace vorm
