@@ -17,12 +17,13 @@ namespace {
 
 enum Kind { mm, mt, tm, tt };
 enum class Shape { single, firstArray, secondArray, bothArrays };
-enum class Layout { contiguous, spread, list, spreadList, pointers, planes };
-constexpr Layout allLayouts[] = {Layout::contiguous, Layout::spread,   Layout::list,
-                                 Layout::spreadList, Layout::pointers, Layout::planes};
+enum class Layout { contiguous, spread, list, spreadList, pointers, planes, unevenPlanes };
+constexpr Layout allLayouts[] = {Layout::contiguous, Layout::spread, Layout::list,        Layout::spreadList,
+                                 Layout::pointers,   Layout::planes, Layout::unevenPlanes};
 
 bool isList(Layout layout) { return layout == Layout::list || layout == Layout::spreadList; }
-bool isPointers(Layout layout) { return layout == Layout::pointers || layout == Layout::planes; }
+bool isPlanes(Layout layout) { return layout == Layout::planes || layout == Layout::unevenPlanes; }
+bool isPointers(Layout layout) { return layout == Layout::pointers || isPlanes(layout); }
 bool isContiguous(Layout layout) { return layout == Layout::contiguous || layout == Layout::list; }
 
 // The members of a shape by kind. ----------------------------------------------------------------
@@ -94,12 +95,16 @@ struct Operand {
         shift = listed || isPointers(layout) ? 3 * e : 0;
         char* const p = memory.data() - shift;
         if (isPointers(layout)) {
-            // Elements in reverse order, so that no table is an ascending one by accident.
-            for (int r = 0; r < height; ++r)
-                for (int c = 0; c < width; ++c) {
-                    const int place = layout == Layout::planes ? r * width + c : height * width - 1 - (r * width + c);
-                    table.push_back(reinterpret_cast<T*>(p + place * stride1));
-                }
+            // Elements in reverse order, so that no table is an ascending one by accident; neighbours exchanged
+            // for planes at uneven distances.
+            const int elements = height * width;
+            for (int k = 0; k < elements; ++k) {
+                const int exchanged = (k ^ 1) < elements ? k ^ 1 : k;
+                const int place = layout == Layout::planes         ? k
+                                  : layout == Layout::unevenPlanes ? exchanged
+                                                                   : elements - 1 - k;
+                table.push_back(reinterpret_cast<T*>(p + place * stride1));
+            }
         } else if (listed) {
             for (int n = 0; n < count; ++n) table.push_back(reinterpret_cast<T*>(p + (count - 1 - n) * stride0));
         }
@@ -158,7 +163,7 @@ private:
     std::size_t span(int padding)
     {
         if (isPointers(layout)) {  // stride1 lies between two elements of an object
-            stride0 = e * (layout == Layout::planes ? 1 : 2);
+            stride0 = e * (isPlanes(layout) ? 1 : 2);
             stride1 = count * stride0 + e * padding;
             return static_cast<std::size_t>((width * height - 1) * stride1 + (count - 1) * stride0 + e);
         }
@@ -355,6 +360,19 @@ TYPED_TEST(MatrixProducts, StartOfTheSums)
                     check<TypeParam>(p, [&] { return calls++ < ofFirst ? -TypeParam(0) : TypeParam(1); });
                     if (this->HasFatalFailure()) return;
                 }
+}
+
+// More objects than are done at once, and none of them fills the last register.
+TYPED_TEST(MatrixProducts, LongPlanes)
+{
+    int32_t before;
+    vorGetNumThreads(&before);
+    vorSetNumThreads(1);
+    for (const Shape shape : {Shape::firstArray, Shape::secondArray, Shape::bothArrays})
+        for (const Layout layout : {Layout::planes, Layout::unevenPlanes})
+            for (int n = 2; n <= 6; ++n)
+                this->checkRandom({tm, shape, layout, n, n, n, 1063, Against::pageBehind, 3});
+    vorSetNumThreads(before);
 }
 
 // Above the limits the objects are shared out; the bits stay the same.

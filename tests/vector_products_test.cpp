@@ -229,6 +229,22 @@ TEST_F(VectorProducts, OverlappingDestinationsInAscendingOrder)
     }
 }
 
+// More objects than are done at once, in planes at even and uneven distances.
+TEST_F(VectorProducts, LongPlanes)
+{
+    for (const Function& f : catalogue()) {
+        if (!isVectorProduct(f) || f.layout != "P" || !f.isArray()) continue;
+        for (int rows = 2; rows <= 6; ++rows)
+            for (bool shuffled : {false, true}) {
+                Case c{.rows = rows, .terms = rows, .count = 1063};
+                c.src1.planes = c.src2.planes = c.dst.planes = true;
+                c.src1.shuffled = c.src2.shuffled = c.dst.shuffled = shuffled;
+                checkCaseOfType(f, c, random);
+                if (HasFatalFailure()) return;
+            }
+    }
+}
+
 // The measure of the work in 32 bits, and the largest value of it that stays serial.
 std::int32_t workOf(const Function& f, std::uint32_t width, std::uint32_t height, std::uint32_t count)
 {
