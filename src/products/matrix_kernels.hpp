@@ -84,10 +84,10 @@ VORM_INLINE VormStatus pointerProducts(const A& a, const B& b, const MatrixArray
     constexpr int width = Lanes<T>::width;
     int inLanes = 0;
     if (count >= width && inPlanes(a) && inPlanes(b) && inPlanes(dst) &&
-        planesApart(dst, lengths.m * lengths.n, count)) {
+        planesApart(dst, lengths.m * lengths.n, Run::matrices, count)) {
         inLanes = count / width * width;
         if (const int order = fixedOrder<Bodies::upTo6>(lengths); order != 0 && order >= 3)
-            productsInPlanes<T>(order, planeTable(a), planeTable(b), planeTable(dst), order, inLanes);
+            productsInPlanes<T>(order, planeTable(a), planeTable(b), planeTable(dst), order, Run::matrices, inLanes);
         else
             for (int n = 0; n < inLanes; n += width) generalProductAnywhere<Lanes<T>, outermost>(a, b, dst, lengths, n);
     }

@@ -9,8 +9,7 @@
 
 namespace vorm {
 
-// Planes that lie at even distances, in bytes. Step is the distance to the next objects; columns may
-// also be registers of objects.
+// Planes that lie at even distances, in bytes. Step is the distance to the next objects.
 template <class T>
 struct EvenPlanes {
     T* p;
@@ -18,17 +17,14 @@ struct EvenPlanes {
     EvenPlanes from(int r, int c) const { return {advance(p, r * row + c * column), row, column, step}; }
 };
 
-// Planes anywhere: a table of pointers, and how far behind them element (r, c) lies, in bytes.
+// Planes anywhere: a table of pointers, and how far behind them the elements lie, in bytes.
 template <class T>
 struct ListedPlanes {
     T* const* pp;
     std::ptrdiff_t row, column;  // in the table
-    std::ptrdiff_t shift, shiftOfColumn, step;
-    T* at(int r, int c) const { return advance(pp[r * row + c * column], shift + c * shiftOfColumn); }
-    ListedPlanes from(int r, int c) const
-    {
-        return {pp + r * row + c * column, row, column, shift + c * shiftOfColumn, shiftOfColumn, step};
-    }
+    std::ptrdiff_t shift, step;
+    T* at(int r, int c) const { return advance(pp[r * row + c * column], shift); }
+    ListedPlanes from(int r, int c) const { return {pp + r * row + c * column, row, column, shift, step}; }
 };
 
 // sums = sums + one term each, or the first term.
@@ -91,6 +87,32 @@ template <class T, int terms, int rows, int columns>
         });
         for (int i = 0; i < rows; ++i)
             for (int j = 0; j < columns; ++j) sums[i][j].store(advance(ofD[i][j], step * d.step));
+    }
+}
+
+// d(i) is the sum over k of held(i, k) times plane k, for some rows i: what all objects share stays in
+// registers, and so do the few addresses.
+template <class T, int terms, int rows>
+[[gnu::noinline]] void heldTile(const Lanes<T> (&held)[rows][terms], const T* const (&planes)[terms],
+                                T* const (&d)[rows], int steps)
+{
+    // In locals, since for all a compiler knows a store might change what the references refer to.
+    Lanes<T> factors[rows][terms];
+    const T* from[terms];
+    T* to[rows];
+    for (int k = 0; k < terms; ++k) from[k] = planes[k];
+    for (int i = 0; i < rows; ++i) {
+        for (int k = 0; k < terms; ++k) factors[i][k] = held[i][k];
+        to[i] = d[i];
+    }
+    const std::ptrdiff_t end = steps * std::ptrdiff_t{16};
+    for (std::ptrdiff_t at = 0; at < end; at += 16) {
+        Lanes<T> sums[rows];
+        unrolled<terms>([&](auto k) VORM_INLINE_LAMBDA {
+            const auto factor = Lanes<T>::load(advance(from[k], at));
+            for (int i = 0; i < rows; ++i) sums[i] = k == 0 ? factors[i][k] * factor : sums[i] + factors[i][k] * factor;
+        });
+        for (int i = 0; i < rows; ++i) sums[i].store(advance(to[i], at));
     }
 }
 

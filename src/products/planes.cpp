@@ -61,79 +61,113 @@ bool evenDistance(const PlaneTable<T>& table, int elements, std::ptrdiff_t& dist
     return true;
 }
 
+// One matrix for all vectors, or one vector for all matrices.
 template <class T, int n>
-void products(const PlaneTable<const T>& a, const PlaneTable<const T>& b, const PlaneTable<T>& d, int columns,
+class HeldProduct {
+public:
+    HeldProduct(const PlaneTable<const T>& a, const PlaneTable<const T>& b, const PlaneTable<T>& d)
+        : planes_(a.isCommon ? b : a), held_(a.isCommon ? a : b), d_(d), matrixIsHeld_(a.isCommon)
+    {
+    }
+    void objects(std::ptrdiff_t begin, int steps) const
+    {
+        constexpr int rows = n == 3 ? 3 : 2;  // as many as there are registers for
+        int i = 0;
+        if (matrixIsHeld_)
+            for (; i + rows <= n; i += rows) someRows<rows>(i, begin, steps);
+        for (; i < n; ++i) someRows<1>(i, begin, steps);
+    }
+
+private:
+    template <int rows>
+    void someRows(int i, std::ptrdiff_t begin, int steps) const
+    {
+        Lanes<T> held[rows][n];
+        const T* planes[n];
+        T* d[rows];
+        for (int k = 0; k < n; ++k) {
+            planes[k] = address(planes_, matrixIsHeld_ ? 0 : i, k, begin);
+            for (int r = 0; r < rows; ++r)
+                held[r][k] = T(elementAt(address(held_, matrixIsHeld_ ? i + r : 0, k, 0), 0));
+        }
+        for (int r = 0; r < rows; ++r) d[r] = address(d_, 0, i + r, begin);
+        heldTile<T, n, rows>(held, planes, d, steps);
+    }
+    // Element (r, c) of a matrix, element c of a vector.
+    template <class Element>
+    static Element* address(const PlaneTable<Element>& table, int r, int c, std::ptrdiff_t begin)
+    {
+        return advance(table.pp[table.column == 0 ? c : r * table.row + c * table.column], table.shift + begin);
+    }
+
+    const PlaneTable<const T>&planes_, &held_;
+    const PlaneTable<T>& d_;
+    bool matrixIsHeld_;
+};
+
+template <class T, int n>
+void products(const PlaneTable<const T>& a, const PlaneTable<const T>& b, const PlaneTable<T>& d, int columns, Run run,
               int count)
 {
     constexpr int width = Lanes<T>::width, registerBytes = 16;
-    const int elementsOfB = n * columns;
+    const int atOnce = objectsAtOnce<T>(run, count);
+    const auto eachRound = [&](const auto& round) {
+        for (std::ptrdiff_t first = 0; first < count; first += atOnce)
+            round(first * int{sizeof(T)}, static_cast<int>(std::min<std::ptrdiff_t>(atOnce, count - first)) / width);
+    };
+    if (columns == 1 && (a.isCommon || b.isCommon)) {
+        const HeldProduct<T, n> product(a, b, d);
+        eachRound([&](std::ptrdiff_t begin, int steps) { product.objects(begin, steps); });
+        return;
+    }
+
     const Spread<T, n> spreadA(a, n), spreadB(b, columns);
     std::ptrdiff_t distanceA = registerBytes, distanceB = registerBytes, distanceD;
-    bool even = evenDistance(d, elementsOfB, distanceD);
+    bool even = evenDistance(d, n * columns, distanceD);
     if (!a.isCommon) even = even && evenDistance(a, n * n, distanceA);
-    if (!b.isCommon) even = even && evenDistance(b, elementsOfB, distanceB);
-    // One matrix for all vectors: registers of objects are the columns of B and D.
-    const bool objectsAcross = a.isCommon && columns == 1;
-
-    for (int first = 0; first < count; first += objectsAtOnce<T>) {
-        const int registers = (std::min(first + objectsAtOnce<T>, count) - first) / width;
-        const auto begin = std::ptrdiff_t{first} * int{sizeof(T)};
-        const auto coverAll = [&](const auto& ofA, auto ofB, auto ofD) {
-            if (!objectsAcross) return cover<T, n>(ofA, ofB, ofD, columns, registers);
-            constexpr int across = tileColumns<n>;
-            const int tiles = registers / across;
-            auto restOfB = ofB.from(0, tiles * across);
-            auto restOfD = ofD.from(0, tiles * across);
-            restOfB.step = restOfD.step = registerBytes;
-            ofB.step = ofD.step = across * registerBytes;
-            cover<T, n>(ofA, ofB, ofD, across, tiles);
-            cover<T, n>(ofA, restOfB, restOfD, 1, registers - tiles * across);
-        };
+    if (!b.isCommon) even = even && evenDistance(b, n * columns, distanceB);
+    eachRound([&](std::ptrdiff_t begin, int steps) {
         if (even) {
             const auto planes = [&]<class Element>(const PlaneTable<Element>& table, std::ptrdiff_t distance) {
                 return EvenPlanes<Element>{advance(table.pp[0], table.shift + begin), distance * table.row,
-                                           objectsAcross ? registerBytes : distance * table.column, registerBytes};
+                                           distance * table.column, registerBytes};
             };
             const auto source = [&](const auto& table, std::ptrdiff_t distance, const auto& spread, int breadth) {
                 if (!table.isCommon) return planes(table, distance);
                 return EvenPlanes<const T>{spread.pointers()[0], breadth * registerBytes, registerBytes, 0};
             };
-            coverAll(source(a, distanceA, spreadA, n), source(b, distanceB, spreadB, columns), planes(d, distanceD));
+            cover<T, n>(source(a, distanceA, spreadA, n), source(b, distanceB, spreadB, columns), planes(d, distanceD),
+                        columns, steps);
         } else {
             const auto planes = [&]<class Element>(const PlaneTable<Element>& table) {
-                return ListedPlanes<Element>{table.pp,
-                                             std::ptrdiff_t{table.row},
-                                             std::ptrdiff_t{table.column},
-                                             table.shift + begin,
-                                             std::ptrdiff_t{objectsAcross ? registerBytes : 0},
-                                             std::ptrdiff_t{registerBytes}};
+                return ListedPlanes<Element>{table.pp, table.row, table.column, table.shift + begin, registerBytes};
             };
             const auto source = [&](const auto& table, const auto& spread, int breadth) {
                 if (!table.isCommon) return planes(table);
-                return ListedPlanes<const T>{spread.pointers(), breadth, 1, 0, 0, 0};
+                return ListedPlanes<const T>{spread.pointers(), breadth, 1, 0, 0};
             };
-            coverAll(source(a, spreadA, n), source(b, spreadB, columns), planes(d));
+            cover<T, n>(source(a, spreadA, n), source(b, spreadB, columns), planes(d), columns, steps);
         }
-    }
+    });
 }
 
 }  // namespace
 
 template <class T>
 void productsInPlanes(int order, const PlaneTable<const T>& a, const PlaneTable<const T>& b, const PlaneTable<T>& d,
-                      int columns, int count)
+                      int columns, Run run, int count)
 {
     switch (order) {
-    case 3: return products<T, 3>(a, b, d, columns, count);
-    case 4: return products<T, 4>(a, b, d, columns, count);
-    case 5: return products<T, 5>(a, b, d, columns, count);
-    case 6: return products<T, 6>(a, b, d, columns, count);
+    case 3: return products<T, 3>(a, b, d, columns, run, count);
+    case 4: return products<T, 4>(a, b, d, columns, run, count);
+    case 5: return products<T, 5>(a, b, d, columns, run, count);
+    case 6: return products<T, 6>(a, b, d, columns, run, count);
     }
 }
 
 template void productsInPlanes(int, const PlaneTable<const float>&, const PlaneTable<const float>&,
-                               const PlaneTable<float>&, int, int);
+                               const PlaneTable<float>&, int, Run, int);
 template void productsInPlanes(int, const PlaneTable<const double>&, const PlaneTable<const double>&,
-                               const PlaneTable<double>&, int, int);
+                               const PlaneTable<double>&, int, Run, int);
 
 }  // namespace vorm

@@ -23,17 +23,23 @@ VORM_INLINE bool inPlanes(const View& view)
 }
 
 // Results are computed element by element for so many objects: all their first elements, all second
-// ones, and so on. Sources that are read again for every element stay in the cache.
+// ones, and so on. Sources that are read again for other elements should stay in the cache, but the
+// longer the run along a plane, the better does the memory keep up.
+enum class Run { matrices, vectors, whole };  // whole: no plane is read twice
 template <class T>
-constexpr int objectsAtOnce = 2048 / static_cast<int>(sizeof(T));
+VORM_INLINE int objectsAtOnce(Run run, int count)
+{
+    constexpr int e = sizeof(T);
+    return run == Run::whole ? count : std::min(count, (run == Run::vectors ? 16384 : 2048) / e);
+}
 
 // Whether the planes written at once lie apart, or are the same: only then may an element of a later
 // object be stored before one of an earlier object.
 template <class View>
-VORM_INLINE bool planesApart(const View& dst, int elements, int count)
+VORM_INLINE bool planesApart(const View& dst, int elements, Run run, int count)
 {
     using T = std::remove_reference_t<decltype(*dst.pp[0])>;
-    const auto span = static_cast<std::ptrdiff_t>(sizeof(T)) * std::min(count, objectsAtOnce<T>);
+    const auto span = std::ptrdiff_t{objectsAtOnce<T>(run, count)} * int{sizeof(T)};
     const auto apart = [&](int i, int j) VORM_INLINE_LAMBDA {
         return reinterpret_cast<const char*>(dst.pp[i]) - reinterpret_cast<const char*>(dst.pp[j]);
     };
@@ -97,11 +103,11 @@ VORM_INLINE auto planeTable(const Transposed<Stored>& view)
 // Every sum goes from left to right, with the first product as its start value.
 template <class T>
 VORM_HIDDEN void productsInPlanes(int order, const PlaneTable<const T>& a, const PlaneTable<const T>& b,
-                                  const PlaneTable<T>& d, int columns, int count);
+                                  const PlaneTable<T>& d, int columns, Run run, int count);
 
 extern template void productsInPlanes(int, const PlaneTable<const float>&, const PlaneTable<const float>&,
-                                      const PlaneTable<float>&, int, int);
+                                      const PlaneTable<float>&, int, Run, int);
 extern template void productsInPlanes(int, const PlaneTable<const double>&, const PlaneTable<const double>&,
-                                      const PlaneTable<double>&, int, int);
+                                      const PlaneTable<double>&, int, Run, int);
 
 }  // namespace vorm

@@ -94,11 +94,12 @@ template <class T, class A, class X, class D>
 VORM_INLINE VormStatus pointerProducts(const A& a, const X& x, const D& y, int rows, int terms, int count)
 {
     constexpr int width = Lanes<T>::width;
+    constexpr Run run = X::isCommon ? Run::whole : Run::vectors;
     int inLanes = 0;
-    if (count >= width && inPlanes(a) && inPlanes(x) && inPlanes(y) && planesApart(y, rows, count)) {
+    if (count >= width && inPlanes(a) && inPlanes(x) && inPlanes(y) && planesApart(y, rows, run, count)) {
         inLanes = count / width * width;
         if (rows == terms && rows >= 3 && rows <= 6)
-            productsInPlanes<T>(rows, planeTable(a), planeTable(x), planeTable(y), 1, inLanes);
+            productsInPlanes<T>(rows, planeTable(a), planeTable(x), planeTable(y), 1, run, inLanes);
         else
             for (int n = 0; n < inLanes; n += width) generalProductAnywhere<T, Lanes<T>>(a, x, y, rows, terms, n);
     }
