@@ -122,6 +122,10 @@ TEST(FixedVectors, KnownCases)
     vormCrossProduct_v4_32f(e, g, h, d);
     EXPECT_EQ(std::signbit(d[1]), false);
     EXPECT_EQ(d[3], -1);
+    const float w[4] = {0, 0, 0, 1};
+    vormCrossProduct_v4_32f(e, g, w, d);
+    EXPECT_EQ(d[2], 1);
+    EXPECT_EQ(std::signbit(d[3]), false);
 }
 
 }  // namespace
