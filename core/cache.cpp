@@ -31,8 +31,8 @@ int64_t largestCache(unsigned leaf)
 extern "C" int vorGetMaxCacheSizeB(int* sizeBytes)
 {
     if (!sizeBytes) return VorCoreNullPointer;
-    constexpr unsigned intelLeaf = 4, amdLeaf = 0x8000001d;  // the same format under two numbers
-    const int64_t size = std::max(largestCache(intelLeaf), largestCache(amdLeaf));
+    constexpr unsigned leaf = 4, extendedLeaf = 0x8000001d;  // the same format under two numbers
+    const int64_t size = std::max(largestCache(leaf), largestCache(extendedLeaf));
     if (size == 0) return VorCoreUnknown;
     *sizeBytes = static_cast<int>(std::min<int64_t>(size, INT_MAX));
     return VorCoreOk;

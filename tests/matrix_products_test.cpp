@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <random>
@@ -412,26 +413,31 @@ TEST(MatrixProduct, ShapeConditions)
     EXPECT_EQ(call(vormMul_mm_64f, 3, 2, 4, 3, 5), StatusBadStride);
 }
 
-// Objects of the destination that overlap keep what the last one stored, in every layout.
+// Where elements of the destination share memory, the last one of the last object stays, in every layout.
 TEST(MatrixProduct, OverlappingObjectsAscend)
 {
-    constexpr int n = 3, count = 9;
-    std::vector<float> a(n * n * count), b(n * n * count), d(128, -1.0f), wanted(128, -1.0f);
-    for (std::size_t k = 0; k < a.size(); ++k)
-        a[k] = static_cast<float>(k % 7) - 3, b[k] = static_cast<float>(k % 5) - 2;
-    float *pa[n * n], *pb[n * n], *pd[n * n];
-    for (int k = 0; k < n * n; ++k)
-        pa[k] = &a[static_cast<std::size_t>(k * count)], pb[k] = &b[static_cast<std::size_t>(k * count)],
-        pd[k] = &d[static_cast<std::size_t>(2 * k)];
-    for (int object = 0; object < count; ++object)
-        for (int i = 0; i < n; ++i)
-            for (int j = 0; j < n; ++j) {
-                float sum = 0;
-                for (int k = 0; k < n; ++k) sum += pa[i * n + k][object] * pb[k * n + j][object];
-                wanted[static_cast<std::size_t>(2 * (i * n + j) + object)] = sum;
-            }
-    ASSERT_EQ(vormMul_mama_32f_P(pa, 0, 4, n, n, pb, 0, 4, n, n, pd, 0, 4, count), StatusOk);
-    EXPECT_EQ(d, wanted);
+    constexpr int count = 9;
+    for (const int n : {3, 4, 5, 6})
+        for (const bool pairs : {false, true}) {  // the first plane is the last one's too, or planes overlap in part
+            const int elements = n * n;
+            const auto at = [](int k) { return static_cast<std::size_t>(k); };
+            const auto place = [&](int k) { return at(pairs ? count * std::min(k, elements - 1 - k) : 2 * k); };
+            std::vector<float> a(at(elements * count)), b(a), d(at(elements * count), -1.0f), wanted(d);
+            for (std::size_t k = 0; k < a.size(); ++k)
+                a[k] = static_cast<float>(k % 7) - 3, b[k] = static_cast<float>(k % 5) - 2;
+            std::vector<float*> pa, pb, pd;
+            for (int k = 0; k < elements; ++k)
+                pa.push_back(&a[at(k * count)]), pb.push_back(&b[at(k * count)]), pd.push_back(&d[place(k)]);
+            for (int object = 0; object < count; ++object)
+                for (int i = 0; i < n; ++i)
+                    for (int j = 0; j < n; ++j) {
+                        float sum = 0;
+                        for (int k = 0; k < n; ++k) sum += pa[at(i * n + k)][object] * pb[at(k * n + j)][object];
+                        wanted[place(i * n + j) + at(object)] = sum;
+                    }
+            ASSERT_EQ(vormMul_mama_32f_P(pa.data(), 0, 4, n, n, pb.data(), 0, 4, n, n, pd.data(), 0, 4, count), StatusOk);
+            EXPECT_EQ(d, wanted) << "order " << n << (pairs ? ", pairs" : "");
+        }
 }
 
 TEST(MatrixProduct, Fixed4x4)

@@ -3,11 +3,11 @@
 #pragma once
 
 #include <algorithm>
-#include <cstdlib>
 
 #include "elementwise/objects.hpp"
 #include "elementwise/packed.hpp"
 #include "elementwise/runs.hpp"
+#include "frame/planes.hpp"
 
 namespace vorm {
 
@@ -182,15 +182,6 @@ VORM_INLINE VormStatus anyStride(const A& a, const B& b, const D& dst, int len, 
 // Structure of arrays: element i of all objects lies side by side, so that the whole registers run
 // along the objects. ----------------------------------------------------------------------------------
 
-template <class View>
-VORM_INLINE bool inPlanes(const View& view)
-{
-    if constexpr (View::isCommon)
-        return true;
-    else
-        return view.stride0 == static_cast<int>(sizeof(view(0, 0)));
-}
-
 // Element i of the objects from n on as the source of a run.
 template <class T, class View>
 VORM_INLINE auto planeSource(const View& view, int n, int i)
@@ -203,26 +194,11 @@ VORM_INLINE auto planeSource(const View& view, int n, int i)
         return Along<T>{view.element(i) + n};
 }
 
-// Whether no two planes of the destination share memory: only then may an element of a later object
-// be stored before one of an earlier object.
-template <class T>
-VORM_INLINE bool planesDisjoint(const VectorArrayPointers<T>& dst, int len, int count)
-{
-    const auto span = static_cast<std::ptrdiff_t>(sizeof(T)) * count;
-    for (int i = 1; i < len; ++i)
-        for (int j = 0; j < i; ++j) {
-            const auto apart = reinterpret_cast<const char*>(dst.pp[i]) - reinterpret_cast<const char*>(dst.pp[j]);
-            if (std::abs(apart) < span) return false;
-        }
-    return true;
-}
-
 template <class Op, class T, class A, class B>
 VORM_INLINE VormStatus pointerObjects(const A& a, const B& b, const VectorArrayPointers<T>& dst, int len, int count)
 {
-    // Testing the planes pair by pair has to stay small beside the work.
-    const bool worthwhile = count >= Lanes<T>::width && len / 2 < count;
-    if (!(worthwhile && inPlanes(a) && inPlanes(b) && inPlanes(dst) && planesDisjoint(dst, len, count)))
+    if (!(count >= Lanes<T>::width && inPlanes(a) && inPlanes(b) && inPlanes(dst) &&
+          planesApart(dst.pp, len, 1, std::ptrdiff_t{count} * int{sizeof(T)}, count)))
         return anyStride<Op>(a, b, dst, len, count);
 
     // Whole planes, unless constants are read again for each of them and are to stay in the cache.

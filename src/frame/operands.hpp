@@ -147,6 +147,11 @@ struct Transposed {  // t, ta
     decltype(auto) operator()(int n, int r, int c) const { return stored(n, c, r); }
 };
 
+template <class View>
+constexpr bool isTransposed = false;
+template <class Stored>
+constexpr bool isTransposed<Transposed<Stored>> = true;
+
 // Constants. -------------------------------------------------------------------------------------
 
 template <class T>

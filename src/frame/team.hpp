@@ -33,7 +33,7 @@ VORM_INLINE VormStatus inTeam(int count, const Work& work, std::size_t scratchPe
     VormStatus sharedStatus = StatusOk;
     const Scratch scratch(scratchPerThread * static_cast<std::size_t>(threads));
     // The number may have changed meanwhile; there is scratch for the first answer only.
-    const int asked = ownGetNumThreads();
+    const int asked = std::max(1, static_cast<int>(ownGetNumThreads()));
     const int wanted = scratchPerThread ? std::min(asked, threads) : asked;
 
     int chunkBase, chunkExtra;

@@ -17,7 +17,8 @@ template <Bodies bodies>
 VORM_INLINE int fixedOrder(Lengths lengths)
 {
     const bool square = lengths.m == lengths.n && lengths.n == lengths.k;
-    return bodies != Bodies::none && square && lengths.k <= (bodies == Bodies::upTo5 ? 5 : 6) ? lengths.k : 0;
+    const bool hasBody = lengths.k >= 3 && lengths.k <= (bodies == Bodies::upTo5 ? 5 : 6);
+    return bodies != Bodies::none && square && hasBody ? lengths.k : 0;
 }
 
 // Contiguous rows: stored views of all three operands. -----------------------------------------------
@@ -84,9 +85,9 @@ VORM_INLINE VormStatus pointerProducts(const A& a, const B& b, const MatrixArray
     constexpr int width = Lanes<T>::width;
     int inLanes = 0;
     if (count >= width && inPlanes(a) && inPlanes(b) && inPlanes(dst) &&
-        planesApart(dst, lengths.m * lengths.n, Run::matrices, count)) {
+        planesApart(dst, lengths.m, lengths.n, lengths.k, Run::matrices, count)) {
         inLanes = count / width * width;
-        if (const int order = fixedOrder<Bodies::upTo6>(lengths); order != 0 && order >= 3)
+        if (const int order = fixedOrder<Bodies::upTo6>(lengths); order != 0)
             productsInPlanes<T>(order, planeTable(a), planeTable(b), planeTable(dst), order, Run::matrices, inLanes);
         else
             for (int n = 0; n < inLanes; n += width) generalProductAnywhere<Lanes<T>, outermost>(a, b, dst, lengths, n);

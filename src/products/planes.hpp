@@ -1,30 +1,17 @@
-// Structure of arrays: pointer tables whose objects lie side by side, element by element, so that a
-// register holds the same element of several objects.
+// Products over structures of arrays.
 #pragma once
 
 #include <algorithm>
-#include <cstdlib>
+#include <utility>
 
 #include "frame/lanes.hpp"
-#include "frame/operands.hpp"
-#include "frame/small_matrix.hpp"
+#include "frame/planes.hpp"
 
 namespace vorm {
 
-template <class View>
-VORM_INLINE bool inPlanes(const View& view)
-{
-    if constexpr (isTransposed<View>)
-        return inPlanes(view.stored);
-    else if constexpr (View::isCommon)
-        return true;
-    else
-        return view.stride0 == static_cast<int>(sizeof(*view.pp[0]));
-}
-
-// Results are computed element by element for so many objects: all their first elements, all second
-// ones, and so on. Sources that are read again for other elements should stay in the cache, but the
-// longer the run along a plane, the better does the memory keep up.
+// At orders 3 to 6 results are computed for so many objects at once, some of their elements after the
+// other. Sources that are read again for other elements should stay in the cache, but the longer the
+// run along a plane, the better does the memory keep up.
 enum class Run { matrices, vectors, whole };  // whole: no plane is read twice
 template <class T>
 VORM_INLINE int objectsAtOnce(Run run, int count)
@@ -33,22 +20,13 @@ VORM_INLINE int objectsAtOnce(Run run, int count)
     return run == Run::whole ? count : std::min(count, (run == Run::vectors ? 16384 : 2048) / e);
 }
 
-// Whether the planes written at once lie apart, or are the same: only then may an element of a later
-// object be stored before one of an earlier object.
+// Whether the planes of D that are written at once lie apart.
 template <class View>
-VORM_INLINE bool planesApart(const View& dst, int elements, Run run, int count)
+VORM_INLINE bool planesApart(const View& dst, int rows, int columns, int terms, Run run, int count)
 {
     using T = std::remove_reference_t<decltype(*dst.pp[0])>;
     const auto span = std::ptrdiff_t{objectsAtOnce<T>(run, count)} * int{sizeof(T)};
-    const auto apart = [&](int i, int j) VORM_INLINE_LAMBDA {
-        return reinterpret_cast<const char*>(dst.pp[i]) - reinterpret_cast<const char*>(dst.pp[j]);
-    };
-    int ascending = 1;
-    while (ascending < elements && apart(ascending, ascending - 1) >= span) ++ascending;
-    for (int i = ascending; i < elements; ++i)
-        for (int j = 0; j < i; ++j)
-            if (const auto distance = std::abs(apart(i, j)); distance != 0 && distance < span) return false;
-    return true;
+    return planesApart(dst.pp, rows, columns, span, std::int64_t{terms} * count);
 }
 
 // An element of the object, or of as many objects from it on as Number has lanes.

@@ -96,7 +96,7 @@ VORM_INLINE VormStatus pointerProducts(const A& a, const X& x, const D& y, int r
     constexpr int width = Lanes<T>::width;
     constexpr Run run = X::isCommon ? Run::whole : Run::vectors;
     int inLanes = 0;
-    if (count >= width && inPlanes(a) && inPlanes(x) && inPlanes(y) && planesApart(y, rows, run, count)) {
+    if (count >= width && inPlanes(a) && inPlanes(x) && inPlanes(y) && planesApart(y, rows, 1, terms, run, count)) {
         inLanes = count / width * width;
         if (rows == terms && rows >= 3 && rows <= 6)
             productsInPlanes<T>(rows, planeTable(a), planeTable(x), planeTable(y), 1, run, inLanes);
