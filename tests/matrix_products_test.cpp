@@ -418,10 +418,14 @@ TEST(MatrixProduct, OverlappingObjectsAscend)
 {
     constexpr int count = 9;
     for (const int n : {3, 4, 5, 6})
-        for (const bool pairs : {false, true}) {  // the first plane is the last one's too, or planes overlap in part
-            const int elements = n * n;
+        for (const int distance : {2, 5, -2, 0}) {  // from plane to plane; 0: the first one is the last one too, ...
+            const int elements = n * n, last = elements - 1;
             const auto at = [](int k) { return static_cast<std::size_t>(k); };
-            const auto place = [&](int k) { return at(pairs ? count * std::min(k, elements - 1 - k) : 2 * k); };
+            const auto place = [&](int k) {
+                return at(distance == 0  ? count * std::min(k, last - k)
+                          : distance > 0 ? distance * k
+                                         : -distance * (last - k));
+            };
             std::vector<float> a(at(elements * count)), b(a), d(at(elements * count), -1.0f), wanted(d);
             for (std::size_t k = 0; k < a.size(); ++k)
                 a[k] = static_cast<float>(k % 7) - 3, b[k] = static_cast<float>(k % 5) - 2;
@@ -436,7 +440,7 @@ TEST(MatrixProduct, OverlappingObjectsAscend)
                         wanted[place(i * n + j) + at(object)] = sum;
                     }
             ASSERT_EQ(vormMul_mama_32f_P(pa.data(), 0, 4, n, n, pb.data(), 0, 4, n, n, pd.data(), 0, 4, count), StatusOk);
-            EXPECT_EQ(d, wanted) << "order " << n << (pairs ? ", pairs" : "");
+            EXPECT_EQ(d, wanted) << "order " << n << ", distance " << distance;
         }
 }
 
