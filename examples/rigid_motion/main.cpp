@@ -27,7 +27,7 @@ namespace {
 using Floats = std::vector<float>;
 
 constexpr int element = sizeof(float), row3 = 3 * element, row4 = 4 * element;
-constexpr int matrix3 = 3 * row3, matrix4 = 4 * row4, slot = row4;  // a slot holds a point and its 1
+constexpr int matrix3 = 3 * row3, slot = row4;  // a slot holds a point and its 1
 constexpr int frames = 12;
 constexpr double turnPerFrame = 2 * std::numbers::pi / frames;
 
