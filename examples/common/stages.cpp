@@ -44,19 +44,27 @@ void printVersion()
     std::printf("%s %s, built %s\n", version.libraryLabel, version.versionLabel, version.buildDateLabel);
 }
 
-void once(const char*, int, std::initializer_list<int>, const std::function<void()>& work) { work(); }
+double once(const char*, int, std::initializer_list<int>, const std::function<void()>& work)
+{
+    work();
+    return 0;
+}
 
-void timed(const char* what, int objects, std::initializer_list<int> threads, const std::function<void()>& work)
+double timed(const char* what, int objects, std::initializer_list<int> threads, const std::function<void()>& work)
 {
     std::printf("  %-46s %6d objects", what, objects);
+    double result = 0;
     for (const int number : threads) {
         std::int32_t used = 0;
         vorSetNumThreads(number);
         vorGetNumThreads(&used);
-        if (number == 1 || used > 1) std::printf(", %6.1f (%d)", nanosecondsPerObject(objects, work), used);
+        if (number != 1 && used == 1) continue;  // what 1 has told already
+        result = nanosecondsPerObject(objects, work);
+        std::printf(", %6.1f (%d)", result, used);
     }
     std::printf("\n");
     vorSetNumThreads(0);
+    return result;
 }
 
 int runProgram(int argc, char** argv, const char* defaultOutput,

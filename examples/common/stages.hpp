@@ -17,14 +17,14 @@ void printVersion();
 
 // How a stage of a program is run, so that one program can time what another one only uses: work may
 // be called more than once and has to give the same each time. threads are the numbers of threads worth
-// trying, 0 is the library's default.
-using Stage = void (*)(const char* what, int objects, std::initializer_list<int> threads,
-                       const std::function<void()>& work);
+// trying, 0 is the library's default. The result are nanoseconds per object with the last of them, or 0.
+using Stage = double (*)(const char* what, int objects, std::initializer_list<int> threads,
+                         const std::function<void()>& work);
 
-void once(const char* what, int objects, std::initializer_list<int> threads, const std::function<void()>& work);
+double once(const char* what, int objects, std::initializer_list<int> threads, const std::function<void()>& work);
 
 // Prints the nanoseconds per object of the fastest run with each number of threads.
-void timed(const char* what, int objects, std::initializer_list<int> threads, const std::function<void()>& work);
+double timed(const char* what, int objects, std::initializer_list<int> threads, const std::function<void()>& work);
 
 // The main function of a program called as PROGRAM [input.obj [output.png]]: 0 if run did not throw. What
 // it threw goes to standard error, with the line of the input for a bad mesh.
