@@ -22,7 +22,7 @@ double nanosecondsPerObject(int objects, const std::function<void()>& work)
     using Nanoseconds = std::chrono::duration<double, std::nano>;
     const auto now = [] { return std::chrono::steady_clock::now(); };
     Nanoseconds fastest = Nanoseconds::max(), all{};
-    for (int rounds = 0; rounds < 20 || all < std::chrono::milliseconds(50); ++rounds) {
+    for (int rounds = 0; rounds < 5 || all < std::chrono::milliseconds(30); ++rounds) {
         const auto start = now();
         work();
         const Nanoseconds round = now() - start;
