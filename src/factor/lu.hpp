@@ -4,147 +4,88 @@
 #pragma once
 
 #include <cstring>
-#include <utility>
+#include <limits>
+#include <type_traits>
 
 #include "frame/object_lanes.hpp"
 #include "vorm/status.h"
 
 namespace vorm {
 
+VORM_INLINE int pivotAt(const int* pivotIndex, std::ptrdiff_t k)
+{
+    return elementAt(pivotIndex, k * std::ptrdiff_t{sizeof(int)});
+}
+
 // Orders 3 to 6. --------------------------------------------------------------------------------------
 
-// A pivot below this is singular: 2^-125 and 2^-1021. Single precision orders the magnitudes as
-// double precision would, denormals and NaN included, since widening is exact.
-template <class T> constexpr T luTiny = sizeof(T) == sizeof(float) ? T(0x1p-125) : T(0x1p-1021);
-
-// The matrix in logical row order, and the source row each row came from.
-template <int n, class Number, class RowNumber> struct LuBlock {
+// The matrix in logical row order, and the source row each row came from: in lanes its number is bits
+// that are only moved.
+template <int n, class Number>
+struct LuBlock {
     Number a[n][n];
-    RowNumber rows[n];
+    std::conditional_t<std::is_arithmetic_v<Number>, int, Number> rows[n];
 };
 
-// Row numbers in lanes are bits that are only moved.
-template <class T>
-VORM_INLINE Lanes<T> rowNumber(int row)
-{
-    if constexpr (sizeof(T) == sizeof(float))
-        return _mm_castsi128_ps(_mm_set1_epi32(row));
-    else
-        return _mm_castsi128_pd(_mm_set1_epi64x(row));
-}
-VORM_INLINE int rowIn(float lane)
-{
-    int row;
-    std::memcpy(&row, &lane, sizeof row);
-    return row;
-}
-VORM_INLINE int rowIn(double lane)
-{
-    long row;
-    std::memcpy(&row, &lane, sizeof row);
-    return static_cast<int>(row);
-}
+// Factorises one object or a register of them, in place, until a pivot is singular in any lane. Returns
+// how many rows have passed; these are final. They are compiled once, in lu_blocks.cpp.
+template <int n, class Number>
+VORM_HIDDEN int luFactorise(LuBlock<n, Number>& lu);
 
-VORM_INLINE Lanes<float> operator^(Lanes<float> a, Lanes<float> b) { return _mm_xor_ps(a.v, b.v); }
-VORM_INLINE Lanes<double> operator^(Lanes<double> a, Lanes<double> b) { return _mm_xor_pd(a.v, b.v); }
-VORM_INLINE Lanes<float> operator|(Lanes<float> a, Lanes<float> b) { return _mm_or_ps(a.v, b.v); }
-VORM_INLINE Lanes<double> operator|(Lanes<double> a, Lanes<double> b) { return _mm_or_pd(a.v, b.v); }
-VORM_INLINE Lanes<float> operator&(LaneMask<float> m, Lanes<float> a) { return _mm_and_ps(m.bits, a.v); }
-VORM_INLINE Lanes<double> operator&(LaneMask<double> m, Lanes<double> a) { return _mm_and_pd(m.bits, a.v); }
-VORM_INLINE LaneMask<float> without(LaneMask<float> a, LaneMask<float> b) { return {_mm_andnot_ps(b.bits, a.bits)}; }
-VORM_INLINE LaneMask<double> without(LaneMask<double> a, LaneMask<double> b) { return {_mm_andnot_pd(b.bits, a.bits)}; }
+// Puts the rows of a block back to where they came from.
+template <int n, class T>
+VORM_HIDDEN void luToSourceOrder(LuBlock<n, Lanes<T>>& lu);
 
-// Which of the rows below k takes its place: in each lane one of them, or none.
-template <class T, int n> struct RowExchange {
-    LaneMask<T> with[n];
-};
-
-// The element of row k and, as a function, those of the rows below it.
-template <int k, class T, int n, class Element>
-VORM_INLINE void exchange(const RowExchange<T, n>& rows, const Element& element)
+template <int n>
+VORM_INLINE void storeRowNumbers(const Lanes<float> (&rows)[n], int* pivotIndex)
 {
-    const Lanes<T> top = element(k);
-    Lanes<T> changes = top ^ top;
-    for (int i = k + 1; i < n; ++i) {
-        const Lanes<T> change = rows.with[i] & (top ^ element(i));
-        element(i) = element(i) ^ change;
-        changes = changes | change;
-    }
-    element(k) = top ^ changes;
+    auto* const p = reinterpret_cast<float*>(pivotIndex);
+    storeRows({p, p + n, p + 2 * n, p + 3 * n}, rows);
 }
-
-// The first of the largest magnitudes in column k moves to row k. Neither does a NaN displace what
-// was the largest before it, nor anything a NaN.
-template <int k, int n, class T>
-VORM_INLINE RowExchange<T, n> pivotToRow(LuBlock<n, Lanes<T>, Lanes<T>>& lu)
+template <int n>
+VORM_INLINE void storeRowNumbers(const Lanes<double> (&rows)[n], int* pivotIndex)
 {
-    RowExchange<T, n> rows;
-    Lanes<T> largest = abs(lu.a[k][k]);
-    for (int i = k + 1; i < n; ++i) {
-        const Lanes<T> magnitude = abs(lu.a[i][k]);
-        rows.with[i] = magnitude > largest;
-        largest = select(rows.with[i], magnitude, largest);
-    }
-    LaneMask<T> later = rows.with[n - 1];  // the last one to displace the largest is the pivot
-    for (int i = n - 2; i > k; --i) {
-        const LaneMask<T> displaced = rows.with[i];
-        rows.with[i] = without(displaced, later);
-        later = later | displaced;
-    }
-    unrolled<n>([&](auto c) VORM_INLINE_LAMBDA {
-        exchange<k>(rows, [&](int i) VORM_INLINE_LAMBDA -> Lanes<T>& { return lu.a[i][c]; });
-    });
-    exchange<k>(rows, [&](int i) VORM_INLINE_LAMBDA -> Lanes<T>& { return lu.rows[i]; });
-    return rows;
-}
-template <int k, int n, class T>
-VORM_INLINE void pivotToRow(LuBlock<n, T, int>& lu)
-{
-    int pivot = k;
-    for (int i = k + 1; i < n; ++i)
-        if (abs(lu.a[i][k]) > abs(lu.a[pivot][k])) pivot = i;
-    std::swap(lu.rows[k], lu.rows[pivot]);
-    std::swap(lu.a[k], lu.a[pivot]);
-}
-
-// Factorises until a pivot is singular, in any lane; done(k) is told when row k has passed. Multipliers
-// are products with a reciprocal, only the last one is a quotient.
-template <int n, class Number, class RowNumber, class Done>
-VORM_INLINE bool luUnrolled(LuBlock<n, Number, RowNumber>& lu, Number tiny, const Done& done)
-{
-    const auto step = [&](auto k) VORM_INLINE_LAMBDA {
-        if constexpr (k < n - 1) pivotToRow<k>(lu);
-        if (any(abs(lu.a[k][k]) < tiny)) return false;
-        done(k);
-        if constexpr (k < n - 2) {
-            const Number reciprocal = Number(1) / lu.a[k][k];
-            for (int i = k + 1; i < n; ++i) lu.a[i][k] = lu.a[i][k] * reciprocal;
-        } else if constexpr (k == n - 2) {
-            lu.a[n - 1][k] = lu.a[n - 1][k] / lu.a[k][k];
+    for (int k = 0; k < n; ++k)
+        for (int l = 0; l < 2; ++l) {
+            const __m128i lane = _mm_castpd_si128(l ? _mm_unpackhi_pd(rows[k].v, rows[k].v) : rows[k].v);
+            elementAt(pivotIndex, (l * n + k) * int{sizeof(int)}) = _mm_cvtsi128_si32(lane);
         }
-        for (int i = k + 1; i < n; ++i)
-            for (int j = k + 1; j < n; ++j) lu.a[i][j] = lu.a[i][j] - lu.a[k][j] * lu.a[i][k];
-        return true;
-    };
-    return [&]<int... k>(std::integer_sequence<int, k...>) VORM_INLINE_LAMBDA {
-        return (... && step(std::integral_constant<int, k>{}));
-    }(std::make_integer_sequence<int, n>{});
 }
 
-// One object. A row is written when it has become a pivot row, the row numbers in any case.
+template <int n>
+VORM_INLINE void loadRowNumbers(const int* pivotIndex, Lanes<float> (&rows)[n])
+{
+    const auto* const p = reinterpret_cast<const float*>(pivotIndex);
+    loadRows({p, p + n, p + 2 * n, p + 3 * n}, rows);
+}
+template <int n>
+VORM_INLINE void loadRowNumbers(const int* pivotIndex, Lanes<double> (&rows)[n])
+{
+    for (int k = 0; k < n; ++k)
+        rows[k] = _mm_castsi128_pd(_mm_set_epi64x(pivotAt(pivotIndex, n + k), pivotAt(pivotIndex, k)));
+}
+
+// Rows anywhere, of one object or of a block of them, object by object and in the order of the pivots.
+template <class T, class View>
+[[gnu::noinline]] void scatterPivotRows(const View& dst, int first, int objects, int n, int passed,
+                                        const int* pivotIndex, const T* from)
+{
+    for (int l = 0; l < objects; ++l)
+        for (int k = 0; k < passed; ++k)
+            for (int c = 0; c < n; ++c)
+                dst(first + l, pivotAt(pivotIndex, l * n + k), c) = from[(k * n + c) * objects + l];
+}
+
+// One object. A row is written if it has become a pivot row, the row numbers in any case.
 template <int n, class T, class Src, class Dst>
 VORM_INLINE VormStatus luObject(const Src& src, const Dst& dst, int object, int* pivotIndex)
 {
-    LuBlock<n, T, int> lu;
-    for (int r = 0; r < n; ++r) {
-        lu.rows[r] = r;
-        for (int c = 0; c < n; ++c) lu.a[r][c] = src(object, r, c);
-    }
-    const bool regular = luUnrolled(lu, luTiny<T>, [&](int k) VORM_INLINE_LAMBDA {
-        for (int c = 0; c < n; ++c) dst(object, lu.rows[k], c) = lu.a[k][c];
-    });
-    for (int r = 0; r < n; ++r) elementAt(pivotIndex, r * int{sizeof(int)}) = lu.rows[r];
-    return regular ? StatusOk : StatusSingular;
+    LuBlock<n, T> lu;
+    gatherMatrices(src, object, 1, n, lu.a[0]);
+    const int passed = luFactorise(lu);
+    std::memcpy(static_cast<void*>(pivotIndex), lu.rows, sizeof lu.rows);
+    scatterPivotRows(dst, object, 1, n, passed, pivotIndex, lu.a[0]);
+    return passed == n ? StatusOk : StatusSingular;
 }
 
 // A register of objects; where any of them is singular nothing has been written.
@@ -152,47 +93,53 @@ template <int n, class T, class Src, class Dst>
 VORM_INLINE bool luLanes(const Src& src, const Dst& dst, int first, int* pivotIndex)
 {
     constexpr int width = Lanes<T>::width;
-    LuBlock<n, Lanes<T>, Lanes<T>> lu;
-    unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
-        lu.rows[r] = rowNumber<T>(r);
-        loadLanes(src, first, lu.a[r], int{r});
-    });
-    if (!luUnrolled(lu, Lanes<T>(luTiny<T>), [](int) VORM_INLINE_LAMBDA {})) return false;
-
-    T numbers[n][width];
-    for (int k = 0; k < n; ++k) lu.rows[k].store(numbers[k]);
-    for (int l = 0; l < width; ++l)
-        for (int k = 0; k < n; ++k) elementAt(pivotIndex, (l * n + k) * int{sizeof(int)}) = rowIn(numbers[k][l]);
-    if constexpr (isAdjacent<Dst>) {
-        for (int k = 0; k < n; ++k) {
-            T* to[width];
-            for (int l = 0; l < width; ++l) to[l] = rowAt(dst, first + l, rowIn(numbers[k][l]));
-            storeRows(to, lu.a[k]);
-        }
+    LuBlock<n, Lanes<T>> lu;
+    if constexpr (isAdjacent<Src>) {
+        unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
+            const T* from[width];
+            for (int l = 0; l < width; ++l) from[l] = rowAt(src, first + l, r);
+            loadRows(from, lu.a[r]);
+        });
+    } else if constexpr (isInPlanes<Src>) {
+        unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
+            for (int c = 0; c < n; ++c) lu.a[r][c] = Lanes<T>::load(src.element(r, c) + first);
+        });
     } else {
-        T elements[n][n][width];
-        for (int k = 0; k < n; ++k)
-            for (int c = 0; c < n; ++c) lu.a[k][c].store(elements[k][c]);
-        for (int l = 0; l < width; ++l)
-            for (int k = 0; k < n; ++k)
-                for (int c = 0; c < n; ++c) dst(first + l, rowIn(numbers[k][l]), c) = elements[k][c][l];
+        gatherMatrices(src, first, width, n, reinterpret_cast<T*>(lu.a));
+    }
+    if (luFactorise(lu) < n) return false;
+
+    storeRowNumbers(lu.rows, pivotIndex);
+    if constexpr (isAdjacent<Dst>) {
+        unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
+            T* to[width];
+            for (int l = 0; l < width; ++l) to[l] = rowAt(dst, first + l, pivotAt(pivotIndex, l * n + k));
+            storeRows(to, lu.a[k]);
+        });
+    } else if constexpr (isInPlanes<Dst>) {
+        luToSourceOrder(lu);
+        unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
+            for (int c = 0; c < n; ++c) lu.a[r][c].store(dst.element(r, c) + first);
+        });
+    } else {
+        scatterPivotRows(dst, first, width, n, n, pivotIndex, reinterpret_cast<const T*>(lu.a));
     }
     return true;
 }
 
+// An array, in order: what comes behind the first singular object stays untouched.
 template <int n, class T, class Src, class Dst>
 VORM_INLINE VormStatus luObjects(const Src& src, const Dst& dst, int* pivotIndex, int count)
 {
     constexpr int width = Lanes<T>::width;
     for (int done = 0; done < count;) {
         const auto pivots = [&](int object) VORM_INLINE_LAMBDA { return pivotIndex + std::ptrdiff_t{object} * n; };
-        bool apart = count - done >= width;
-        if constexpr (isAdjacent<Dst>) apart = apart && objectsApart(dst, done, n, n);
-        if (apart && luLanes<n, T>(src, dst, done, pivots(done))) {
+        bool inLanes = count - done >= width;
+        if constexpr (isAdjacent<Dst>) inLanes = inLanes && objectsApart(dst, done, n, n);
+        if (inLanes && luLanes<n, T>(src, dst, done, pivots(done))) {
             done += width;
             continue;
         }
-        // In order, so that what comes behind the first singular object stays untouched.
         for (const int end = std::min(done + width, count); done < end; ++done)
             if (const VormStatus status = luObject<n, T>(src, dst, done, pivots(done)); status != StatusOk)
                 return status;

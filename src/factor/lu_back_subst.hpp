@@ -345,9 +345,12 @@ VORM_INLINE VormStatus luMvaAnyStrideL(LU_MVA_PARAMS_L(T))
 template <class T>
 VORM_INLINE VormStatus luMvaPointers(LU_MVA_PARAMS_P(T))
 {
-    return luMvaKernel<T>(MatrixPointers{srcPointers, srcShift, order}, pivotIndex,
-                          VectorArrayPointers{src2Pointers, src2Shift, src2Stride0},
-                          VectorArrayPointers{dstPointers, dstShift, dstStride0}, order, count);
+    const MatrixPointers matrix{srcPointers, srcShift, order};
+    const VectorArrayPointers b{src2Pointers, src2Shift, src2Stride0};
+    const VectorArrayPointers x{dstPointers, dstShift, dstStride0};
+    if (order >= 3 && order <= 6 && inPlanes<T>(src2Stride0, dstStride0) && planesApart(dstPointers, order))
+        return luMvaKernel<T>(matrix, pivotIndex, asPlanes(b), asPlanes(x), order, count);
+    return luMvaKernel<T>(matrix, pivotIndex, b, x, order, count);
 }
 
 template <class T>
@@ -381,9 +384,13 @@ VORM_INLINE VormStatus luMavaAnyStrideL(LU_MAVA_PARAMS_L(T))
 template <class T>
 VORM_INLINE VormStatus luMavaPointers(LU_MAVA_PARAMS_P(T))
 {
-    return luMavaKernel<T>(MatrixArrayPointers{srcPointers, srcShift, srcStride0, order}, pivotIndex,
-                           VectorArrayPointers{src2Pointers, src2Shift, src2Stride0},
-                           VectorArrayPointers{dstPointers, dstShift, dstStride0}, order, count);
+    const MatrixArrayPointers matrices{srcPointers, srcShift, srcStride0, order};
+    const VectorArrayPointers b{src2Pointers, src2Shift, src2Stride0};
+    const VectorArrayPointers x{dstPointers, dstShift, dstStride0};
+    if (order >= 3 && order <= 6 && inPlanes<T>(srcStride0, src2Stride0, dstStride0) &&
+        planesApart(dstPointers, order))
+        return luMavaKernel<T>(asPlanes(matrices), pivotIndex, asPlanes(b), asPlanes(x), order, count);
+    return luMavaKernel<T>(matrices, pivotIndex, b, x, order, count);
 }
 
 }  // namespace vorm

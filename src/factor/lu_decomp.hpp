@@ -278,10 +278,13 @@ VORM_INLINE VormStatus luDecompMaPointers(LuComP<T>* general, LU_DECOMP_MA_PARAM
 {
     const MatrixArrayPointers srcs{srcPointers, srcShift, srcStride0, order};
     const MatrixArrayPointers dsts{dstPointers, dstShift, dstStride0, order};
-    return luDecompArray<T>(srcs, dsts, pivotIndex, order, count, [&](int n) {
+    const auto single = [&](int n) {
         return general(srcPointers, srcShift, srcStride0, pivotIndex + std::ptrdiff_t{n} * order, dstPointers,
                        dstShift, dstStride0, order, n);
-    });
+    };
+    if (order >= 3 && order <= 6 && inPlanes<T>(srcStride0, dstStride0) && planesApart(dstPointers, order * order))
+        return luDecompArray<T>(asPlanes(srcs), asPlanes(dsts), pivotIndex, order, count, single);
+    return luDecompArray<T>(srcs, dsts, pivotIndex, order, count, single);
 }
 
 // The general routines. -----------------------------------------------------------------------------

@@ -3,22 +3,24 @@
 #pragma once
 
 #include "factor/lu.hpp"
-#include "frame/object_lanes.hpp"
 
 namespace vorm {
 
-VORM_INLINE int pivotAt(const int* pivotIndex, std::ptrdiff_t k)
-{
-    return elementAt(pivotIndex, k * std::ptrdiff_t{sizeof(int)});
-}
-
 // Orders 3 to 6. --------------------------------------------------------------------------------------
 
-// x holds b in logical order before, the solution after. Terms are subtracted one by one, those first
-// whose unknown is found first. divided(x, i) is x divided by the i-th element of U's diagonal.
+// Factors in logical row order; x holds b in logical order before, the solution after.
+template <int n, class Number>
+struct LuSystem {
+    Number lu[n][n];
+    Number x[n];
+};
+
+// Terms are subtracted one by one, those first whose unknown is found first. divided(x, i) is x divided
+// by the i-th element of U's diagonal.
 template <int n, class Number, class Divided>
-VORM_INLINE void luSubstitute(const Number (&lu)[n][n], Number (&x)[n], const Divided& divided)
+VORM_INLINE void luSubstituteBy(LuSystem<n, Number>& system, const Divided& divided)
 {
+    auto& [lu, x] = system;
     for (int i = 1; i < n; ++i)
         for (int j = 0; j < i; ++j) x[i] = x[i] - lu[i][j] * x[j];
     for (int i = n - 1; i >= 0; --i) {
@@ -27,63 +29,80 @@ VORM_INLINE void luSubstitute(const Number (&lu)[n][n], Number (&x)[n], const Di
     }
 }
 
-// One vector, all of which is read before the first element is written.
-template <int n, class T, class B, class X, class Divided>
-VORM_INLINE void luSolveVector(const T (&lu)[n][n], const int (&rows)[n], const B& b, const X& dst, int object,
-                               const Divided& divided)
+// The same with true divisions, compiled once, in lu_blocks.cpp.
+template <int n, class Number>
+VORM_HIDDEN void luSubstitute(LuSystem<n, Number>& system);
+
+// The same where the factors and b lie in source order, rows[k] being where row k is.
+template <int n, class T>
+VORM_HIDDEN void luSubstituteInSourceOrder(LuSystem<n, Lanes<T>>& system, const Lanes<T> (&rows)[n]);
+
+// Rows anywhere, of one object or of a block of them, in the order of the pivots.
+template <class T, class View>
+[[gnu::noinline]] void gatherPivotRows(const View& matrix, int first, int objects, int n, const int* pivotIndex, T* to)
 {
-    T x[n];
-    for (int k = 0; k < n; ++k) x[k] = b(object, rows[k]);
-    luSubstitute(lu, x, divided);
-    for (int i = 0; i < n; ++i) dst(object, i) = x[i];
+    for (int l = 0; l < objects; ++l)
+        for (int k = 0; k < n; ++k)
+            for (int c = 0; c < n; ++c)
+                to[(k * n + c) * objects + l] = matrix(first + l, pivotAt(pivotIndex, l * n + k), c);
 }
 
-// The factors of one object in logical order.
-template <int n, class T, class M>
-VORM_INLINE void loadFactors(const M& matrix, int object, const int* pivotIndex, T (&lu)[n][n], int (&rows)[n])
-{
-    for (int k = 0; k < n; ++k) {
-        rows[k] = pivotAt(pivotIndex, k);
-        for (int c = 0; c < n; ++c) lu[k][c] = matrix(object, rows[k], c);
-    }
-}
-
+// One vector with its own matrix. All of it is read before the first element is written.
 template <int n, class T, class M, class B, class X>
 VORM_INLINE void luSolveObject(const M& matrix, const B& b, const X& dst, int object, const int* pivotIndex)
 {
-    T lu[n][n];
-    int rows[n];
-    loadFactors(matrix, object, pivotIndex, lu, rows);
-    luSolveVector(lu, rows, b, dst, object, [&](T x, int i) VORM_INLINE_LAMBDA { return x / lu[i][i]; });
+    LuSystem<n, T> system;
+    gatherPivotRows(matrix, object, 1, n, pivotIndex, system.lu[0]);
+    for (int k = 0; k < n; ++k) system.x[k] = b(object, pivotAt(pivotIndex, k));
+    luSubstitute(system);
+    for (int i = 0; i < n; ++i) dst(object, i) = system.x[i];
 }
 
-// The factors of a register of objects, each lane in its own logical order.
-template <int n, class T, class M>
-VORM_INLINE void loadFactors(const M& matrix, int first, const int* pivotIndex, Lanes<T> (&lu)[n][n])
+template <class X, int n, class T>
+VORM_INLINE void storeLanes(const X& dst, int first, const Lanes<T> (&x)[n])
 {
     constexpr int width = Lanes<T>::width;
-    for (int k = 0; k < n; ++k) {
-        const auto rowOf = [&](int l) VORM_INLINE_LAMBDA { return pivotAt(pivotIndex, l * n + k); };
-        if constexpr (isAdjacent<M>) {
-            const T* from[width];
-            for (int l = 0; l < width; ++l) from[l] = rowAt(matrix, first + l, rowOf(l));
-            loadRows(from, lu[k]);
-        } else {
-            for (int c = 0; c < n; ++c)
-                lu[k][c] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(matrix(first + l, rowOf(l), c)); });
-        }
+    if constexpr (isAdjacent<X>) {
+        T* to[width];
+        for (int l = 0; l < width; ++l) to[l] = dst.object(first + l);
+        storeRows(to, x);
+    } else if constexpr (isInPlanes<X>) {
+        for (int i = 0; i < n; ++i) x[i].store(dst.element(i) + first);
+    } else {
+        scatterVectors(dst, first, width, n, reinterpret_cast<const T*>(x));
     }
 }
 
+// A register of vectors with their matrices, each lane in its own logical order.
 template <int n, class T, class M, class B, class X>
 VORM_INLINE void luSolveLanes(const M& matrix, const B& b, const X& dst, int first, const int* pivotIndex)
 {
-    Lanes<T> lu[n][n], x[n];
-    loadFactors(matrix, first, pivotIndex, lu);
+    constexpr int width = Lanes<T>::width;
+    LuSystem<n, Lanes<T>> system;
+    if constexpr (isInPlanes<M>) {
+        Lanes<T> rows[n];
+        loadRowNumbers(pivotIndex, rows);
+        for (int r = 0; r < n; ++r) {
+            system.x[r] = Lanes<T>::load(b.element(r) + first);
+            for (int c = 0; c < n; ++c) system.lu[r][c] = Lanes<T>::load(matrix.element(r, c) + first);
+        }
+        luSubstituteInSourceOrder(system, rows);
+        return storeLanes(dst, first, system.x);
+    }
+    if constexpr (isAdjacent<M>)
+        for (int k = 0; k < n; ++k) {
+            const T* from[width];
+            for (int l = 0; l < width; ++l) from[l] = rowAt(matrix, first + l, pivotAt(pivotIndex, l * n + k));
+            loadRows(from, system.lu[k]);
+        }
+    else
+        gatherPivotRows(matrix, first, width, n, pivotIndex, reinterpret_cast<T*>(system.lu));
     for (int k = 0; k < n; ++k)
-        x[k] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, pivotAt(pivotIndex, l * n + k))); });
-    luSubstitute(lu, x, [&](Lanes<T> value, int i) VORM_INLINE_LAMBDA { return value / lu[i][i]; });
-    storeLanes(dst, first, x);
+        system.x[k] = gather<T>([&](int l) VORM_INLINE_LAMBDA {
+            return T(b(first + l, pivotAt(pivotIndex, l * n + k)));
+        });
+    luSubstitute(system);
+    storeLanes(dst, first, system.x);
 }
 
 // Objects in ascending order, a register of them wherever they share no memory.
@@ -113,32 +132,47 @@ VORM_INLINE void luSolvePairs(const M& matrix, const B& b, const X& dst, const i
         [&](int first) VORM_INLINE_LAMBDA { luSolveLanes<n, T>(matrix, b, dst, first, pivots(first)); });
 }
 
-// All vectors with one matrix: reciprocals of the diagonal, once per call.
+// All vectors with one matrix: reciprocals of the diagonal, once per call. Single vectors run in lanes
+// too, all of them the same.
 template <int n, class T, class M, class B, class X>
 VORM_INLINE void luSolveVectors(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int count)
 {
-    T lu[n][n], reciprocals[n];
+    constexpr int width = Lanes<T>::width;
+    T factors[n][n];
+    gatherPivotRows(matrix, 0, 1, n, pivotIndex, factors[0]);
+    LuSystem<n, Lanes<T>> system;
+    Lanes<T> reciprocals[n];
     int rows[n];
-    loadFactors(matrix, 0, pivotIndex, lu, rows);
-    Lanes<T> everywhere[n][n], reciprocalsEverywhere[n];
     for (int i = 0; i < n; ++i) {
-        reciprocals[i] = 1 / lu[i][i];
-        reciprocalsEverywhere[i] = reciprocals[i];
-        for (int j = 0; j < n; ++j) everywhere[i][j] = lu[i][j];
+        reciprocals[i] = T(1) / factors[i][i];
+        rows[i] = pivotAt(pivotIndex, i);
+        for (int j = 0; j < n; ++j) system.lu[i][j] = factors[i][j];
     }
+    const auto substitute = [&](const Lanes<T>(&natural)[n]) VORM_INLINE_LAMBDA {
+        for (int k = 0; k < n; ++k) system.x[k] = natural[rows[k]];
+        luSubstituteBy(system, [&](Lanes<T> x, int i) VORM_INLINE_LAMBDA { return x * reciprocals[i]; });
+    };
     luEachVector<n, T>(
         dst, count,
         [&](int object) VORM_INLINE_LAMBDA {
-            luSolveVector(lu, rows, b, dst, object,
-                          [&](T x, int i) VORM_INLINE_LAMBDA { return x * reciprocals[i]; });
+            Lanes<T> natural[n];
+            for (int i = 0; i < n; ++i) natural[i] = T(b(object, i));
+            substitute(natural);
+            for (int i = 0; i < n; ++i) dst(object, i) = lane0(system.x[i]);
         },
         [&](int first) VORM_INLINE_LAMBDA {
-            Lanes<T> natural[n], x[n];
-            loadLanes(b, first, natural);
-            for (int k = 0; k < n; ++k) x[k] = natural[rows[k]];
-            luSubstitute(everywhere, x,
-                         [&](Lanes<T> value, int i) VORM_INLINE_LAMBDA { return value * reciprocalsEverywhere[i]; });
-            storeLanes(dst, first, x);
+            Lanes<T> natural[n];
+            if constexpr (isAdjacent<B>) {
+                const T* from[width];
+                for (int l = 0; l < width; ++l) from[l] = b.object(first + l);
+                loadRows(from, natural);
+            } else if constexpr (isInPlanes<B>) {
+                for (int i = 0; i < n; ++i) natural[i] = Lanes<T>::load(b.element(i) + first);
+            } else {
+                gatherVectors(b, first, width, n, reinterpret_cast<T*>(natural));
+            }
+            substitute(natural);
+            storeLanes(dst, first, system.x);
         });
 }
 
