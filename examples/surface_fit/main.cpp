@@ -8,7 +8,6 @@
 #include <climits>
 #include <cmath>
 #include <cstdio>
-#include <numeric>
 #include <string>
 #include <vector>
 
@@ -27,7 +26,7 @@ constexpr int order = 6, rows = 24;  // rows: most neighbours that take part, th
 constexpr int element = sizeof(double), row3 = 3 * element, row6 = order * element;
 constexpr int points = rows * row3, design = rows * row6, heights = rows * element;  // from vertex to vertex
 constexpr int frame = 3 * row3, matrix = order * row6;
-constexpr std::size_t floats = order * order;
+constexpr std::size_t elements = order * order;
 
 std::size_t index(int n) { return static_cast<std::size_t>(n); }
 
@@ -47,6 +46,33 @@ std::vector<std::vector<int>> ringsOf(const Mesh& mesh)
     return rings;
 }
 
+struct Neighbour {
+    double distance, offset[3];
+};
+
+// The nearest of the vertices at most two edges away, from the vertex itself on.
+std::vector<Neighbour> nearest(const Mesh& mesh, const std::vector<std::vector<int>>& rings, std::size_t v)
+{
+    std::vector<int> near{static_cast<int>(v)};
+    for (const int first : rings[v]) {
+        near.push_back(first);
+        near.insert(near.end(), rings[index(first)].begin(), rings[index(first)].end());
+    }
+    std::sort(near.begin(), near.end());
+    near.erase(std::unique(near.begin(), near.end()), near.end());
+    std::vector<Neighbour> neighbours;
+    for (const int n : near) {
+        Neighbour& neighbour = neighbours.emplace_back();
+        for (std::size_t i = 0; i < 3; ++i)
+            neighbour.offset[i] = static_cast<double>(mesh.vertices[3 * index(n) + i]) - mesh.vertices[3 * v + i];
+        neighbour.distance = std::hypot(neighbour.offset[0], neighbour.offset[1], neighbour.offset[2]);
+    }
+    std::sort(neighbours.begin(), neighbours.end(),
+              [](const Neighbour& a, const Neighbour& b) { return a.distance < b.distance; });
+    if (neighbours.size() > rows) neighbours.resize(rows);
+    return neighbours;
+}
+
 // The neighbourhoods as arrays of equal objects: rows behind the last neighbour are zero, which changes
 // neither X^T X nor X^T z.
 struct Neighbourhoods {
@@ -56,7 +82,7 @@ struct Neighbourhoods {
     std::vector<int> sizes;
 };
 
-// The nearest of the vertices at most two edges away. A vertex without a normal has no neighbourhood.
+// A vertex without a normal has no neighbourhood.
 Neighbourhoods neighbourhoodsOf(const Mesh& mesh, const std::vector<float>& normals)
 {
     const auto rings = ringsOf(mesh);
@@ -65,40 +91,23 @@ Neighbourhoods neighbourhoodsOf(const Mesh& mesh, const std::vector<float>& norm
     for (std::size_t v = 0; v < rings.size(); ++v) {
         const float* const normal = &normals[3 * v];
         if (normal[0] == 0 && normal[1] == 0 && normal[2] == 0) continue;
-        const float axis[3] = {std::abs(normal[0]) < 0.7f ? 1.0f : 0.0f, std::abs(normal[0]) < 0.7f ? 0.0f : 1.0f, 0};
+        const bool alongX = std::abs(normal[0]) > 0.7f;
+        const float axis[3] = {alongX ? 0.0f : 1.0f, alongX ? 1.0f : 0.0f, 0};
         float tangents[2][3];
         vormCrossProduct_v3_32f(normal, axis, tangents[0]);
         vormNormalize_v3_32f(tangents[0], tangents[0]);
         vormCrossProduct_v3_32f(normal, tangents[0], tangents[1]);
-        std::copy_n(tangents[0], 6, &result.frames[9 * v]);
-        std::copy_n(normal, 3, &result.frames[9 * v + 6]);
+        double* axes = &result.frames[9 * v];
+        for (const float* from : {tangents[0], tangents[1], normal}) axes = std::copy_n(from, 3, axes);
 
-        std::vector<int> near{static_cast<int>(v)};
-        for (const int first : rings[v]) {
-            near.push_back(first);
-            near.insert(near.end(), rings[index(first)].begin(), rings[index(first)].end());
-        }
-        std::sort(near.begin(), near.end());
-        near.erase(std::unique(near.begin(), near.end()), near.end());
-        struct Neighbour {
-            double distance, offset[3];
-        };
-        std::vector<Neighbour> neighbours;
-        for (const int n : near) {
-            Neighbour& neighbour = neighbours.emplace_back();
-            for (std::size_t i = 0; i < 3; ++i)
-                neighbour.offset[i] = static_cast<double>(mesh.vertices[3 * index(n) + i]) - mesh.vertices[3 * v + i];
-            neighbour.distance = std::hypot(neighbour.offset[0], neighbour.offset[1], neighbour.offset[2]);
-        }
-        std::sort(neighbours.begin(), neighbours.end(),
-                  [](const Neighbour& a, const Neighbour& b) { return a.distance < b.distance; });
-        if (neighbours.size() > rows) neighbours.resize(rows);
+        const auto neighbours = nearest(mesh, rings, v);
+        const double radius = neighbours.back().distance;
+        result.radii[v] = radius;
         result.sizes[v] = static_cast<int>(neighbours.size());
-        result.radii[v] = neighbours.back().distance;
+        if (radius == 0) continue;
         double* to = &result.offsets[v * rows * 3];
-        if (result.radii[v] > 0)
-            for (const Neighbour& neighbour : neighbours)
-                for (const double offset : neighbour.offset) *to++ = offset / result.radii[v];
+        for (const Neighbour& neighbour : neighbours)
+            for (const double offset : neighbour.offset) *to++ = offset / radius;
     }
     return result;
 }
@@ -126,7 +135,7 @@ Systems systemsOf(const Neighbourhoods& around)
             z[r] = local[3 * r + 2];
         }
 
-    Systems systems{Doubles(index(count) * floats), Doubles(index(count) * order)};
+    Systems systems{Doubles(index(count) * elements), Doubles(index(count) * order)};
     timed("normal equations   vormMul_tama_64f 24x6", count, {1, 0}, [&] {
         expectOk(vormMul_tama_64f(x.data(), design, row6, element, order, rows, x.data(), design, row6, element, order,
                                   rows, systems.matrices.data(), matrix, row6, element, count),
@@ -148,7 +157,7 @@ struct Factors {
     // The pivots are the diagonal of U, row k of which is in row pivots[k].
     double pivot(std::size_t v, std::size_t k) const
     {
-        return matrices[v * floats + index(pivots[v * order + k]) * order + k];
+        return matrices[v * elements + index(pivots[v * order + k]) * order + k];
     }
 };
 
@@ -156,7 +165,7 @@ struct Factors {
 // several stretches may be left undone. Their pivots tell: row numbers are never negative.
 Factors decomposed(const Doubles& matrices)
 {
-    const std::size_t count = matrices.size() / floats;
+    const std::size_t count = matrices.size() / elements;
     Factors result{Doubles(matrices.size()), std::vector<int>(count * order, -1)};
     const auto undone = [&](std::size_t v) { return result.pivots[v * order] < 0; };
     for (std::size_t first = 0; first < count;) {
@@ -166,17 +175,17 @@ Factors decomposed(const Doubles& matrices)
             ++first;
             continue;
         }
-        const VormStatus status = vormLUDecomp_ma_64f(&matrices[first * floats], matrix, row6, element,
-                                                      &result.pivots[first * order], &result.matrices[first * floats],
+        const VormStatus status = vormLUDecomp_ma_64f(&matrices[first * elements], matrix, row6, element,
+                                                      &result.pivots[first * order], &result.matrices[first * elements],
                                                       matrix, row6, element, order, static_cast<int>(end - first));
         if (status != StatusSingular) expectOk(status, "vormLUDecomp_ma_64f");
     }
     return result;
 }
 
-// The library calls a matrix singular when no pivot is left at all. Rounding hides that: a pivot that ought
-// to be zero may be some epsilons, and the solution is noise. So the pivots are compared with each other. One of a
-// singular matrix is zero, as the rows that were not reached are.
+// The library calls a matrix of this order singular when no pivot is left at all. Rounding may leave some
+// epsilons where it ought to be zero, and then the solution is noise: so the pivots are compared with each other.
+// A singular matrix has a zero among them, since the rows that were not reached are as they were.
 enum class Rank { full, doubtful, singular };
 Rank rankOf(const Factors& factors, std::size_t v)
 {
@@ -259,7 +268,7 @@ void run(const std::string& input, const std::string& output)
         if (rank == Rank::full) known.push_back(curvature);
     }
     printVertices("Singular", singular);
-    printVertices("Too few neighbours or all in line", doubtful);
+    printVertices("Nearly singular", doubtful);
     if (known.empty()) throw BadMesh(0, "no vertex has a neighbourhood to fit");
     std::sort(known.begin(), known.end());
     const auto share = [&](double part) {
