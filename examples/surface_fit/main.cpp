@@ -8,6 +8,7 @@
 #include <climits>
 #include <cmath>
 #include <cstdio>
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -98,7 +99,8 @@ Neighbourhoods neighbourhoodsOf(const Mesh& mesh, const std::vector<float>& norm
         vormNormalize_v3_32f(tangents[0], tangents[0]);
         vormCrossProduct_v3_32f(normal, tangents[0], tangents[1]);
         double* axes = &result.frames[9 * v];
-        for (const float* from : {tangents[0], tangents[1], normal}) axes = std::copy_n(from, 3, axes);
+        for (const float* from : std::initializer_list<const float*>{tangents[0], tangents[1], normal})
+            axes = std::copy_n(from, 3, axes);
 
         const auto neighbours = nearest(mesh, rings, v);
         const double radius = neighbours.back().distance;
