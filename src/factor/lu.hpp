@@ -149,7 +149,8 @@ VORM_INLINE VormStatus luObjects(const Src& src, const Dst& dst, int* pivotIndex
 
 // All other orders. -----------------------------------------------------------------------------------
 
-template <class T> constexpr T luEpsilon = std::numeric_limits<T>::epsilon();
+template <class T>
+constexpr T luEpsilon = std::numeric_limits<T>::epsilon();
 
 // row[c] = row[c] - pivotRow[c] * factor for some columns.
 template <class T, class Row>
@@ -163,7 +164,8 @@ struct AdjacentRow {
     decltype(auto) operator()(int c) const { return elementAt(p, c * std::ptrdiff_t{sizeof(T)}); }
 };
 template <class T>
-VORM_INLINE void subtractMultiple(const AdjacentRow<T>& row, const AdjacentRow<T>& pivotRow, T factor, int from, int order)
+VORM_INLINE void subtractMultiple(const AdjacentRow<T>& row, const AdjacentRow<T>& pivotRow, T factor, int from,
+                                  int order)
 {
     constexpr int width = Lanes<T>::width;
     int c = from;
@@ -184,9 +186,8 @@ VORM_INLINE VormStatus luGeneral(const Src& src, const Dst& dst, int object, int
         if constexpr (adjacentRows<Dst>)
             return AdjacentRow<T>{rowAt(dst, object, physical)};
         else
-            return [&dst, object, physical](int c) VORM_INLINE_LAMBDA -> decltype(auto) {
-                return dst(object, physical, c);
-            };
+            return [&dst, object, physical](int c)
+                       VORM_INLINE_LAMBDA -> decltype(auto) { return dst(object, physical, c); };
     };
     for (int r = 0; r < order; ++r) {
         pivot(r) = r;

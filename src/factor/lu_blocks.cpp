@@ -37,9 +37,10 @@ __m128 sameBits(__m128 a, __m128 b)
 {
     return _mm_castsi128_ps(_mm_cmpeq_epi32(_mm_castps_si128(a), _mm_castps_si128(b)));
 }
-__m128d sameBits(__m128d a, __m128d b)  // of row numbers, whose upper halves are zero
+__m128d sameBits(__m128d a, __m128d b)  // of the lower halves, where row numbers are
 {
-    return _mm_castsi128_pd(_mm_cmpeq_epi32(_mm_castpd_si128(a), _mm_castpd_si128(b)));
+    const __m128i same = _mm_cmpeq_epi32(_mm_castpd_si128(a), _mm_castpd_si128(b));
+    return _mm_castsi128_pd(_mm_shuffle_epi32(same, _MM_SHUFFLE(2, 2, 0, 0)));
 }
 
 // larger, or what was the largest unless it is less: a NaN displaces nothing, and nothing displaces it.
@@ -118,7 +119,8 @@ int luFactorise(LuBlock<n, Number>& lu)
             for (int j = k + 1; j < n; ++j) lu.a[i][j] = lu.a[i][j] - lu.a[k][j] * lu.a[i][k];
         return true;
     };
-    [&]<int... k>(std::integer_sequence<int, k...>) VORM_INLINE_LAMBDA {
+    [&]<int... k>(std::integer_sequence<int, k...>) VORM_INLINE_LAMBDA
+    {
         (void)(... && step(std::integral_constant<int, k>{}));
     }
     (std::make_integer_sequence<int, n>{});
@@ -189,13 +191,13 @@ void luSubstituteInSourceOrder(LuSystem<n, Lanes<T>>& system, const Lanes<T> (&r
     }
 }
 
-#define LU_BLOCKS(n, T)                                              \
-    template int luFactorise(LuBlock<n, T>& lu);                     \
-    template int luFactorise(LuBlock<n, Lanes<T>>& lu);              \
-    template void luToSourceOrder(LuBlock<n, Lanes<T>>& lu);         \
-    template void luSubstitute(LuSystem<n, T>& system);              \
-    template void luSubstitute(LuSystem<n, Lanes<T>>& system);       \
-    template void luSubstituteInSourceOrder(LuSystem<n, Lanes<T>>& system, const Lanes<T> (&rows)[n]);
+#define LU_BLOCKS(n, T)                                        \
+    template int luFactorise(LuBlock<n, T>& lu);               \
+    template int luFactorise(LuBlock<n, Lanes<T>>& lu);        \
+    template void luToSourceOrder(LuBlock<n, Lanes<T>>& lu);   \
+    template void luSubstitute(LuSystem<n, T>& system);        \
+    template void luSubstitute(LuSystem<n, Lanes<T>>& system); \
+    template void luSubstituteInSourceOrder(LuSystem<n, Lanes<T>>& system, const Lanes<T>(&rows)[n]);
 #define LU_BLOCKS_OF_TYPE(T) LU_BLOCKS(3, T) LU_BLOCKS(4, T) LU_BLOCKS(5, T) LU_BLOCKS(6, T)
 
 LU_BLOCKS_OF_TYPE(float)

@@ -98,9 +98,8 @@ VORM_INLINE void luSolveLanes(const M& matrix, const B& b, const X& dst, int fir
     else
         gatherPivotRows(matrix, first, width, n, pivotIndex, reinterpret_cast<T*>(system.lu));
     for (int k = 0; k < n; ++k)
-        system.x[k] = gather<T>([&](int l) VORM_INLINE_LAMBDA {
-            return T(b(first + l, pivotAt(pivotIndex, l * n + k)));
-        });
+        system.x[k] =
+            gather<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, pivotAt(pivotIndex, l * n + k))); });
     luSubstitute(system);
     storeLanes(dst, first, system.x);
 }

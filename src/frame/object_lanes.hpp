@@ -11,7 +11,8 @@ namespace vorm {
 
 // Structure of arrays: a pointer layout whose objects lie side by side, a plane for each element.
 template <class View>
-struct InPlanes : View {};
+struct InPlanes : View {
+};
 template <class View>
 constexpr bool isInPlanes = false;
 template <class View>
