@@ -79,9 +79,8 @@ void fillTriangle(Vec a, Vec b, Vec c, int width, int height, const Sample& samp
 }
 
 // Colours are linear light, written with the usual gamma at the end.
-Vec shade(Vec normal)
+Vec shade(Vec normal, Vec colour)
 {
-    constexpr Vec clay{0.60f, 0.50f, 0.40f};
     const Vec key = unit({-0.45f, 0.75f, 0.65f}), fill = unit({0.9f, 0.1f, 0.45f}), eye{0, 0, 1};
     Vec n = unit(normal);
     if (n.z < -0.25f) n = -1 * n;  // an inner side; along the outline a smooth normal may point away a little
@@ -92,7 +91,7 @@ Vec shade(Vec normal)
     const Vec light = mix(Vec{0.05f, 0.045f, 0.04f}, Vec{0.19f, 0.21f, 0.24f}, sky) +
                       diffuse * Vec{0.85f, 0.82f, 0.76f} + 0.22f * std::max(0.0f, dot(n, fill)) * Vec{0.7f, 0.8f, 1.0f};
     const float shine = 0.16f * gloss + 0.10f * rim * sky;
-    return Vec{clay.x * light.x, clay.y * light.y, clay.z * light.z} + shine * Vec{1, 1, 1};
+    return Vec{colour.x * light.x, colour.y * light.y, colour.z * light.z} + shine * Vec{1, 1, 1};
 }
 
 Vec background(float height)  // 0 at the top, 1 at the bottom
@@ -126,7 +125,7 @@ std::uint8_t encoded(float linear)
 }  // namespace
 
 Picture drawMesh(std::span<const float> vertices, std::span<const float> normals, std::span<const int> corners,
-                 View view, int width, int height)
+                 View view, int width, int height, std::span<const float> colours)
 {
     const std::size_t vertexCount = vertices.size() / 3;
     const int samplesX = width * samplesPerSide, samplesY = height * samplesPerSide;
@@ -163,7 +162,8 @@ Picture drawMesh(std::span<const float> vertices, std::span<const float> normals
     // The nearest surface at each sample, and where the light does not reach the ground.
     const std::size_t samples = index(0, samplesY);
     std::vector<float> depth(samples, far), shadow(samples, 0.0f);
-    std::vector<Vec> surface(samples);
+    constexpr Vec clay{0.60f, 0.50f, 0.40f};
+    std::vector<Vec> surface(samples), colour(colours.empty() ? 0 : samples);
     for (std::size_t k = 0; k + 2 < corners.size(); k += 3) {
         const auto a = static_cast<std::size_t>(corners[k]), b = static_cast<std::size_t>(corners[k + 1]),
                    c = static_cast<std::size_t>(corners[k + 2]);
@@ -172,6 +172,8 @@ Picture drawMesh(std::span<const float> vertices, std::span<const float> normals
             if (z >= depth[index(x, y)]) return;
             depth[index(x, y)] = z;
             surface[index(x, y)] = w.x * turned[a] + w.y * turned[b] + w.z * turned[c];
+            if (colours.empty()) return;
+            colour[index(x, y)] = w.x * vecAt(colours, a) + w.y * vecAt(colours, b) + w.z * vecAt(colours, c);
         });
         fillTriangle(shadows[a], shadows[b], shadows[c], samplesX, samplesY,
                      [&](int x, int y, Vec) { shadow[index(x, y)] = 1; });
@@ -191,7 +193,8 @@ Picture drawMesh(std::span<const float> vertices, std::span<const float> normals
                 const std::size_t i =
                     index(x * samplesPerSide + s % samplesPerSide, y * samplesPerSide + s / samplesPerSide);
                 const Vec plain = background(static_cast<float>(y) / static_cast<float>(height));
-                sum = sum + (depth[i] < far ? shade(surface[i]) : (1 - 0.45f * shadow[i]) * plain);
+                sum = sum + (depth[i] < far ? shade(surface[i], colour.empty() ? clay : colour[i])
+                                            : (1 - 0.45f * shadow[i]) * plain);
             }
             const Vec pixel = 1.0f / (samplesPerSide * samplesPerSide) * sum;
             for (const float channel : {pixel.x, pixel.y, pixel.z}) picture.rgb.push_back(encoded(channel));

@@ -13,8 +13,9 @@ struct View {
 };
 
 // The mesh lies about the origin with a radius of about 1, y upwards; normals has one unit vector per
-// vertex (zero where there is none). The picture is fitted to the mesh.
+// vertex (zero where there is none), colours nothing or red, green and blue of linear light for each vertex.
+// The picture is fitted to the mesh.
 Picture drawMesh(std::span<const float> vertices, std::span<const float> normals, std::span<const int> corners,
-                 View view, int width, int height);
+                 View view, int width, int height, std::span<const float> colours = {});
 
 }  // namespace examples

@@ -1,26 +1,9 @@
 #!/bin/sh
 # The mesh example as a user runs it: mesh_normals_test.sh PROGRAM DATA_FOLDER.
-set -u
-program=$1
-data=$2
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
-cd "$work" || exit 1
-failures=0
+. "$(dirname "$0")/program.sh"
 
-fail()
-{
-    echo "FAILED: $*"
-    failures=$((failures + 1))
-}
-
-# Good meshes give a picture that is not empty, and tell the version.
-for mesh in bunny teapot; do
-    "$program" "$data/$mesh.obj" $mesh.png > out || fail "$mesh: exit code $?"
-    grep -q '7\.1\.1 (r37466)' out || fail "$mesh: no version"
-    [ "$(head -c 8 $mesh.png | od -An -tx1 | tr -d ' \n')" = 89504e470d0a1a0a ] || fail "$mesh: no PNG"
-    [ "$(wc -c < $mesh.png)" -gt 20000 ] || fail "$mesh: an empty picture"
-done
+draws "$data/bunny.obj" bunny.png
+draws "$data/teapot.obj" teapot.png
 
 # Triangles without area are left out and spoil nothing.
 {
@@ -28,34 +11,9 @@ done
     echo 'f 1 1 1'
     echo 'f 1 2 1'
 } > degenerate.obj
-"$program" degenerate.obj degenerate.png > out || fail "degenerate: exit code $?"
+draws degenerate.obj degenerate.png
 grep -q 'without area, left out: 2' out || fail "degenerate: not reported"
 cmp -s degenerate.png teapot.png || fail "degenerate: another picture"
 
-# Bad files: exit code 1, the reason on standard error, no file of any name left behind.
-refused()
-{
-    expected=$1
-    shift
-    ls > before
-    "$program" "$@" > /dev/null 2> err
-    code=$?
-    ls > after
-    [ $code -eq 1 ] || fail "$*: exit code $code"
-    grep -q -- "$expected" err || fail "$*: said '$(cat err)'"
-    cmp -s before after || fail "$*: left a file"
-}
-touch before after err
-printf 'v 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 9\n' > range.obj
-printf 'v 5 5 5\nv 5 5 5\nv 5 5 5\nf 1 2 3\n' > point.obj
-refused 'range.obj:4: vertex 9 of 3' range.obj bad.png
-refused 'too close together' point.obj bad.png
-refused 'control character' "$program" bad.png
-refused 'directory' . bad.png
-refused 'No such file' missing.obj bad.png
-refused 'No such file' "$data/teapot.obj" no/such/folder/bad.png
-mkdir folder
-refused 'directory' "$data/teapot.obj" folder
-refused 'is the input' range.obj ./range.obj
-refused 'usage' a b c
+refusesBadFiles
 exit $((failures > 0))

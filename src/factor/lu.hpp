@@ -1,0 +1,230 @@
+// LU decomposition with partial pivoting, P A = L U: one object or lanes of objects at a time for the
+// orders 3 to 6, row by row in the destination for all others. The two paths differ on purpose, in
+// the threshold, in what they test first and in where they work.
+#pragma once
+
+#include <cstring>
+#include <limits>
+#include <type_traits>
+
+#include "frame/object_lanes.hpp"
+#include "vorm/status.h"
+
+namespace vorm {
+
+VORM_INLINE int pivotAt(const int* pivotIndex, std::ptrdiff_t k)
+{
+    return elementAt(pivotIndex, k * std::ptrdiff_t{sizeof(int)});
+}
+
+// Orders 3 to 6. --------------------------------------------------------------------------------------
+
+// The matrix in logical row order, and the source row each row came from: in lanes its number is bits
+// that are only moved.
+template <int n, class Number>
+struct LuBlock {
+    Number a[n][n];
+    std::conditional_t<std::is_arithmetic_v<Number>, int, Number> rows[n];
+};
+
+// Factorises one object or a register of them, in place, until a pivot is singular in any lane. Returns
+// how many rows have passed; these are final. They are compiled once, in lu_blocks.cpp.
+template <int n, class Number>
+VORM_HIDDEN int luFactorise(LuBlock<n, Number>& lu);
+
+// Puts the rows of a block back to where they came from.
+template <int n, class T>
+VORM_HIDDEN void luToSourceOrder(LuBlock<n, Lanes<T>>& lu);
+
+template <int n>
+VORM_INLINE void storeRowNumbers(const Lanes<float> (&rows)[n], int* pivotIndex)
+{
+    auto* const p = reinterpret_cast<float*>(pivotIndex);
+    storeRows({p, p + n, p + 2 * n, p + 3 * n}, rows);
+}
+template <int n>
+VORM_INLINE void storeRowNumbers(const Lanes<double> (&rows)[n], int* pivotIndex)
+{
+    for (int k = 0; k < n; ++k)
+        for (int l = 0; l < 2; ++l) {
+            const __m128i lane = _mm_castpd_si128(l ? _mm_unpackhi_pd(rows[k].v, rows[k].v) : rows[k].v);
+            elementAt(pivotIndex, (l * n + k) * int{sizeof(int)}) = _mm_cvtsi128_si32(lane);
+        }
+}
+
+template <int n>
+VORM_INLINE void loadRowNumbers(const int* pivotIndex, Lanes<float> (&rows)[n])
+{
+    const auto* const p = reinterpret_cast<const float*>(pivotIndex);
+    loadRows({p, p + n, p + 2 * n, p + 3 * n}, rows);
+}
+template <int n>
+VORM_INLINE void loadRowNumbers(const int* pivotIndex, Lanes<double> (&rows)[n])
+{
+    for (int k = 0; k < n; ++k)
+        rows[k] = _mm_castsi128_pd(_mm_set_epi64x(pivotAt(pivotIndex, n + k), pivotAt(pivotIndex, k)));
+}
+
+// Rows anywhere, of one object or of a block of them, object by object and in the order of the pivots.
+template <class T, class View>
+[[gnu::noinline]] void scatterPivotRows(const View& dst, int first, int objects, int n, int passed,
+                                        const int* pivotIndex, const T* from)
+{
+    for (int l = 0; l < objects; ++l)
+        for (int k = 0; k < passed; ++k)
+            for (int c = 0; c < n; ++c)
+                dst(first + l, pivotAt(pivotIndex, l * n + k), c) = from[(k * n + c) * objects + l];
+}
+
+// One object. A row is written if it has become a pivot row, the row numbers in any case.
+template <int n, class T, class Src, class Dst>
+VORM_INLINE VormStatus luObject(const Src& src, const Dst& dst, int object, int* pivotIndex)
+{
+    LuBlock<n, T> lu;
+    gatherMatrices(src, object, 1, n, lu.a[0]);
+    const int passed = luFactorise(lu);
+    std::memcpy(static_cast<void*>(pivotIndex), lu.rows, sizeof lu.rows);
+    scatterPivotRows(dst, object, 1, n, passed, pivotIndex, lu.a[0]);
+    return passed == n ? StatusOk : StatusSingular;
+}
+
+// A register of objects; where any of them is singular nothing has been written.
+template <int n, class T, class Src, class Dst>
+VORM_INLINE bool luLanes(const Src& src, const Dst& dst, int first, int* pivotIndex)
+{
+    constexpr int width = Lanes<T>::width;
+    LuBlock<n, Lanes<T>> lu;
+    if constexpr (isAdjacent<Src>) {
+        unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
+            const T* from[width];
+            for (int l = 0; l < width; ++l) from[l] = rowAt(src, first + l, r);
+            loadRows(from, lu.a[r]);
+        });
+    } else if constexpr (isInPlanes<Src>) {
+        unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
+            for (int c = 0; c < n; ++c) lu.a[r][c] = Lanes<T>::load(src.element(r, c) + first);
+        });
+    } else {
+        gatherMatrices(src, first, width, n, reinterpret_cast<T*>(lu.a));
+    }
+    if (luFactorise(lu) < n) return false;
+
+    storeRowNumbers(lu.rows, pivotIndex);
+    if constexpr (isAdjacent<Dst>) {
+        unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
+            T* to[width];
+            for (int l = 0; l < width; ++l) to[l] = rowAt(dst, first + l, pivotAt(pivotIndex, l * n + k));
+            storeRows(to, lu.a[k]);
+        });
+    } else if constexpr (isInPlanes<Dst>) {
+        luToSourceOrder(lu);
+        unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
+            for (int c = 0; c < n; ++c) lu.a[r][c].store(dst.element(r, c) + first);
+        });
+    } else {
+        scatterPivotRows(dst, first, width, n, n, pivotIndex, reinterpret_cast<const T*>(lu.a));
+    }
+    return true;
+}
+
+// An array, in order: what comes behind the first singular object stays untouched.
+template <int n, class T, class Src, class Dst>
+VORM_INLINE VormStatus luObjects(const Src& src, const Dst& dst, int* pivotIndex, int count)
+{
+    constexpr int width = Lanes<T>::width;
+    for (int done = 0; done < count;) {
+        const auto pivots = [&](int object) VORM_INLINE_LAMBDA { return pivotIndex + std::ptrdiff_t{object} * n; };
+        bool inLanes = count - done >= width;
+        if constexpr (isAdjacent<Dst>) inLanes = inLanes && objectsApart(dst, done, n, n);
+        if (inLanes && luLanes<n, T>(src, dst, done, pivots(done))) {
+            done += width;
+            continue;
+        }
+        for (const int end = std::min(done + width, count); done < end; ++done)
+            if (const VormStatus status = luObject<n, T>(src, dst, done, pivots(done)); status != StatusOk)
+                return status;
+    }
+    return StatusOk;
+}
+
+// All other orders. -----------------------------------------------------------------------------------
+
+template <class T>
+constexpr T luEpsilon = std::numeric_limits<T>::epsilon();
+
+// row[c] = row[c] - pivotRow[c] * factor for some columns.
+template <class T, class Row>
+VORM_INLINE void subtractMultiple(const Row& row, const Row& pivotRow, T factor, int from, int order)
+{
+    for (int c = from; c < order; ++c) row(c) = row(c) - pivotRow(c) * factor;
+}
+template <class T>
+struct AdjacentRow {
+    T* p;
+    decltype(auto) operator()(int c) const { return elementAt(p, c * std::ptrdiff_t{sizeof(T)}); }
+};
+template <class T>
+VORM_INLINE void subtractMultiple(const AdjacentRow<T>& row, const AdjacentRow<T>& pivotRow, T factor, int from,
+                                  int order)
+{
+    constexpr int width = Lanes<T>::width;
+    int c = from;
+    for (; c + width <= order; c += width)
+        (Lanes<T>::load(row.p + c) - Lanes<T>::load(pivotRow.p + c) * Lanes<T>(factor)).store(row.p + c);
+    for (; c < order; ++c) row(c) = row(c) - pivotRow(c) * factor;
+}
+
+// Works in the destination, whose rows stay where they are: row r of the elimination is pivotIndex[r].
+template <class T, class Src, class Dst>
+VORM_INLINE VormStatus luGeneral(const Src& src, const Dst& dst, int object, int order, int* pivotIndex)
+{
+    const auto pivot = [&](int r) VORM_INLINE_LAMBDA -> decltype(auto) {
+        return elementAt(pivotIndex, r * std::ptrdiff_t{sizeof(int)});
+    };
+    const auto row = [&](int r) VORM_INLINE_LAMBDA {
+        const int physical = pivot(r);
+        if constexpr (adjacentRows<Dst>)
+            return AdjacentRow<T>{rowAt(dst, object, physical)};
+        else
+            return [&dst, object, physical](int c)
+                       VORM_INLINE_LAMBDA -> decltype(auto) { return dst(object, physical, c); };
+    };
+    for (int r = 0; r < order; ++r) {
+        pivot(r) = r;
+        if constexpr (adjacentRows<Src> && adjacentRows<Dst>) {
+            const T* const from = rowAt(src, object, r);
+            T* const to = rowAt(dst, object, r);
+            const auto bytes = std::ptrdiff_t{order} * int{sizeof(T)};
+            const auto apart = std::abs(reinterpret_cast<const char*>(from) - reinterpret_cast<const char*>(to));
+            if (order > 24 && apart >= bytes) {
+                std::memcpy(static_cast<void*>(to), from, static_cast<std::size_t>(bytes));
+                continue;
+            }
+        }
+        for (int c = 0; c < order; ++c) dst(object, r, c) = src(object, r, c);
+    }
+
+    for (int k = 0; k < order - 1; ++k) {
+        int p = k;
+        T largest = abs(T(row(k)(k)));
+        for (int i = k + 1; i < order; ++i)
+            if (const T magnitude = abs(T(row(i)(k))); magnitude > largest) largest = magnitude, p = i;
+        if (largest <= luEpsilon<T>) return StatusSingular;
+        if (p != k) {
+            const int taken = pivot(k);
+            pivot(k) = pivot(p);
+            pivot(p) = taken;
+        }
+        const auto pivotRow = row(k);
+        const T reciprocal = 1 / T(pivotRow(k));
+        for (int i = k + 1; i < order; ++i) {
+            const auto target = row(i);
+            const T factor = T(target(k)) * reciprocal;
+            target(k) = factor;
+            subtractMultiple(target, pivotRow, factor, k + 1, order);
+        }
+    }
+    return abs(T(row(order - 1)(order - 1))) <= luEpsilon<T> ? StatusSingular : StatusOk;
+}
+
+}  // namespace vorm

@@ -1,0 +1,252 @@
+// Substitution with the factors of an LU decomposition, L U x = P b: one object or lanes of objects at
+// a time for the orders 3 to 6, element by element in the destination for all others.
+#pragma once
+
+#include "factor/lu.hpp"
+
+namespace vorm {
+
+// Orders 3 to 6. --------------------------------------------------------------------------------------
+
+// Factors in logical row order; x holds b in logical order before, the solution after.
+template <int n, class Number>
+struct LuSystem {
+    Number lu[n][n];
+    Number x[n];
+};
+
+// Terms are subtracted one by one, those first whose unknown is found first. divided(x, i) is x divided
+// by the i-th element of U's diagonal.
+template <int n, class Number, class Divided>
+VORM_INLINE void luSubstituteBy(LuSystem<n, Number>& system, const Divided& divided)
+{
+    auto& [lu, x] = system;
+    for (int i = 1; i < n; ++i)
+        for (int j = 0; j < i; ++j) x[i] = x[i] - lu[i][j] * x[j];
+    for (int i = n - 1; i >= 0; --i) {
+        for (int j = n - 1; j > i; --j) x[i] = x[i] - lu[i][j] * x[j];
+        x[i] = divided(x[i], i);
+    }
+}
+
+// The same with true divisions, compiled once, in lu_blocks.cpp.
+template <int n, class Number>
+VORM_HIDDEN void luSubstitute(LuSystem<n, Number>& system);
+
+// The same where the factors and b lie in source order, rows[k] being where row k is.
+template <int n, class T>
+VORM_HIDDEN void luSubstituteInSourceOrder(LuSystem<n, Lanes<T>>& system, const Lanes<T> (&rows)[n]);
+
+// Rows anywhere, of one object or of a block of them, in the order of the pivots.
+template <class T, class View>
+[[gnu::noinline]] void gatherPivotRows(const View& matrix, int first, int objects, int n, const int* pivotIndex, T* to)
+{
+    for (int l = 0; l < objects; ++l)
+        for (int k = 0; k < n; ++k)
+            for (int c = 0; c < n; ++c)
+                to[(k * n + c) * objects + l] = matrix(first + l, pivotAt(pivotIndex, l * n + k), c);
+}
+
+// One vector with its own matrix. All of it is read before the first element is written.
+template <int n, class T, class M, class B, class X>
+VORM_INLINE void luSolveObject(const M& matrix, const B& b, const X& dst, int object, const int* pivotIndex)
+{
+    LuSystem<n, T> system;
+    gatherPivotRows(matrix, object, 1, n, pivotIndex, system.lu[0]);
+    for (int k = 0; k < n; ++k) system.x[k] = b(object, pivotAt(pivotIndex, k));
+    luSubstitute(system);
+    for (int i = 0; i < n; ++i) dst(object, i) = system.x[i];
+}
+
+template <class X, int n, class T>
+VORM_INLINE void storeLanes(const X& dst, int first, const Lanes<T> (&x)[n])
+{
+    constexpr int width = Lanes<T>::width;
+    if constexpr (isAdjacent<X>) {
+        T* to[width];
+        for (int l = 0; l < width; ++l) to[l] = dst.object(first + l);
+        storeRows(to, x);
+    } else if constexpr (isInPlanes<X>) {
+        for (int i = 0; i < n; ++i) x[i].store(dst.element(i) + first);
+    } else {
+        scatterVectors(dst, first, width, n, reinterpret_cast<const T*>(x));
+    }
+}
+
+// A register of vectors with their matrices, each lane in its own logical order.
+template <int n, class T, class M, class B, class X>
+VORM_INLINE void luSolveLanes(const M& matrix, const B& b, const X& dst, int first, const int* pivotIndex)
+{
+    constexpr int width = Lanes<T>::width;
+    LuSystem<n, Lanes<T>> system;
+    if constexpr (isInPlanes<M>) {
+        Lanes<T> rows[n];
+        loadRowNumbers(pivotIndex, rows);
+        for (int r = 0; r < n; ++r) {
+            system.x[r] = Lanes<T>::load(b.element(r) + first);
+            for (int c = 0; c < n; ++c) system.lu[r][c] = Lanes<T>::load(matrix.element(r, c) + first);
+        }
+        luSubstituteInSourceOrder(system, rows);
+        return storeLanes(dst, first, system.x);
+    }
+    if constexpr (isAdjacent<M>)
+        for (int k = 0; k < n; ++k) {
+            const T* from[width];
+            for (int l = 0; l < width; ++l) from[l] = rowAt(matrix, first + l, pivotAt(pivotIndex, l * n + k));
+            loadRows(from, system.lu[k]);
+        }
+    else
+        gatherPivotRows(matrix, first, width, n, pivotIndex, reinterpret_cast<T*>(system.lu));
+    for (int k = 0; k < n; ++k)
+        system.x[k] =
+            gather<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, pivotAt(pivotIndex, l * n + k))); });
+    luSubstitute(system);
+    storeLanes(dst, first, system.x);
+}
+
+// Objects in ascending order, a register of them wherever they share no memory.
+template <int n, class T, class X, class Single, class Register>
+VORM_INLINE void luEachVector(const X& dst, int count, const Single& single, const Register& lanesFrom)
+{
+    constexpr int width = Lanes<T>::width;
+    for (int done = 0; done < count;) {
+        bool apart = count - done >= width;
+        if constexpr (isAdjacent<X>) apart = apart && objectsApart(dst, done, 1, n);
+        if (apart) {
+            lanesFrom(done);
+            done += width;
+        } else {
+            for (const int end = std::min(done + width, count); done < end; ++done) single(done);
+        }
+    }
+}
+
+// Each vector with its own matrix: true divisions.
+template <int n, class T, class M, class B, class X>
+VORM_INLINE void luSolvePairs(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int count)
+{
+    const auto pivots = [&](int object) VORM_INLINE_LAMBDA { return pivotIndex + std::ptrdiff_t{object} * n; };
+    luEachVector<n, T>(
+        dst, count, [&](int object) VORM_INLINE_LAMBDA { luSolveObject<n, T>(matrix, b, dst, object, pivots(object)); },
+        [&](int first) VORM_INLINE_LAMBDA { luSolveLanes<n, T>(matrix, b, dst, first, pivots(first)); });
+}
+
+// All vectors with one matrix: reciprocals of the diagonal, once per call. Single vectors run in lanes
+// too, all of them the same.
+template <int n, class T, class M, class B, class X>
+VORM_INLINE void luSolveVectors(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int count)
+{
+    constexpr int width = Lanes<T>::width;
+    T factors[n][n];
+    gatherPivotRows(matrix, 0, 1, n, pivotIndex, factors[0]);
+    LuSystem<n, Lanes<T>> system;
+    Lanes<T> reciprocals[n];
+    int rows[n];
+    for (int i = 0; i < n; ++i) {
+        reciprocals[i] = T(1) / factors[i][i];
+        rows[i] = pivotAt(pivotIndex, i);
+        for (int j = 0; j < n; ++j) system.lu[i][j] = factors[i][j];
+    }
+    const auto substitute = [&](const Lanes<T>(&natural)[n]) VORM_INLINE_LAMBDA {
+        for (int k = 0; k < n; ++k) system.x[k] = natural[rows[k]];
+        luSubstituteBy(system, [&](Lanes<T> x, int i) VORM_INLINE_LAMBDA { return x * reciprocals[i]; });
+    };
+    luEachVector<n, T>(
+        dst, count,
+        [&](int object) VORM_INLINE_LAMBDA {
+            Lanes<T> natural[n];
+            for (int i = 0; i < n; ++i) natural[i] = T(b(object, i));
+            substitute(natural);
+            for (int i = 0; i < n; ++i) dst(object, i) = lane0(system.x[i]);
+        },
+        [&](int first) VORM_INLINE_LAMBDA {
+            Lanes<T> natural[n];
+            if constexpr (isAdjacent<B>) {
+                const T* from[width];
+                for (int l = 0; l < width; ++l) from[l] = b.object(first + l);
+                loadRows(from, natural);
+            } else if constexpr (isInPlanes<B>) {
+                for (int i = 0; i < n; ++i) natural[i] = Lanes<T>::load(b.element(i) + first);
+            } else {
+                gatherVectors(b, first, width, n, reinterpret_cast<T*>(natural));
+            }
+            substitute(natural);
+            storeLanes(dst, first, system.x);
+        });
+}
+
+// All other orders. -----------------------------------------------------------------------------------
+
+// The sum of row(j) x(j) for j from first to end - 1, from zero. Groups of eight terms go to eight sums,
+// folded as ((s0 + s1) + (s2 + s3)) + ((s4 + s5) + (s6 + s7)); the terms left over follow one by one.
+template <class T, class Row, class X>
+VORM_INLINE T sumOfProducts(const Row& row, const X& x, int first, int end)
+{
+    T total = 0;
+    int j = first;
+    if (end - first >= 8) {
+        T s[8] = {};
+        for (; end - j >= 8; j += 8)
+            for (int l = 0; l < 8; ++l) s[l] = s[l] + T(row(j + l)) * T(x(j + l));
+        total = ((s[0] + s[1]) + (s[2] + s[3])) + ((s[4] + s[5]) + (s[6] + s[7]));
+    }
+    for (; j < end; ++j) total = total + T(row(j)) * T(x(j));
+    return total;
+}
+VORM_INLINE float foldEight(const Lanes<float> (&s)[2])
+{
+    const __m128 pairs = _mm_hadd_ps(s[0].v, s[1].v), fours = _mm_hadd_ps(pairs, pairs);
+    return _mm_cvtss_f32(_mm_add_ss(fours, _mm_movehdup_ps(fours)));
+}
+VORM_INLINE double foldEight(const Lanes<double> (&s)[4])
+{
+    const __m128d fours = _mm_hadd_pd(_mm_hadd_pd(s[0].v, s[1].v), _mm_hadd_pd(s[2].v, s[3].v));
+    return _mm_cvtsd_f64(_mm_add_sd(fours, _mm_unpackhi_pd(fours, fours)));
+}
+template <class T>
+VORM_INLINE T sumOfProducts(const AdjacentRow<const T>& row, const AdjacentRow<T>& x, int first, int end)
+{
+    constexpr int width = Lanes<T>::width, registers = 8 / width;
+    T total = 0;
+    int j = first;
+    if (end - first >= 8) {
+        Lanes<T> s[registers];
+        for (Lanes<T>& sum : s) sum = T(0);
+        for (; end - j >= 8; j += 8)
+            for (int r = 0; r < registers; ++r)
+                s[r] = s[r] + Lanes<T>::load(row.p + j + r * width) * Lanes<T>::load(x.p + j + r * width);
+        total = foldEight(s);
+    }
+    for (; j < end; ++j) total = total + T(row(j)) * T(x(j));
+    return total;
+}
+
+// The intermediate vector lives in the destination while b is read in permuted order.
+template <class T, class M, class B, class X>
+VORM_INLINE void luSolveGeneral(const M& matrix, const B& b, const X& dst, int object, int order, const int* pivotIndex)
+{
+    const auto row = [&](int k) VORM_INLINE_LAMBDA {
+        const int physical = pivotAt(pivotIndex, k);
+        if constexpr (adjacentRows<M> && isAdjacent<X>)
+            return AdjacentRow<const T>{rowAt(matrix, object, physical)};
+        else
+            return [&matrix, object, physical](int c) VORM_INLINE_LAMBDA { return T(matrix(object, physical, c)); };
+    };
+    const auto x = [&]() VORM_INLINE_LAMBDA {
+        if constexpr (adjacentRows<M> && isAdjacent<X>)
+            return AdjacentRow<T>{dst.object(object)};
+        else
+            return [&dst, object](int i) VORM_INLINE_LAMBDA -> decltype(auto) { return dst(object, i); };
+    }();
+    const auto permuted = [&](int k) VORM_INLINE_LAMBDA { return T(b(object, pivotAt(pivotIndex, k))); };
+
+    x(0) = permuted(0);
+    for (int i = 1; i < order; ++i) x(i) = permuted(i) - sumOfProducts<T>(row(i), x, 0, i);
+    x(order - 1) = T(x(order - 1)) / row(order - 1)(order - 1);
+    for (int i = order - 2; i >= 0; --i) {
+        const auto rowI = row(i);
+        x(i) = (T(x(i)) - sumOfProducts<T>(rowI, x, i + 1, order)) / rowI(i);
+    }
+}
+
+}  // namespace vorm

@@ -1,0 +1,12 @@
+// vormLUBackSubst_mava: the kernels for contiguous elements, single precision.
+
+#include "factor/lu_back_subst.hpp"
+
+using namespace vorm;
+
+extern "C" {
+
+VormStatus n8_ownvormLUBackSubst_mava_32f(LU_MAVA_PARAMS(float)) { return luMavaContiguous(LU_MAVA_ARGS); }
+VormStatus n8_ownvormLUBackSubst_mava_32f_L(LU_MAVA_PARAMS_L(float)) { return luMavaContiguousL(LU_MAVA_ARGS_L); }
+
+}
