@@ -277,8 +277,7 @@ VORM_INLINE VormStatus luMvaKernel(const M& matrix, const int* pivotIndex, const
     case 4: luSolveVectors<4, T>(matrix, b, dst, pivotIndex, count); break;
     case 5: luSolveVectors<5, T>(matrix, b, dst, pivotIndex, count); break;
     case 6: luSolveVectors<6, T>(matrix, b, dst, pivotIndex, count); break;
-    default:
-        for (int n = 0; n < count; ++n) luSolveGeneral<T>(matrix, b, dst, n, order, pivotIndex);
+    default: luSolveVectorsGeneral<T>(matrix, b, dst, pivotIndex, order, count);
     }
     return StatusOk;
 }
@@ -292,9 +291,7 @@ VORM_INLINE VormStatus luMavaKernel(const M& matrix, const int* pivotIndex, cons
     case 4: luSolvePairs<4, T>(matrix, b, dst, pivotIndex, count); break;
     case 5: luSolvePairs<5, T>(matrix, b, dst, pivotIndex, count); break;
     case 6: luSolvePairs<6, T>(matrix, b, dst, pivotIndex, count); break;
-    default:
-        for (int n = 0; n < count; ++n)
-            luSolveGeneral<T>(matrix, b, dst, n, order, pivotIndex + std::ptrdiff_t{n} * order);
+    default: luSolvePairsGeneral<T>(matrix, b, dst, pivotIndex, order, count);
     }
     return StatusOk;
 }
@@ -348,7 +345,7 @@ VORM_INLINE VormStatus luMvaPointers(LU_MVA_PARAMS_P(T))
     const MatrixPointers matrix{srcPointers, srcShift, order};
     const VectorArrayPointers b{src2Pointers, src2Shift, src2Stride0};
     const VectorArrayPointers x{dstPointers, dstShift, dstStride0};
-    if (order >= 3 && order <= 6 && inPlanes<T>(src2Stride0, dstStride0) && planesApart(dstPointers, order))
+    if (inPlanes<T>(src2Stride0, dstStride0) && (order > 6 || planesApart(dstPointers, order)))
         return luMvaKernel<T>(matrix, pivotIndex, asPlanes(b), asPlanes(x), order, count);
     return luMvaKernel<T>(matrix, pivotIndex, b, x, order, count);
 }
@@ -387,8 +384,7 @@ VORM_INLINE VormStatus luMavaPointers(LU_MAVA_PARAMS_P(T))
     const MatrixArrayPointers matrices{srcPointers, srcShift, srcStride0, order};
     const VectorArrayPointers b{src2Pointers, src2Shift, src2Stride0};
     const VectorArrayPointers x{dstPointers, dstShift, dstStride0};
-    if (order >= 3 && order <= 6 && inPlanes<T>(srcStride0, src2Stride0, dstStride0) &&
-        planesApart(dstPointers, order))
+    if (inPlanes<T>(srcStride0, src2Stride0, dstStride0) && (order > 6 || planesApart(dstPointers, order)))
         return luMavaKernel<T>(asPlanes(matrices), pivotIndex, asPlanes(b), asPlanes(x), order, count);
     return luMavaKernel<T>(matrices, pivotIndex, b, x, order, count);
 }

@@ -187,9 +187,13 @@ VORM_INLINE VormStatus luDecompArray(const Src& src, const Dst& dst, int* pivotI
     case 5: return luObjects<5, T>(src, dst, pivotIndex, count);
     case 6: return luObjects<6, T>(src, dst, pivotIndex, count);
     default:
-        for (int n = 0; n < count; ++n)
-            if (const VormStatus status = general(n); status != StatusOk) return status;
-        return StatusOk;
+        return luArray<T>(
+            dst, order, count,
+            [&](int first) {
+                return order <= luLanesOrder &&
+                       luLanesGeneral<T>(src, dst, first, order, pivotIndex + std::ptrdiff_t{first} * order);
+            },
+            general);
     }
 }
 
@@ -282,7 +286,7 @@ VORM_INLINE VormStatus luDecompMaPointers(LuComP<T>* general, LU_DECOMP_MA_PARAM
         return general(srcPointers, srcShift, srcStride0, pivotIndex + std::ptrdiff_t{n} * order, dstPointers,
                        dstShift, dstStride0, order, n);
     };
-    if (order >= 3 && order <= 6 && inPlanes<T>(srcStride0, dstStride0) && planesApart(dstPointers, order * order))
+    if (inPlanes<T>(srcStride0, dstStride0) && (order > 6 || planesApart(dstPointers, order * order)))
         return luDecompArray<T>(asPlanes(srcs), asPlanes(dsts), pivotIndex, order, count, single);
     return luDecompArray<T>(srcs, dsts, pivotIndex, order, count, single);
 }
