@@ -57,24 +57,32 @@ __m128d sameNumber(__m128d a, __m128d b)  // in the lower halves
 __m128 largerOf(Lanes<float> magnitude, Lanes<float> largest) { return _mm_max_ps(magnitude.v, largest.v); }
 __m128d largerOf(Lanes<double> magnitude, Lanes<double> largest) { return _mm_max_pd(magnitude.v, largest.v); }
 
-// Two rows change places in one lane.
-template <int l>
-VORM_INLINE void exchangeLane(Lanes<float>* rowK, Lanes<float>* rowP, int n)
+// Row k and, in each lane, the row whose number is given change places.
+VORM_INLINE void exchangeRows(Lanes<float>* a, int k, const int (&pivot)[4], int n)
 {
-    const __m128 mask = _mm_castsi128_ps(_mm_setr_epi32(-(l == 0), -(l == 1), -(l == 2), -(l == 3)));
+    Lanes<float>* const rowK = a + k * n;
+    Lanes<float>* const rows[4] = {a + pivot[0] * n, a + pivot[1] * n, a + pivot[2] * n, a + pivot[3] * n};
     for (int c = 0; c < n; ++c) {
-        const __m128 change = both(mask, differing(rowK[c].v, rowP[c].v));
-        rowK[c] = differing(rowK[c].v, change);
-        rowP[c] = differing(rowP[c].v, change);
+        __m128 top = rowK[c].v;
+        unrolled<4>([&](auto l) VORM_INLINE_LAMBDA {
+            const __m128 mask = _mm_castsi128_ps(_mm_setr_epi32(-(l == 0), -(l == 1), -(l == 2), -(l == 3)));
+            const __m128 mine = rows[l][c].v, change = both(mask, differing(top, mine));
+            top = differing(top, change);
+            rows[l][c] = differing(mine, change);
+        });
+        rowK[c] = top;
     }
 }
-template <int l>
-VORM_INLINE void exchangeLane(Lanes<double>* rowK, Lanes<double>* rowP, int n)
+VORM_INLINE void exchangeRows(Lanes<double>* a, int k, const int (&pivot)[2], int n)
 {
+    Lanes<double>* const rowK = a + k * n;
+    Lanes<double>* const rows[2] = {a + pivot[0] * n, a + pivot[1] * n};
     for (int c = 0; c < n; ++c) {
-        const __m128d k = rowK[c].v, p = rowP[c].v;
-        rowK[c] = l == 0 ? _mm_move_sd(k, p) : _mm_move_sd(p, k);
-        rowP[c] = l == 0 ? _mm_move_sd(p, k) : _mm_move_sd(k, p);
+        const __m128d top = rowK[c].v, low = rows[0][c].v;
+        rows[0][c] = _mm_move_sd(low, top);
+        const __m128d high = rows[1][c].v;
+        rows[1][c] = _mm_move_sd(top, high);
+        rowK[c] = _mm_move_sd(high, low);
     }
 }
 
@@ -92,13 +100,13 @@ VORM_INLINE Lanes<T> pivotToRow(Lanes<T>* a, int* rows, int k, int n)
         pivots = _mm_max_epi16(pivots, _mm_and_si128(displaced, bitsOf(rowNumber<T>(i).v)));
         largest = largerOf(magnitude, largest);
     }
-    int pivot[4];
-    _mm_storeu_si128(reinterpret_cast<__m128i*>(pivot), pivots);
-    unrolled<width>([&](auto l) VORM_INLINE_LAMBDA {
-        const int p = pivot[l * (4 / width)];
-        exchangeLane<l>(a + k * n, a + p * n, n);
-        std::swap(rows[l * n + k], rows[l * n + p]);
-    });
+    int numbers[4], pivot[width];
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(numbers), pivots);
+    for (int l = 0; l < width; ++l) {
+        pivot[l] = numbers[l * (4 / width)];
+        std::swap(rows[l * n + k], rows[l * n + pivot[l]]);
+    }
+    exchangeRows(a, k, pivot, n);
     return largest;
 }
 template <class T>
@@ -115,7 +123,7 @@ VORM_INLINE T pivotToRow(T* a, int* rows, int k, int n)
 }
 
 #ifndef LU_SELECT
-#define LU_SELECT(n, T) (n <= 4)
+#define LU_SELECT(n, T) (n <= 4 || sizeof(T) == sizeof(float))
 #endif
 // The same for the smallest orders, where all rows fit in registers: every row is looked at, and
 // changes places in the lanes whose pivot it is.
@@ -171,7 +179,8 @@ VORM_INLINE int eliminate(Number (&a)[n][n], const BringPivot& bringPivot)
             for (int j = k + 1; j < n; ++j) a[i][j] = a[i][j] - a[k][j] * a[i][k];
         return true;
     };
-    [&]<int... k>(std::integer_sequence<int, k...>) VORM_INLINE_LAMBDA {
+    [&]<int... k>(std::integer_sequence<int, k...>) VORM_INLINE_LAMBDA
+    {
         (void)(... && step(std::integral_constant<int, k>{}));
     }
     (std::make_integer_sequence<int, n>{});
@@ -210,8 +219,7 @@ int luFactorise(LuBlock<n, Number>& lu)
     if constexpr (!std::is_same_v<T, Number> && LU_SELECT(n, T)) {
         Lanes<T> rows[n];
         for (int r = 0; r < n; ++r) rows[r] = rowNumber<T>(r);
-        const int passed =
-            eliminate(lu.a, [&](auto k) VORM_INLINE_LAMBDA { selectPivotRow<k>(lu.a, rows); });
+        const int passed = eliminate(lu.a, [&](auto k) VORM_INLINE_LAMBDA { selectPivotRow<k>(lu.a, rows); });
         storeRowNumbers(rows, lu.rows[0]);
         return passed;
     } else {
@@ -223,13 +231,24 @@ int luFactorise(LuBlock<n, Number>& lu)
 template <class T>
 bool luFactorise(Lanes<T>* a, int* rows, int n)
 {
-    for (int i = 0; i < n * Lanes<T>::width; ++i) rows[i] = i % n;
+    for (int l = 0; l < Lanes<T>::width; ++l) std::iota(rows + l * n, rows + (l + 1) * n, 0);
     const Lanes<T> epsilon = std::numeric_limits<T>::epsilon();
     for (int k = 0; k < n - 1; ++k) {
         if (any(pivotToRow(a, rows, k, n) <= epsilon)) return false;
         const Lanes<T>* const pivotRow = a + k * n;
         const Lanes<T> reciprocal = Lanes<T>(T(1)) / pivotRow[k];
-        for (int i = k + 1; i < n; ++i) {
+        int i = k + 1;
+        for (; i + 1 < n; i += 2) {
+            Lanes<T>*const row = a + i * n, *const next = row + n;
+            const Lanes<T> factor = row[k] * reciprocal, nextFactor = next[k] * reciprocal;
+            row[k] = factor, next[k] = nextFactor;
+            for (int j = k + 1; j < n; ++j) {
+                const Lanes<T> pivot = pivotRow[j];
+                row[j] = row[j] - pivot * factor;
+                next[j] = next[j] - pivot * nextFactor;
+            }
+        }
+        if (i < n) {
             Lanes<T>* const row = a + i * n;
             const Lanes<T> factor = row[k] * reciprocal;
             row[k] = factor;

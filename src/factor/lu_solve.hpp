@@ -127,7 +127,8 @@ VORM_INLINE void luSolvePairs(const M& matrix, const B& b, const X& dst, const i
 {
     const auto pivots = [&](int object) VORM_INLINE_LAMBDA { return pivotIndex + std::ptrdiff_t{object} * n; };
     luEachVector<T>(
-        dst, n, count, [&](int object) VORM_INLINE_LAMBDA { luSolveObject<n, T>(matrix, b, dst, object, pivots(object)); },
+        dst, n, count,
+        [&](int object) VORM_INLINE_LAMBDA { luSolveObject<n, T>(matrix, b, dst, object, pivots(object)); },
         [&](int first) VORM_INLINE_LAMBDA { luSolveLanes<n, T>(matrix, b, dst, first, pivots(first)); });
 }
 

@@ -110,8 +110,7 @@ VORM_INLINE void loadRows(const T* const (&from)[width], Lanes<T>* to, int n)
         transpose(block);
         for (int i = 0; i < width; ++i) to[c + i] = block[i];
     }
-    for (; c < n; ++c)
-        to[c] = gather<T>([&](int l) VORM_INLINE_LAMBDA { return elementAt(from[l] + c, 0); });
+    for (; c < n; ++c) to[c] = gather<T>([&](int l) VORM_INLINE_LAMBDA { return elementAt(from[l] + c, 0); });
 }
 template <class T, int width>
 VORM_INLINE void storeRows(T* const (&to)[width], const Lanes<T>* from, int n)
@@ -123,8 +122,7 @@ VORM_INLINE void storeRows(T* const (&to)[width], const Lanes<T>* from, int n)
         transpose(block);
         for (int l = 0; l < width; ++l) block[l].store(to[l] + c);
     }
-    for (; c < n; ++c)
-        unrolled<width>([&](auto l) VORM_INLINE_LAMBDA { elementAt(to[l] + c, 0) = lane<l>(from[c]); });
+    for (; c < n; ++c) unrolled<width>([&](auto l) VORM_INLINE_LAMBDA { elementAt(to[l] + c, 0) = lane<l>(from[c]); });
 }
 
 template <class View>

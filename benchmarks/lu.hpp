@@ -1,6 +1,7 @@
 // LU decomposition and substitution, against Eigen (fixed-size, object by object), LAPACK and the loop
 // a user would write with the order known to the compiler. Everyone starts from packed objects that
 // are to be kept; Eigen's and LAPACK's own decompositions are made before their solving is measured.
+#pragma once
 
 #include <lapacke.h>
 
@@ -14,9 +15,7 @@
 #include "rows.hpp"
 #include "vorm/vorm.h"
 
-namespace bench {
-
-namespace {
+namespace bench::lu {
 
 enum class Layout { packed, list, planes };
 
@@ -88,13 +87,13 @@ struct LayoutOf {
     constexpr Layout operator()() const { return value; }
 };
 
-lapack_int getrf(int n, float* a, int* rows) { return LAPACKE_sgetrf_work(LAPACK_COL_MAJOR, n, n, a, n, rows); }
-lapack_int getrf(int n, double* a, int* rows) { return LAPACKE_dgetrf_work(LAPACK_COL_MAJOR, n, n, a, n, rows); }
-lapack_int getrs(int n, int many, const float* a, const int* rows, float* x)
+inline lapack_int getrf(int n, float* a, int* rows) { return LAPACKE_sgetrf_work(LAPACK_COL_MAJOR, n, n, a, n, rows); }
+inline lapack_int getrf(int n, double* a, int* rows) { return LAPACKE_dgetrf_work(LAPACK_COL_MAJOR, n, n, a, n, rows); }
+inline lapack_int getrs(int n, int many, const float* a, const int* rows, float* x)
 {
     return LAPACKE_sgetrs_work(LAPACK_COL_MAJOR, 'N', n, many, a, n, rows, x, n);
 }
-lapack_int getrs(int n, int many, const double* a, const int* rows, double* x)
+inline lapack_int getrs(int n, int many, const double* a, const int* rows, double* x)
 {
     return LAPACKE_dgetrs_work(LAPACK_COL_MAJOR, 'N', n, many, a, n, rows, x, n);
 }
@@ -138,6 +137,28 @@ template <int n, class T>
     }
 }
 
+// Eigen's code takes long to compile: it is the same for all layouts.
+template <int n, class T, int kept>
+[[gnu::noinline]] void eigenDecomposition(const Array<T>& a, const Array<T>& lu, int* rows, int count, Layout layout)
+{
+    using Matrix = Eigen::Matrix<T, n, n, kept>;
+    for (int object = 0; object < count; ++object) {
+        const Eigen::PartialPivLU<Matrix> result(Eigen::Map<const Matrix>(a.at(object, layout)));
+        Eigen::Map<Matrix>(lu.at(object, layout)) = result.matrixLU();
+        Eigen::Map<Eigen::Vector<int, n>>(rows + object * n) = result.permutationP().indices();
+    }
+}
+template <int n, class T>
+using Decomposition = Eigen::PartialPivLU<Eigen::Matrix<T, n, n, Eigen::RowMajor>>;
+template <int n, class T>
+[[gnu::noinline]] void eigenSolution(const Decomposition<n, T>* lu, int step, const Array<T>& b, const Array<T>& x,
+                                     int count, Layout layout)
+{
+    using Vector = Eigen::Vector<T, n>;
+    for (int object = 0; object < count; ++object, lu += step)
+        Eigen::Map<Vector>(x.at(object, layout)) = lu->solve(Eigen::Map<const Vector>(b.at(object, layout)));
+}
+
 template <class T>
 double wantedDecomposition(int n)
 {
@@ -173,18 +194,8 @@ Task decomposition(auto members, int count)
             [=, all = arguments(aPacked, luPacked, packed)] { std::apply(members.standard, all); });
         return task;
     }
-    const auto eigen = [=](auto kept) {
-        return [=] {
-            using Matrix = Eigen::Matrix<T, n, n, decltype(kept)::value>;
-            for (int object = 0; object < count; ++object) {
-                const Eigen::PartialPivLU<Matrix> result(Eigen::Map<const Matrix>(a.at(object, layout)));
-                Eigen::Map<Matrix>(lu.at(object, layout)) = result.matrixLU();
-                Eigen::Map<Eigen::Vector<int, n>>(rows + object * n) = result.permutationP().indices();
-            }
-        };
-    };
-    add("Eigen", eigen(std::integral_constant<int, Eigen::ColMajor>{}));
-    add("Eigen by rows", eigen(std::integral_constant<int, Eigen::RowMajor>{}));
+    add("Eigen", [=] { eigenDecomposition<n, T, Eigen::ColMajor>(a, lu, rows, count, layout); });
+    add("Eigen by rows", [=] { eigenDecomposition<n, T, Eigen::RowMajor>(a, lu, rows, count, layout); });
     add("LAPACK", [=] {
         for (int object = 0; object < count; ++object) {
             std::copy_n(a.at(object, layout), n * n, lu.at(object, layout));
@@ -206,12 +217,11 @@ Task solution(auto members, int count)
     const Array<T> a(n, n, matrices, layout, 387), b(1, n, count, layout, 621), x(1, n, count, layout, 783);
     const Array<T> lu(n, n, matrices, Layout::packed, 1);
     int* const rows = Memory::region<int>(std::ptrdiff_t{matrices} * n);
-    using Matrix = Eigen::Matrix<T, n, n, Eigen::RowMajor>;
-    using Vector = Eigen::Vector<T, n>;
-    auto decompositions = std::make_shared<std::vector<Eigen::PartialPivLU<Matrix>>>();
+    auto decompositions = std::make_shared<std::vector<Decomposition<n, T>>>();
     for (int object = 0; object < matrices; ++object) {
         plainDecomposition<n>(a.data + object * n * n, lu.data + object * n * n, rows + object * n);
-        decompositions->emplace_back(Eigen::Map<const Matrix>(a.data + object * n * n));
+        decompositions->emplace_back(
+            Eigen::Map<const Eigen::Matrix<T, n, n, Eigen::RowMajor>>(a.data + object * n * n));
     }
     // Ours keep their rows where the source had them.
     for (int object = 0; object < matrices; ++object)
@@ -246,11 +256,7 @@ Task solution(auto members, int count)
             [=, all = arguments(aPacked, bPacked, xPacked, packed)] { std::apply(members.standard, all); });
         return task;
     }
-    add("Eigen", [=] {
-        for (int object = 0; object < count; ++object)
-            Eigen::Map<Vector>(x.at(object, layout)) = (*decompositions)[std::size_t(ownMatrices ? object : 0)].solve(
-                Eigen::Map<const Vector>(b.at(object, layout)));
-    });
+    add("Eigen", [=] { eigenSolution<n, T>(decompositions->data(), ownMatrices, b, x, count, layout); });
     int* const exchanges = Memory::region<int>(n);
     std::iota(exchanges, exchanges + n, 1);
     add("LAPACK", [=] {
@@ -281,7 +287,7 @@ struct LuSections {
 };
 
 template <class T, int... n>
-void addAll(LuSections& s, auto decompose, auto solveVectors, auto solvePairs, std::integer_sequence<int, n...>)
+void addOrders(LuSections& s, auto decompose, auto solveVectors, auto solvePairs)
 {
     (..., [&] {
         const int streaming = static_cast<int>(streamingBytes() / (n * n * sizeof(T)) / 16 * 16);
@@ -308,25 +314,8 @@ void addAll(LuSections& s, auto decompose, auto solveVectors, auto solvePairs, s
     }());
 }
 
-}  // namespace
+// Each element type in its own file.
+void addAll32f(LuSections& s);
+void addAll64f(LuSections& s);
 
-void addLu(Sections& sections)
-{
-    const auto section = [&](std::string title, std::string about) -> Section& {
-        return sections.emplace_back(Section{std::move(title), std::move(about)});
-    };
-    const std::string resident = std::to_string(residentObjects) + " objects";
-    LuSections s{
-        section("LU, resident", resident + ", packed."),
-        section("LU, streaming", std::to_string(streamingBytes() >> 20) + " MiB of matrices, packed."),
-        section("LU in a list, resident", resident + ", packed but visited out of order."),
-        section("LU as structure of arrays, resident", resident + ", a pointer table and one plane per element."),
-    };
-    constexpr std::integer_sequence<int, 3, 4, 5, 6, 8, 12> orders;
-    addAll<float>(s, MEMBERS(vormLUDecomp_ma_32f), MEMBERS(vormLUBackSubst_mva_32f), MEMBERS(vormLUBackSubst_mava_32f),
-                  orders);
-    addAll<double>(s, MEMBERS(vormLUDecomp_ma_64f), MEMBERS(vormLUBackSubst_mva_64f), MEMBERS(vormLUBackSubst_mava_64f),
-                   orders);
-}
-
-}  // namespace bench
+}  // namespace bench::lu
