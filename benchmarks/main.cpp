@@ -150,6 +150,7 @@ int run(const std::string& filter, const std::string& output)
     addElementwise(sections);
     addVectorProducts(sections);
     addMatrixProducts(sections);
+    addLu(sections);
     addCalls(sections);
     addTeam(sections);
 

@@ -19,16 +19,21 @@ VORM_INLINE int pivotAt(const int* pivotIndex, std::ptrdiff_t k)
 
 // Orders 3 to 6. --------------------------------------------------------------------------------------
 
-// The matrix in logical row order, and the source row each row came from: in lanes its number is bits
-// that are only moved.
+template <class Number>
+constexpr int objectsIn = 1;
+template <class T>
+constexpr int objectsIn<Lanes<T>> = Lanes<T>::width;
+
+// One object or a register of them: matrices in logical row order, and the source rows each object's rows
+// came from.
 template <int n, class Number>
 struct LuBlock {
     Number a[n][n];
-    std::conditional_t<std::is_arithmetic_v<Number>, int, Number> rows[n];
+    int rows[objectsIn<Number>][n];
 };
 
-// Factorises one object or a register of them, in place, until a pivot is singular in any lane. Returns
-// how many rows have passed; these are final. They are compiled once, in lu_blocks.cpp.
+// Factorises a block in place, until a pivot is singular in any of its objects. Returns how many rows
+// have passed; these are final. All bodies of blocks are compiled once, in lu_blocks.cpp.
 template <int n, class Number>
 VORM_HIDDEN int luFactorise(LuBlock<n, Number>& lu);
 
@@ -109,7 +114,7 @@ VORM_INLINE bool luLanes(const Src& src, const Dst& dst, int first, int* pivotIn
     }
     if (luFactorise(lu) < n) return false;
 
-    storeRowNumbers(lu.rows, pivotIndex);
+    std::memcpy(static_cast<void*>(pivotIndex), lu.rows, sizeof lu.rows);
     if constexpr (isAdjacent<Dst>) {
         unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
             T* to[width];
@@ -128,23 +133,29 @@ VORM_INLINE bool luLanes(const Src& src, const Dst& dst, int first, int* pivotIn
 }
 
 // An array, in order: what comes behind the first singular object stays untouched.
-template <int n, class T, class Src, class Dst>
-VORM_INLINE VormStatus luObjects(const Src& src, const Dst& dst, int* pivotIndex, int count)
+template <class T, class Dst, class Block, class Single>
+VORM_INLINE VormStatus luArray(const Dst& dst, int order, int count, const Block& block, const Single& single)
 {
     constexpr int width = Lanes<T>::width;
     for (int done = 0; done < count;) {
-        const auto pivots = [&](int object) VORM_INLINE_LAMBDA { return pivotIndex + std::ptrdiff_t{object} * n; };
         bool inLanes = count - done >= width;
-        if constexpr (isAdjacent<Dst>) inLanes = inLanes && objectsApart(dst, done, n, n);
-        if (inLanes && luLanes<n, T>(src, dst, done, pivots(done))) {
+        if constexpr (isAdjacent<Dst>) inLanes = inLanes && objectsApart(dst, done, order, order);
+        if (inLanes && block(done)) {
             done += width;
             continue;
         }
         for (const int end = std::min(done + width, count); done < end; ++done)
-            if (const VormStatus status = luObject<n, T>(src, dst, done, pivots(done)); status != StatusOk)
-                return status;
+            if (const VormStatus status = single(done); status != StatusOk) return status;
     }
     return StatusOk;
+}
+template <int n, class T, class Src, class Dst>
+VORM_INLINE VormStatus luObjects(const Src& src, const Dst& dst, int* pivotIndex, int count)
+{
+    const auto pivots = [&](int object) VORM_INLINE_LAMBDA { return pivotIndex + std::ptrdiff_t{object} * n; };
+    return luArray<T>(
+        dst, n, count, [&](int first) VORM_INLINE_LAMBDA { return luLanes<n, T>(src, dst, first, pivots(first)); },
+        [&](int object) VORM_INLINE_LAMBDA { return luObject<n, T>(src, dst, object, pivots(object)); });
 }
 
 // All other orders. -----------------------------------------------------------------------------------
@@ -225,6 +236,47 @@ VORM_INLINE VormStatus luGeneral(const Src& src, const Dst& dst, int object, int
         }
     }
     return abs(T(row(order - 1)(order - 1))) <= luEpsilon<T> ? StatusSingular : StatusOk;
+}
+
+// Orders up to this run in lanes in arrays.
+constexpr int luLanesOrder = 16;
+
+// Factorises a register of matrices of any order n in place, with n row numbers for each; or finds that
+// one of them is singular.
+template <class T>
+VORM_HIDDEN bool luFactorise(Lanes<T>* a, int* rows, int n);
+
+template <class T, class Src, class Dst>
+[[gnu::noinline]] bool luLanesGeneral(const Src& src, const Dst& dst, int first, int n, int* pivotIndex)
+{
+    constexpr int width = Lanes<T>::width;
+    Lanes<T> a[luLanesOrder * luLanesOrder];
+    int rows[luLanesOrder * width];
+    if constexpr (isAdjacent<Src>) {
+        for (int r = 0; r < n; ++r) {
+            const T* from[width];
+            for (int l = 0; l < width; ++l) from[l] = rowAt(src, first + l, r);
+            loadRows(from, a + r * n, n);
+        }
+    } else if constexpr (isInPlanes<Src>) {
+        for (int r = 0; r < n; ++r)
+            for (int c = 0; c < n; ++c) a[r * n + c] = Lanes<T>::load(src.element(r, c) + first);
+    } else {
+        gatherMatrices(src, first, width, n, reinterpret_cast<T*>(a));
+    }
+    if (!luFactorise(a, rows, n)) return false;
+
+    std::memcpy(static_cast<void*>(pivotIndex), rows, std::size_t(n) * width * sizeof(int));
+    if constexpr (isAdjacent<Dst>) {
+        for (int k = 0; k < n; ++k) {
+            T* to[width];
+            for (int l = 0; l < width; ++l) to[l] = rowAt(dst, first + l, rows[l * n + k]);
+            storeRows(to, a + k * n, n);
+        }
+    } else {
+        scatterPivotRows(dst, first, width, n, n, rows, reinterpret_cast<const T*>(a));
+    }
+    return true;
 }
 
 }  // namespace vorm

@@ -8,69 +8,69 @@
 #include "frame/team.hpp"
 
 // The operands by layout, in the order and with the names of the exported prototypes.
-#define LU_MV_PARAMS(T)                                                                           \
-    const T *src, int srcStride1, int srcStride2, const int *pivotIndex, const T *src2,           \
-    int src2Stride2, T *dst, int dstStride2, int order
-#define LU_MV_ARGS                                                                                \
-    src, srcStride1, srcStride2, pivotIndex, src2, src2Stride2, dst, dstStride2, order
-#define LU_MV_PARAMS_P(T)                                                                         \
-    const T *const *srcPointers, int srcShift, const int *pivotIndex,                             \
-    const T *const *src2Pointers, int src2Shift, T *const *dstPointers, int dstShift, int order
-#define LU_MV_ARGS_P                                                                              \
-    srcPointers, srcShift, pivotIndex, src2Pointers, src2Shift, dstPointers, dstShift, order
-#define LU_MVA_PARAMS(T)                                                                          \
-    const T *src, int srcStride1, int srcStride2, const int *pivotIndex, const T *src2,           \
-    int src2Stride0, int src2Stride2, T *dst, int dstStride0, int dstStride2, int order,          \
-    int count
-#define LU_MVA_ARGS                                                                               \
-    src, srcStride1, srcStride2, pivotIndex, src2, src2Stride0, src2Stride2, dst, dstStride0,     \
-    dstStride2, order, count
-#define LU_MVA_PARAMS_L(T)                                                                        \
-    const T *src, int srcStride1, int srcStride2, const int *pivotIndex,                          \
-    const T *const *src2List, int src2Shift, int src2Stride2, T *const *dstList, int dstShift,    \
-    int dstStride2, int order, int count
-#define LU_MVA_ARGS_L                                                                             \
-    src, srcStride1, srcStride2, pivotIndex, src2List, src2Shift, src2Stride2, dstList,           \
-    dstShift, dstStride2, order, count
-#define LU_MVA_PARAMS_P(T)                                                                        \
-    const T *const *srcPointers, int srcShift, const int *pivotIndex,                             \
-    const T *const *src2Pointers, int src2Shift, int src2Stride0, T *const *dstPointers,          \
-    int dstShift, int dstStride0, int order, int count
-#define LU_MVA_ARGS_P                                                                             \
-    srcPointers, srcShift, pivotIndex, src2Pointers, src2Shift, src2Stride0, dstPointers,         \
-    dstShift, dstStride0, order, count
-#define LU_MAVA_PARAMS(T)                                                                         \
-    const T *src, int srcStride0, int srcStride1, int srcStride2, const int *pivotIndex,          \
-    const T *src2, int src2Stride0, int src2Stride2, T *dst, int dstStride0, int dstStride2,      \
-    int order, int count
-#define LU_MAVA_ARGS                                                                              \
-    src, srcStride0, srcStride1, srcStride2, pivotIndex, src2, src2Stride0, src2Stride2, dst,     \
-    dstStride0, dstStride2, order, count
-#define LU_MAVA_PARAMS_L(T)                                                                       \
-    const T *const *srcList, int srcShift, int srcStride1, int srcStride2,                        \
-    const int *pivotIndex, const T *const *src2List, int src2Shift, int src2Stride2,              \
-    T *const *dstList, int dstShift, int dstStride2, int order, int count
-#define LU_MAVA_ARGS_L                                                                            \
-    srcList, srcShift, srcStride1, srcStride2, pivotIndex, src2List, src2Shift, src2Stride2,      \
-    dstList, dstShift, dstStride2, order, count
-#define LU_MAVA_PARAMS_P(T)                                                                       \
-    const T *const *srcPointers, int srcShift, int srcStride0, const int *pivotIndex,             \
-    const T *const *src2Pointers, int src2Shift, int src2Stride0, T *const *dstPointers,          \
-    int dstShift, int dstStride0, int order, int count
-#define LU_MAVA_ARGS_P                                                                            \
-    srcPointers, srcShift, srcStride0, pivotIndex, src2Pointers, src2Shift, src2Stride0,          \
-    dstPointers, dstShift, dstStride0, order, count
+#define LU_MV_PARAMS(T)                                                                                          \
+    const T *src, int srcStride1, int srcStride2, const int *pivotIndex, const T *src2, int src2Stride2, T *dst, \
+        int dstStride2, int order
+#define LU_MV_ARGS src, srcStride1, srcStride2, pivotIndex, src2, src2Stride2, dst, dstStride2, order
+#define LU_MV_PARAMS_P(T)                                                                                          \
+    const T *const *srcPointers, int srcShift, const int *pivotIndex, const T *const *src2Pointers, int src2Shift, \
+        T *const *dstPointers, int dstShift, int order
+#define LU_MV_ARGS_P srcPointers, srcShift, pivotIndex, src2Pointers, src2Shift, dstPointers, dstShift, order
+#define LU_MVA_PARAMS(T)                                                                                 \
+    const T *src, int srcStride1, int srcStride2, const int *pivotIndex, const T *src2, int src2Stride0, \
+        int src2Stride2, T *dst, int dstStride0, int dstStride2, int order, int count
+#define LU_MVA_ARGS \
+    src, srcStride1, srcStride2, pivotIndex, src2, src2Stride0, src2Stride2, dst, dstStride0, dstStride2, order, count
+#define LU_MVA_PARAMS_L(T)                                                                                        \
+    const T *src, int srcStride1, int srcStride2, const int *pivotIndex, const T *const *src2List, int src2Shift, \
+        int src2Stride2, T *const *dstList, int dstShift, int dstStride2, int order, int count
+#define LU_MVA_ARGS_L                                                                                                \
+    src, srcStride1, srcStride2, pivotIndex, src2List, src2Shift, src2Stride2, dstList, dstShift, dstStride2, order, \
+        count
+#define LU_MVA_PARAMS_P(T)                                                                                         \
+    const T *const *srcPointers, int srcShift, const int *pivotIndex, const T *const *src2Pointers, int src2Shift, \
+        int src2Stride0, T *const *dstPointers, int dstShift, int dstStride0, int order, int count
+#define LU_MVA_ARGS_P                                                                                                  \
+    srcPointers, srcShift, pivotIndex, src2Pointers, src2Shift, src2Stride0, dstPointers, dstShift, dstStride0, order, \
+        count
+#define LU_MAVA_PARAMS(T)                                                                               \
+    const T *src, int srcStride0, int srcStride1, int srcStride2, const int *pivotIndex, const T *src2, \
+        int src2Stride0, int src2Stride2, T *dst, int dstStride0, int dstStride2, int order, int count
+#define LU_MAVA_ARGS                                                                                                  \
+    src, srcStride0, srcStride1, srcStride2, pivotIndex, src2, src2Stride0, src2Stride2, dst, dstStride0, dstStride2, \
+        order, count
+#define LU_MAVA_PARAMS_L(T)                                                                                        \
+    const T *const *srcList, int srcShift, int srcStride1, int srcStride2, const int *pivotIndex,                  \
+        const T *const *src2List, int src2Shift, int src2Stride2, T *const *dstList, int dstShift, int dstStride2, \
+        int order, int count
+#define LU_MAVA_ARGS_L                                                                                          \
+    srcList, srcShift, srcStride1, srcStride2, pivotIndex, src2List, src2Shift, src2Stride2, dstList, dstShift, \
+        dstStride2, order, count
+#define LU_MAVA_PARAMS_P(T)                                                                                         \
+    const T *const *srcPointers, int srcShift, int srcStride0, const int *pivotIndex, const T *const *src2Pointers, \
+        int src2Shift, int src2Stride0, T *const *dstPointers, int dstShift, int dstStride0, int order, int count
+#define LU_MAVA_ARGS_P                                                                                          \
+    srcPointers, srcShift, srcStride0, pivotIndex, src2Pointers, src2Shift, src2Stride0, dstPointers, dstShift, \
+        dstStride0, order, count
 
 namespace vorm {
 
-template <class T> using LuMvLayer = VormStatus(LU_MV_PARAMS(T));
-template <class T> using LuMvLayerP = VormStatus(LU_MV_PARAMS_P(T));
-template <class T> using LuMvaLayer = VormStatus(LU_MVA_PARAMS(T));
-template <class T> using LuMvaLayerL = VormStatus(LU_MVA_PARAMS_L(T));
-template <class T> using LuMvaLayerP = VormStatus(LU_MVA_PARAMS_P(T));
-template <class T> using LuMavaLayer = VormStatus(LU_MAVA_PARAMS(T));
-template <class T> using LuMavaLayerL = VormStatus(LU_MAVA_PARAMS_L(T));
-template <class T> using LuMavaLayerP = VormStatus(LU_MAVA_PARAMS_P(T));
+template <class T>
+using LuMvLayer = VormStatus(LU_MV_PARAMS(T));
+template <class T>
+using LuMvLayerP = VormStatus(LU_MV_PARAMS_P(T));
+template <class T>
+using LuMvaLayer = VormStatus(LU_MVA_PARAMS(T));
+template <class T>
+using LuMvaLayerL = VormStatus(LU_MVA_PARAMS_L(T));
+template <class T>
+using LuMvaLayerP = VormStatus(LU_MVA_PARAMS_P(T));
+template <class T>
+using LuMavaLayer = VormStatus(LU_MAVA_PARAMS(T));
+template <class T>
+using LuMavaLayerL = VormStatus(LU_MAVA_PARAMS_L(T));
+template <class T>
+using LuMavaLayerP = VormStatus(LU_MAVA_PARAMS_P(T));
 
 // (2 count + order) order and (order + 2) order count; from here on a team
 constexpr int luMvaWork(int order, int count) { return wrapMul(wrapAdd(wrapMul(2, count), order), order); }
@@ -277,8 +277,7 @@ VORM_INLINE VormStatus luMvaKernel(const M& matrix, const int* pivotIndex, const
     case 4: luSolveVectors<4, T>(matrix, b, dst, pivotIndex, count); break;
     case 5: luSolveVectors<5, T>(matrix, b, dst, pivotIndex, count); break;
     case 6: luSolveVectors<6, T>(matrix, b, dst, pivotIndex, count); break;
-    default:
-        for (int n = 0; n < count; ++n) luSolveGeneral<T>(matrix, b, dst, n, order, pivotIndex);
+    default: luSolveVectorsGeneral<T>(matrix, b, dst, pivotIndex, order, count);
     }
     return StatusOk;
 }
@@ -292,9 +291,7 @@ VORM_INLINE VormStatus luMavaKernel(const M& matrix, const int* pivotIndex, cons
     case 4: luSolvePairs<4, T>(matrix, b, dst, pivotIndex, count); break;
     case 5: luSolvePairs<5, T>(matrix, b, dst, pivotIndex, count); break;
     case 6: luSolvePairs<6, T>(matrix, b, dst, pivotIndex, count); break;
-    default:
-        for (int n = 0; n < count; ++n)
-            luSolveGeneral<T>(matrix, b, dst, n, order, pivotIndex + std::ptrdiff_t{n} * order);
+    default: luSolvePairsGeneral<T>(matrix, b, dst, pivotIndex, order, count);
     }
     return StatusOk;
 }
@@ -348,7 +345,7 @@ VORM_INLINE VormStatus luMvaPointers(LU_MVA_PARAMS_P(T))
     const MatrixPointers matrix{srcPointers, srcShift, order};
     const VectorArrayPointers b{src2Pointers, src2Shift, src2Stride0};
     const VectorArrayPointers x{dstPointers, dstShift, dstStride0};
-    if (order >= 3 && order <= 6 && inPlanes<T>(src2Stride0, dstStride0) && planesApart(dstPointers, order))
+    if (inPlanes<T>(src2Stride0, dstStride0) && (order > 6 || planesApart(dstPointers, order)))
         return luMvaKernel<T>(matrix, pivotIndex, asPlanes(b), asPlanes(x), order, count);
     return luMvaKernel<T>(matrix, pivotIndex, b, x, order, count);
 }
@@ -387,8 +384,7 @@ VORM_INLINE VormStatus luMavaPointers(LU_MAVA_PARAMS_P(T))
     const MatrixArrayPointers matrices{srcPointers, srcShift, srcStride0, order};
     const VectorArrayPointers b{src2Pointers, src2Shift, src2Stride0};
     const VectorArrayPointers x{dstPointers, dstShift, dstStride0};
-    if (order >= 3 && order <= 6 && inPlanes<T>(srcStride0, src2Stride0, dstStride0) &&
-        planesApart(dstPointers, order))
+    if (inPlanes<T>(srcStride0, src2Stride0, dstStride0) && (order > 6 || planesApart(dstPointers, order)))
         return luMavaKernel<T>(asPlanes(matrices), pivotIndex, asPlanes(b), asPlanes(x), order, count);
     return luMavaKernel<T>(matrices, pivotIndex, b, x, order, count);
 }

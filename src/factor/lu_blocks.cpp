@@ -1,6 +1,9 @@
 // Elimination and substitution of the orders 3 to 6, one object or a register of objects at a time:
 // each body once for all layouts.
 
+#include <numeric>
+#include <utility>
+
 #include "factor/lu.hpp"
 #include "factor/lu_solve.hpp"
 
@@ -22,101 +25,158 @@ Lanes<T> tinyFor(Lanes<T>)
     return tiny<T>;
 }
 
-void number(int& row, int r) { row = r; }
-void number(Lanes<float>& row, int r) { row = _mm_castsi128_ps(_mm_set1_epi32(r)); }
-void number(Lanes<double>& row, int r) { row = _mm_castsi128_pd(_mm_set1_epi64x(r)); }
-
 __m128 both(__m128 a, __m128 b) { return _mm_and_ps(a, b); }
 __m128d both(__m128d a, __m128d b) { return _mm_and_pd(a, b); }
 __m128 either(__m128 a, __m128 b) { return _mm_or_ps(a, b); }
 __m128d either(__m128d a, __m128d b) { return _mm_or_pd(a, b); }
-__m128 without(__m128 a, __m128 b) { return _mm_andnot_ps(b, a); }
-__m128d without(__m128d a, __m128d b) { return _mm_andnot_pd(b, a); }
+__m128 differing(__m128 a, __m128 b) { return _mm_xor_ps(a, b); }
+__m128d differing(__m128d a, __m128d b) { return _mm_xor_pd(a, b); }
+__m128i bitsOf(__m128 a) { return _mm_castps_si128(a); }
+__m128i bitsOf(__m128d a) { return _mm_castpd_si128(a); }
 
-__m128 sameBits(__m128 a, __m128 b)
+// Row numbers in lanes, as bits.
+template <class T>
+Lanes<T> rowNumber(int r)
+{
+    if constexpr (Lanes<T>::width == 4)
+        return _mm_castsi128_ps(_mm_set1_epi32(r));
+    else
+        return _mm_castsi128_pd(_mm_set1_epi64x(r));
+}
+__m128 sameNumber(__m128 a, __m128 b)
 {
     return _mm_castsi128_ps(_mm_cmpeq_epi32(_mm_castps_si128(a), _mm_castps_si128(b)));
 }
-__m128d sameBits(__m128d a, __m128d b)  // of the lower halves, where row numbers are
+__m128d sameNumber(__m128d a, __m128d b)  // in the lower halves
 {
     const __m128i same = _mm_cmpeq_epi32(_mm_castpd_si128(a), _mm_castpd_si128(b));
     return _mm_castsi128_pd(_mm_shuffle_epi32(same, _MM_SHUFFLE(2, 2, 0, 0)));
 }
 
-// larger, or what was the largest unless it is less: a NaN displaces nothing, and nothing displaces it.
+// Larger, or what was the largest unless it is less: a NaN displaces nothing, and nothing displaces it.
 __m128 largerOf(Lanes<float> magnitude, Lanes<float> largest) { return _mm_max_ps(magnitude.v, largest.v); }
 __m128d largerOf(Lanes<double> magnitude, Lanes<double> largest) { return _mm_max_pd(magnitude.v, largest.v); }
 
-// The rows of one column, rows[0] to rows[n - 1], by a function. Row k and the one whose mask is set
-// in a lane change places there.
-template <int k, int n, class Mask, class Row>
-VORM_INLINE void exchange(const Mask (&displaces)[n], Mask stays, const Row& row)
+// Row k and, in each lane, the row whose number is given change places.
+VORM_INLINE void exchangeRows(Lanes<float>* a, int k, const int (&pivot)[4], int n)
 {
-    const Mask top = row(k).v;
-    Mask pivot = both(stays, top);
-    for (int i = k + 1; i < n; ++i) {
-        const Mask mine = row(i).v;
-        pivot = either(pivot, both(displaces[i], mine));
-        row(i) = either(both(displaces[i], top), without(mine, displaces[i]));
+    Lanes<float>* const rowK = a + k * n;
+    Lanes<float>* const rows[4] = {a + pivot[0] * n, a + pivot[1] * n, a + pivot[2] * n, a + pivot[3] * n};
+    for (int c = 0; c < n; ++c) {
+        __m128 top = rowK[c].v;
+        unrolled<4>([&](auto l) VORM_INLINE_LAMBDA {
+            const __m128 mask = _mm_castsi128_ps(_mm_setr_epi32(-(l == 0), -(l == 1), -(l == 2), -(l == 3)));
+            const __m128 mine = rows[l][c].v, change = both(mask, differing(top, mine));
+            top = differing(top, change);
+            rows[l][c] = differing(mine, change);
+        });
+        rowK[c] = top;
     }
-    row(k) = pivot;
+}
+VORM_INLINE void exchangeRows(Lanes<double>* a, int k, const int (&pivot)[2], int n)
+{
+    Lanes<double>* const rowK = a + k * n;
+    Lanes<double>* const rows[2] = {a + pivot[0] * n, a + pivot[1] * n};
+    for (int c = 0; c < n; ++c) {
+        const __m128d top = rowK[c].v, low = rows[0][c].v;
+        rows[0][c] = _mm_move_sd(low, top);
+        const __m128d high = rows[1][c].v;
+        rows[1][c] = _mm_move_sd(top, high);
+        rowK[c] = _mm_move_sd(high, low);
+    }
 }
 
-// The first of the largest magnitudes in column k moves to row k.
-template <int k, int n, class T>
-VORM_INLINE void pivotToRow(LuBlock<n, Lanes<T>>& lu)
+// The first of the largest magnitudes in column k moves to row k, lane by lane. a has n columns; rows
+// has n numbers for each lane. Returns the magnitude.
+template <class T>
+VORM_INLINE Lanes<T> pivotToRow(Lanes<T>* a, int* rows, int k, int n)
 {
-    using Mask = decltype(LaneMask<T>::bits);
-    Mask displaces[n];
-    Lanes<T> largest = abs(lu.a[k][k]);
+    constexpr int width = Lanes<T>::width;
+    Lanes<T> largest = abs(a[k * n + k]);
+    __m128i pivots = bitsOf(rowNumber<T>(k).v);
     for (int i = k + 1; i < n; ++i) {
-        const Lanes<T> magnitude = abs(lu.a[i][k]);
-        displaces[i] = (magnitude > largest).bits;
+        const Lanes<T> magnitude = abs(a[i * n + k]);
+        const __m128i displaced = bitsOf((magnitude > largest).bits);
+        pivots = _mm_max_epi16(pivots, _mm_and_si128(displaced, bitsOf(rowNumber<T>(i).v)));
         largest = largerOf(magnitude, largest);
     }
-    Mask taken = displaces[n - 1];  // the last one to displace the largest is the pivot
-    for (int i = n - 2; i > k; --i) {
-        const Mask own = displaces[i];
-        displaces[i] = without(own, taken);
-        taken = either(taken, own);
+    int numbers[4], pivot[width];
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(numbers), pivots);
+    for (int l = 0; l < width; ++l) {
+        pivot[l] = numbers[l * (4 / width)];
+        std::swap(rows[l * n + k], rows[l * n + pivot[l]]);
     }
-    const Mask all = (Lanes<T>(T(0)) == Lanes<T>(T(0))).bits, stays = without(all, taken);
-    unrolled<n>([&](auto c) VORM_INLINE_LAMBDA {
-        exchange<k>(displaces, stays, [&](int i) VORM_INLINE_LAMBDA -> Lanes<T>& { return lu.a[i][c]; });
-    });
-    exchange<k>(displaces, stays, [&](int i) VORM_INLINE_LAMBDA -> Lanes<T>& { return lu.rows[i]; });
+    exchangeRows(a, k, pivot, n);
+    return largest;
 }
-template <int k, int n, class T>
-VORM_INLINE void pivotToRow(LuBlock<n, T>& lu)
+template <class T>
+VORM_INLINE T pivotToRow(T* a, int* rows, int k, int n)
 {
-    int pivot = k;
+    int p = k;
     for (int i = k + 1; i < n; ++i)
-        if (abs(lu.a[i][k]) > abs(lu.a[pivot][k])) pivot = i;
-    if (pivot == k) return;
-    std::swap(lu.rows[k], lu.rows[pivot]);
-    std::swap(lu.a[k], lu.a[pivot]);
+        if (abs(a[i * n + k]) > abs(a[p * n + k])) p = i;
+    if (p != k) {
+        std::swap(rows[k], rows[p]);
+        for (int c = 0; c < n; ++c) std::swap(a[k * n + c], a[p * n + c]);
+    }
+    return abs(a[k * n + k]);
+}
+
+#ifndef LU_SELECT
+#define LU_SELECT(n, T) (n <= 4 || sizeof(T) == sizeof(float))
+#endif
+// The same for the smallest orders, where all rows fit in registers: every row is looked at, and
+// changes places in the lanes whose pivot it is.
+template <int k, int n, class T>
+VORM_INLINE void selectPivotRow(Lanes<T> (&a)[n][n], Lanes<T> (&rows)[n])
+{
+    decltype(LaneMask<T>::bits) is[n];
+    Lanes<T> largest = abs(a[k][k]);
+    for (int i = k + 1; i < n; ++i) {
+        const Lanes<T> magnitude = abs(a[i][k]);
+        is[i] = (magnitude > largest).bits;
+        largest = largerOf(magnitude, largest);
+    }
+    auto later = is[n - 1];  // the last one to displace the largest is the pivot
+    for (int i = n - 2; i > k; --i) {
+        const auto own = is[i];
+        is[i] = both(own, differing(own, later));
+        later = either(later, own);
+    }
+    const auto exchange = [&](auto element) VORM_INLINE_LAMBDA {
+        const auto top = element(k).v;
+        auto changes = differing(top, top);
+        for (int i = k + 1; i < n; ++i) {
+            const auto change = both(is[i], differing(top, element(i).v));
+            element(i) = differing(element(i).v, change);
+            changes = either(changes, change);
+        }
+        element(k) = differing(top, changes);
+    };
+    for (int c = 0; c < n; ++c) exchange([&](int i) VORM_INLINE_LAMBDA -> Lanes<T>& { return a[i][c]; });
+    exchange([&](int i) VORM_INLINE_LAMBDA -> Lanes<T>& { return rows[i]; });
 }
 
 }  // namespace
 
-template <int n, class Number>
-int luFactorise(LuBlock<n, Number>& lu)
+// The elimination of a block of a known order. bringPivot(k) moves the pivot to row k. Multipliers are
+// products with a reciprocal, only the last one is a quotient.
+template <int n, class Number, class BringPivot>
+VORM_INLINE int eliminate(Number (&a)[n][n], const BringPivot& bringPivot)
 {
-    for (int r = 0; r < n; ++r) number(lu.rows[r], r);
     int passed = 0;
-    // Multipliers are products with a reciprocal, only the last one is a quotient.
     const auto step = [&](auto k) VORM_INLINE_LAMBDA {
-        if constexpr (k < n - 1) pivotToRow<k>(lu);
-        if (any(abs(lu.a[k][k]) < tinyFor(lu.a[k][k]))) return false;
+        if constexpr (k < n - 1) bringPivot(k);
+        if (any(abs(a[k][k]) < tinyFor(a[k][k]))) return false;
         ++passed;
         if constexpr (k < n - 2) {
-            const Number reciprocal = Number(1) / lu.a[k][k];
-            for (int i = k + 1; i < n; ++i) lu.a[i][k] = lu.a[i][k] * reciprocal;
+            const Number reciprocal = Number(1) / a[k][k];
+            for (int i = k + 1; i < n; ++i) a[i][k] = a[i][k] * reciprocal;
         } else if constexpr (k == n - 2) {
-            lu.a[n - 1][k] = lu.a[n - 1][k] / lu.a[k][k];
+            a[n - 1][k] = a[n - 1][k] / a[k][k];
         }
         for (int i = k + 1; i < n; ++i)
-            for (int j = k + 1; j < n; ++j) lu.a[i][j] = lu.a[i][j] - lu.a[k][j] * lu.a[i][k];
+            for (int j = k + 1; j < n; ++j) a[i][j] = a[i][j] - a[k][j] * a[i][k];
         return true;
     };
     [&]<int... k>(std::integer_sequence<int, k...>) VORM_INLINE_LAMBDA
@@ -126,6 +186,79 @@ int luFactorise(LuBlock<n, Number>& lu)
     (std::make_integer_sequence<int, n>{});
     return passed;
 }
+
+template <class T>
+VORM_INLINE Lanes<T> sumOfProducts(const Lanes<T>* row, const Lanes<T>* x, int first, int end)
+{
+    Lanes<T> total = T(0);
+    int j = first;
+    if (end - first >= 8) {
+        Lanes<T> s[8];
+        for (Lanes<T>& sum : s) sum = T(0);
+        for (; end - j >= 8; j += 8)
+            for (int l = 0; l < 8; ++l) s[l] = s[l] + row[j + l] * x[j + l];
+        total = ((s[0] + s[1]) + (s[2] + s[3])) + ((s[4] + s[5]) + (s[6] + s[7]));
+    }
+    for (; j < end; ++j) total = total + row[j] * x[j];
+    return total;
+}
+
+template <class Number>
+struct ElementOf {
+    using Type = Number;
+};
+template <class T>
+struct ElementOf<Lanes<T>> {
+    using Type = T;
+};
+
+template <int n, class Number>
+int luFactorise(LuBlock<n, Number>& lu)
+{
+    using T = typename ElementOf<Number>::Type;
+    if constexpr (!std::is_same_v<T, Number> && LU_SELECT(n, T)) {
+        Lanes<T> rows[n];
+        for (int r = 0; r < n; ++r) rows[r] = rowNumber<T>(r);
+        const int passed = eliminate(lu.a, [&](auto k) VORM_INLINE_LAMBDA { selectPivotRow<k>(lu.a, rows); });
+        storeRowNumbers(rows, lu.rows[0]);
+        return passed;
+    } else {
+        for (auto& rows : lu.rows) std::iota(rows, rows + n, 0);
+        return eliminate(lu.a, [&](int k) VORM_INLINE_LAMBDA { pivotToRow(lu.a[0], lu.rows[0], k, n); });
+    }
+}
+
+template <class T>
+bool luFactorise(Lanes<T>* a, int* rows, int n)
+{
+    for (int l = 0; l < Lanes<T>::width; ++l) std::iota(rows + l * n, rows + (l + 1) * n, 0);
+    const Lanes<T> epsilon = std::numeric_limits<T>::epsilon();
+    for (int k = 0; k < n - 1; ++k) {
+        if (any(pivotToRow(a, rows, k, n) <= epsilon)) return false;
+        const Lanes<T>* const pivotRow = a + k * n;
+        const Lanes<T> reciprocal = Lanes<T>(T(1)) / pivotRow[k];
+        int i = k + 1;
+        for (; i + 1 < n; i += 2) {
+            Lanes<T>*const row = a + i * n, *const next = row + n;
+            const Lanes<T> factor = row[k] * reciprocal, nextFactor = next[k] * reciprocal;
+            row[k] = factor, next[k] = nextFactor;
+            for (int j = k + 1; j < n; ++j) {
+                const Lanes<T> pivot = pivotRow[j];
+                row[j] = row[j] - pivot * factor;
+                next[j] = next[j] - pivot * nextFactor;
+            }
+        }
+        if (i < n) {
+            Lanes<T>* const row = a + i * n;
+            const Lanes<T> factor = row[k] * reciprocal;
+            row[k] = factor;
+            for (int j = k + 1; j < n; ++j) row[j] = row[j] - pivotRow[j] * factor;
+        }
+    }
+    return !any(abs(a[n * n - 1]) <= epsilon);
+}
+template bool luFactorise(Lanes<float>* a, int* rows, int n);
+template bool luFactorise(Lanes<double>* a, int* rows, int n);
 
 template <int n, class Number>
 void luSubstitute(LuSystem<n, Number>& system)
@@ -141,9 +274,8 @@ struct RowOrder {
     explicit RowOrder(const Lanes<T> (&rows)[n])
     {
         for (int r = 0; r < n; ++r) {
-            Lanes<T> wanted;
-            number(wanted, r);
-            for (int k = 0; k < n; ++k) is[k][r] = sameBits(rows[k].v, wanted.v);
+            const Lanes<T> wanted = rowNumber<T>(r);
+            for (int k = 0; k < n; ++k) is[k][r] = sameNumber(rows[k].v, wanted.v);
         }
     }
     // Row k out of rows in source order, and row r out of rows in logical order.
@@ -164,7 +296,9 @@ struct RowOrder {
 template <int n, class T>
 void luToSourceOrder(LuBlock<n, Lanes<T>>& lu)
 {
-    const RowOrder<n, T> order(lu.rows);
+    Lanes<T> rows[n];
+    loadRowNumbers(lu.rows[0], rows);
+    const RowOrder<n, T> order(rows);
     for (int c = 0; c < n; ++c) {
         Lanes<T> column[n];
         for (int k = 0; k < n; ++k) column[k] = lu.a[k][c];
@@ -190,6 +324,19 @@ void luSubstituteInSourceOrder(LuSystem<n, Lanes<T>>& system, const Lanes<T> (&r
         for (int r = 0; r < n; ++r) rest[r] = rest[r] - lu[r][k] * x[k];
     }
 }
+
+// Any order.
+template <class T>
+void luSubstitute(const Lanes<T>* lu, Lanes<T>* x, int n)
+{
+    for (int i = 1; i < n; ++i) x[i] = x[i] - sumOfProducts(lu + i * n, x, 0, i);
+    for (int i = n - 1; i >= 0; --i) {
+        if (i < n - 1) x[i] = x[i] - sumOfProducts(lu + i * n, x, i + 1, n);
+        x[i] = x[i] / lu[i * n + i];
+    }
+}
+template void luSubstitute(const Lanes<float>* lu, Lanes<float>* x, int n);
+template void luSubstitute(const Lanes<double>* lu, Lanes<double>* x, int n);
 
 #define LU_BLOCKS(n, T)                                        \
     template int luFactorise(LuBlock<n, T>& lu);               \

@@ -7,46 +7,38 @@
 #include "frame/team.hpp"
 
 // The operands by layout, in the order and with the names of the exported prototypes.
-#define LU_DECOMP_M_PARAMS(T)                                                                     \
-    const T *src, int srcStride1, int srcStride2, int *pivotIndex, T *dst, int dstStride1,        \
-    int dstStride2, int order
-#define LU_DECOMP_M_ARGS                                                                          \
-    src, srcStride1, srcStride2, pivotIndex, dst, dstStride1, dstStride2, order
-#define LU_DECOMP_M_PARAMS_P(T)                                                                   \
-    const T *const *srcPointers, int srcShift, int *pivotIndex, T *const *dstPointers,            \
-    int dstShift, int order
-#define LU_DECOMP_M_ARGS_P                                                                        \
-    srcPointers, srcShift, pivotIndex, dstPointers, dstShift, order
-#define LU_DECOMP_MA_PARAMS(T)                                                                    \
-    const T *src, int srcStride0, int srcStride1, int srcStride2, int *pivotIndex, T *dst,        \
-    int dstStride0, int dstStride1, int dstStride2, int order, int count
-#define LU_DECOMP_MA_ARGS                                                                         \
-    src, srcStride0, srcStride1, srcStride2, pivotIndex, dst, dstStride0, dstStride1, dstStride2, \
-    order, count
-#define LU_DECOMP_MA_PARAMS_L(T)                                                                  \
-    const T *const *srcList, int srcShift, int srcStride1, int srcStride2, int *pivotIndex,       \
-    T *const *dstList, int dstShift, int dstStride1, int dstStride2, int order, int count
-#define LU_DECOMP_MA_ARGS_L                                                                       \
-    srcList, srcShift, srcStride1, srcStride2, pivotIndex, dstList, dstShift, dstStride1,         \
-    dstStride2, order, count
-#define LU_DECOMP_MA_PARAMS_P(T)                                                                  \
-    const T *const *srcPointers, int srcShift, int srcStride0, int *pivotIndex,                   \
-    T *const *dstPointers, int dstShift, int dstStride0, int order, int count
-#define LU_DECOMP_MA_ARGS_P                                                                       \
+#define LU_DECOMP_M_PARAMS(T) \
+    const T *src, int srcStride1, int srcStride2, int *pivotIndex, T *dst, int dstStride1, int dstStride2, int order
+#define LU_DECOMP_M_ARGS src, srcStride1, srcStride2, pivotIndex, dst, dstStride1, dstStride2, order
+#define LU_DECOMP_M_PARAMS_P(T) \
+    const T *const *srcPointers, int srcShift, int *pivotIndex, T *const *dstPointers, int dstShift, int order
+#define LU_DECOMP_M_ARGS_P srcPointers, srcShift, pivotIndex, dstPointers, dstShift, order
+#define LU_DECOMP_MA_PARAMS(T)                                                                             \
+    const T *src, int srcStride0, int srcStride1, int srcStride2, int *pivotIndex, T *dst, int dstStride0, \
+        int dstStride1, int dstStride2, int order, int count
+#define LU_DECOMP_MA_ARGS \
+    src, srcStride0, srcStride1, srcStride2, pivotIndex, dst, dstStride0, dstStride1, dstStride2, order, count
+#define LU_DECOMP_MA_PARAMS_L(T)                                                                               \
+    const T *const *srcList, int srcShift, int srcStride1, int srcStride2, int *pivotIndex, T *const *dstList, \
+        int dstShift, int dstStride1, int dstStride2, int order, int count
+#define LU_DECOMP_MA_ARGS_L \
+    srcList, srcShift, srcStride1, srcStride2, pivotIndex, dstList, dstShift, dstStride1, dstStride2, order, count
+#define LU_DECOMP_MA_PARAMS_P(T)                                                                                     \
+    const T *const *srcPointers, int srcShift, int srcStride0, int *pivotIndex, T *const *dstPointers, int dstShift, \
+        int dstStride0, int order, int count
+#define LU_DECOMP_MA_ARGS_P \
     srcPointers, srcShift, srcStride0, pivotIndex, dstPointers, dstShift, dstStride0, order, count
 
 // One matrix on the general path. The kernels of single matrices and those of arrays call the same
 // routine, so that an object of an array has the bits of the single one.
-#define LU_COM_PARAMS_S(T)                                                                        \
-    const T *src, int srcStride1, int *pivotIndex, T *dst, int dstStride1, int order
+#define LU_COM_PARAMS_S(T) const T *src, int srcStride1, int *pivotIndex, T *dst, int dstStride1, int order
 #define LU_COM_ARGS_S src, srcStride1, pivotIndex, dst, dstStride1, order
 #define LU_COM_PARAMS_S2(T) LU_DECOMP_M_PARAMS(T)
 #define LU_COM_ARGS_S2 LU_DECOMP_M_ARGS
-#define LU_COM_PARAMS_P(T)                                                                        \
-    const T *const *srcPointers, int srcShift, int srcStride0, int *pivotIndex,                   \
-    T *const *dstPointers, int dstShift, int dstStride0, int order, int object
-#define LU_COM_ARGS_P                                                                             \
-    srcPointers, srcShift, srcStride0, pivotIndex, dstPointers, dstShift, dstStride0, order, object
+#define LU_COM_PARAMS_P(T)                                                                                           \
+    const T *const *srcPointers, int srcShift, int srcStride0, int *pivotIndex, T *const *dstPointers, int dstShift, \
+        int dstStride0, int order, int object
+#define LU_COM_ARGS_P srcPointers, srcShift, srcStride0, pivotIndex, dstPointers, dstShift, dstStride0, order, object
 
 extern "C" {
 VORM_LAYER VormStatus n8_ownvormLUDecomp_32f_S_com(LU_COM_PARAMS_S(float));
@@ -59,14 +51,22 @@ VORM_LAYER VormStatus n8_ownvormLUDecomp_64f_P_com(LU_COM_PARAMS_P(double));
 
 namespace vorm {
 
-template <class T> using LuDecompMLayer = VormStatus(LU_DECOMP_M_PARAMS(T));
-template <class T> using LuDecompMLayerP = VormStatus(LU_DECOMP_M_PARAMS_P(T));
-template <class T> using LuDecompMaLayer = VormStatus(LU_DECOMP_MA_PARAMS(T));
-template <class T> using LuDecompMaLayerL = VormStatus(LU_DECOMP_MA_PARAMS_L(T));
-template <class T> using LuDecompMaLayerP = VormStatus(LU_DECOMP_MA_PARAMS_P(T));
-template <class T> using LuComS = VormStatus(LU_COM_PARAMS_S(T));
-template <class T> using LuComS2 = VormStatus(LU_COM_PARAMS_S2(T));
-template <class T> using LuComP = VormStatus(LU_COM_PARAMS_P(T));
+template <class T>
+using LuDecompMLayer = VormStatus(LU_DECOMP_M_PARAMS(T));
+template <class T>
+using LuDecompMLayerP = VormStatus(LU_DECOMP_M_PARAMS_P(T));
+template <class T>
+using LuDecompMaLayer = VormStatus(LU_DECOMP_MA_PARAMS(T));
+template <class T>
+using LuDecompMaLayerL = VormStatus(LU_DECOMP_MA_PARAMS_L(T));
+template <class T>
+using LuDecompMaLayerP = VormStatus(LU_DECOMP_MA_PARAMS_P(T));
+template <class T>
+using LuComS = VormStatus(LU_COM_PARAMS_S(T));
+template <class T>
+using LuComS2 = VormStatus(LU_COM_PARAMS_S2(T));
+template <class T>
+using LuComP = VormStatus(LU_COM_PARAMS_P(T));
 
 // order order count; from here on a team
 constexpr int luDecompWork(int order, int count) { return wrapMul(order, order, count); }
@@ -158,9 +158,8 @@ VORM_INLINE VormStatus luDecompMaTeamL(LuDecompMaLayerL<T>* contiguousKernel, Lu
 {
     auto* const kernel = contiguous<T>(srcStride2, dstStride2) ? contiguousKernel : kernelS2;
     return inTeam<Kernels::canFail>(count, [=](const Chunk& chunk) {
-        return kernel(srcList + chunk.first, srcShift, srcStride1, srcStride2,
-                      pivotIndex + wrapMul(chunk.first, order), dstList + chunk.first, dstShift, dstStride1,
-                      dstStride2, order, chunk.objects);
+        return kernel(srcList + chunk.first, srcShift, srcStride1, srcStride2, pivotIndex + wrapMul(chunk.first, order),
+                      dstList + chunk.first, dstShift, dstStride1, dstStride2, order, chunk.objects);
     });
 }
 
@@ -187,9 +186,13 @@ VORM_INLINE VormStatus luDecompArray(const Src& src, const Dst& dst, int* pivotI
     case 5: return luObjects<5, T>(src, dst, pivotIndex, count);
     case 6: return luObjects<6, T>(src, dst, pivotIndex, count);
     default:
-        for (int n = 0; n < count; ++n)
-            if (const VormStatus status = general(n); status != StatusOk) return status;
-        return StatusOk;
+        return luArray<T>(
+            dst, order, count,
+            [&](int first) {
+                return order <= luLanesOrder &&
+                       luLanesGeneral<T>(src, dst, first, order, pivotIndex + std::ptrdiff_t{first} * order);
+            },
+            general);
     }
 }
 
@@ -279,10 +282,10 @@ VORM_INLINE VormStatus luDecompMaPointers(LuComP<T>* general, LU_DECOMP_MA_PARAM
     const MatrixArrayPointers srcs{srcPointers, srcShift, srcStride0, order};
     const MatrixArrayPointers dsts{dstPointers, dstShift, dstStride0, order};
     const auto single = [&](int n) {
-        return general(srcPointers, srcShift, srcStride0, pivotIndex + std::ptrdiff_t{n} * order, dstPointers,
-                       dstShift, dstStride0, order, n);
+        return general(srcPointers, srcShift, srcStride0, pivotIndex + std::ptrdiff_t{n} * order, dstPointers, dstShift,
+                       dstStride0, order, n);
     };
-    if (order >= 3 && order <= 6 && inPlanes<T>(srcStride0, dstStride0) && planesApart(dstPointers, order * order))
+    if (inPlanes<T>(srcStride0, dstStride0) && (order > 6 || planesApart(dstPointers, order * order)))
         return luDecompArray<T>(asPlanes(srcs), asPlanes(dsts), pivotIndex, order, count, single);
     return luDecompArray<T>(srcs, dsts, pivotIndex, order, count, single);
 }

@@ -105,8 +105,8 @@ VORM_INLINE void luSolveLanes(const M& matrix, const B& b, const X& dst, int fir
 }
 
 // Objects in ascending order, a register of them wherever they share no memory.
-template <int n, class T, class X, class Single, class Register>
-VORM_INLINE void luEachVector(const X& dst, int count, const Single& single, const Register& lanesFrom)
+template <class T, class X, class Single, class Register>
+VORM_INLINE void luEachVector(const X& dst, int n, int count, const Single& single, const Register& lanesFrom)
 {
     constexpr int width = Lanes<T>::width;
     for (int done = 0; done < count;) {
@@ -126,8 +126,9 @@ template <int n, class T, class M, class B, class X>
 VORM_INLINE void luSolvePairs(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int count)
 {
     const auto pivots = [&](int object) VORM_INLINE_LAMBDA { return pivotIndex + std::ptrdiff_t{object} * n; };
-    luEachVector<n, T>(
-        dst, count, [&](int object) VORM_INLINE_LAMBDA { luSolveObject<n, T>(matrix, b, dst, object, pivots(object)); },
+    luEachVector<T>(
+        dst, n, count,
+        [&](int object) VORM_INLINE_LAMBDA { luSolveObject<n, T>(matrix, b, dst, object, pivots(object)); },
         [&](int first) VORM_INLINE_LAMBDA { luSolveLanes<n, T>(matrix, b, dst, first, pivots(first)); });
 }
 
@@ -151,8 +152,8 @@ VORM_INLINE void luSolveVectors(const M& matrix, const B& b, const X& dst, const
         for (int k = 0; k < n; ++k) system.x[k] = natural[rows[k]];
         luSubstituteBy(system, [&](Lanes<T> x, int i) VORM_INLINE_LAMBDA { return x * reciprocals[i]; });
     };
-    luEachVector<n, T>(
-        dst, count,
+    luEachVector<T>(
+        dst, n, count,
         [&](int object) VORM_INLINE_LAMBDA {
             Lanes<T> natural[n];
             for (int i = 0; i < n; ++i) natural[i] = T(b(object, i));
@@ -247,6 +248,82 @@ VORM_INLINE void luSolveGeneral(const M& matrix, const B& b, const X& dst, int o
         const auto rowI = row(i);
         x(i) = (T(x(i)) - sumOfProducts<T>(rowI, x, i + 1, order)) / rowI(i);
     }
+}
+
+// Solves with a register of matrices of any order n, in logical row order; x as above.
+template <class T>
+VORM_HIDDEN void luSubstitute(const Lanes<T>* lu, Lanes<T>* x, int n);
+
+template <class X, class T>
+VORM_INLINE void storeLanes(const X& dst, int first, const Lanes<T>* x, int n)
+{
+    constexpr int width = Lanes<T>::width;
+    if constexpr (isAdjacent<X>) {
+        T* to[width];
+        for (int l = 0; l < width; ++l) to[l] = dst.object(first + l);
+        storeRows(to, x, n);
+    } else {
+        scatterVectors(dst, first, width, n, reinterpret_cast<const T*>(x));
+    }
+}
+
+template <class T, class M, class B, class X>
+[[gnu::noinline]] void luSolvePairsGeneral(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int n,
+                                           int count)
+{
+    constexpr int width = Lanes<T>::width;
+    const auto pivots = [&](int object) VORM_INLINE_LAMBDA { return pivotIndex + std::ptrdiff_t{object} * n; };
+    const auto single = [&](int object) { luSolveGeneral<T>(matrix, b, dst, object, n, pivots(object)); };
+    if (n > luLanesOrder) {
+        for (int object = 0; object < count; ++object) single(object);
+        return;
+    }
+    luEachVector<T>(dst, n, count, single, [&](int first) VORM_INLINE_LAMBDA {
+        Lanes<T> lu[luLanesOrder * luLanesOrder], x[luLanesOrder];
+        const int* const rows = pivots(first);
+        if constexpr (isAdjacent<M>)
+            for (int k = 0; k < n; ++k) {
+                const T* from[width];
+                for (int l = 0; l < width; ++l) from[l] = rowAt(matrix, first + l, pivotAt(rows, l * n + k));
+                loadRows(from, lu + k * n, n);
+            }
+        else
+            gatherPivotRows(matrix, first, width, n, rows, reinterpret_cast<T*>(lu));
+        for (int k = 0; k < n; ++k)
+            x[k] = gather<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, pivotAt(rows, l * n + k))); });
+        luSubstitute(lu, x, n);
+        storeLanes(dst, first, x, n);
+    });
+}
+
+template <class T, class M, class B, class X>
+[[gnu::noinline]] void luSolveVectorsGeneral(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int n,
+                                             int count)
+{
+    constexpr int width = Lanes<T>::width;
+    const auto single = [&](int object) { luSolveGeneral<T>(matrix, b, dst, object, n, pivotIndex); };
+    if (n > luLanesOrder || count < width) {
+        for (int object = 0; object < count; ++object) single(object);
+        return;
+    }
+    Lanes<T> lu[luLanesOrder * luLanesOrder];
+    for (int k = 0; k < n; ++k)
+        for (int c = 0; c < n; ++c) lu[k * n + c] = T(matrix(0, pivotAt(pivotIndex, k), c));
+    luEachVector<T>(dst, n, count, single, [&](int first) VORM_INLINE_LAMBDA {
+        Lanes<T> natural[luLanesOrder], x[luLanesOrder];
+        if constexpr (isAdjacent<B>) {
+            const T* from[width];
+            for (int l = 0; l < width; ++l) from[l] = b.object(first + l);
+            loadRows(from, natural, n);
+        } else if constexpr (isInPlanes<B>) {
+            for (int i = 0; i < n; ++i) natural[i] = Lanes<T>::load(b.element(i) + first);
+        } else {
+            gatherVectors(b, first, width, n, reinterpret_cast<T*>(natural));
+        }
+        for (int k = 0; k < n; ++k) x[k] = natural[pivotAt(pivotIndex, k)];
+        luSubstitute(lu, x, n);
+        storeLanes(dst, first, x, n);
+    });
 }
 
 }  // namespace vorm

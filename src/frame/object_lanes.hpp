@@ -99,6 +99,32 @@ VORM_INLINE void storeRows(double* const (&to)[2], const Lanes<double> (&from)[n
         unrolled<2>([&](auto l) VORM_INLINE_LAMBDA { elementAt(to[l] + n - 1, 0) = lane<l>(from[n - 1]); });
 }
 
+// The same with a length of the program's run.
+template <class T, int width>
+VORM_INLINE void loadRows(const T* const (&from)[width], Lanes<T>* to, int n)
+{
+    int c = 0;
+    for (; c + width <= n; c += width) {
+        Lanes<T> block[width];
+        for (int l = 0; l < width; ++l) block[l] = Lanes<T>::load(from[l] + c);
+        transpose(block);
+        for (int i = 0; i < width; ++i) to[c + i] = block[i];
+    }
+    for (; c < n; ++c) to[c] = gather<T>([&](int l) VORM_INLINE_LAMBDA { return elementAt(from[l] + c, 0); });
+}
+template <class T, int width>
+VORM_INLINE void storeRows(T* const (&to)[width], const Lanes<T>* from, int n)
+{
+    int c = 0;
+    for (; c + width <= n; c += width) {
+        Lanes<T> block[width];
+        for (int i = 0; i < width; ++i) block[i] = from[c + i];
+        transpose(block);
+        for (int l = 0; l < width; ++l) block[l].store(to[l] + c);
+    }
+    for (; c < n; ++c) unrolled<width>([&](auto l) VORM_INLINE_LAMBDA { elementAt(to[l] + c, 0) = lane<l>(from[c]); });
+}
+
 template <class View>
 VORM_INLINE auto* rowAt(const View& view, int object, std::ptrdiff_t row)
 {

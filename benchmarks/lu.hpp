@@ -1,0 +1,321 @@
+// LU decomposition and substitution, against Eigen (fixed-size, object by object), LAPACK and the loop
+// a user would write with the order known to the compiler. Everyone starts from packed objects that
+// are to be kept; Eigen's and LAPACK's own decompositions are made before their solving is measured.
+#pragma once
+
+#include <lapacke.h>
+
+#include <Eigen/LU>
+#include <memory>
+#include <numeric>
+#include <tuple>
+#include <vector>
+
+#include "memory.hpp"
+#include "rows.hpp"
+#include "vorm/vorm.h"
+
+namespace bench::lu {
+
+enum class Layout { packed, list, planes };
+
+template <class Standard, class List, class Pointers>
+struct Members {
+    const char* name;
+    Standard* standard;
+    List* list;
+    Pointers* pointers;
+};
+#define MEMBERS(stem) \
+    Members { #stem, stem, stem##_L, stem##_P }
+
+// An array of matrices or vectors, stored side by side; as a list visited out of order, or in planes.
+template <class T>
+struct Array {
+    T* data;
+    T** table = nullptr;
+    int rows, columns;
+
+    Array(int rows_, int columns_, int count, Layout layout, int stirred) : rows(rows_), columns(columns_)
+    {
+        const int size = rows * columns;
+        const std::ptrdiff_t planeStep = (count + 15) / 16 * 16 + 7 * 64 / int{sizeof(T)};
+        const std::ptrdiff_t elements = std::max<std::ptrdiff_t>(planeStep, count) * size;
+        data = Memory::region<T>(elements);
+        fill(data, elements);
+        table = Memory::region<T*>(std::max(count, size));
+        if (layout == Layout::list)
+            for (int n = 0; n < count; ++n) table[n] = data + std::int64_t{n} * stirred % count * size;
+        if (layout == Layout::planes)
+            for (int i = 0; i < size; ++i) table[i] = data + i * planeStep;
+    }
+    T* at(int n, Layout layout) const
+    {
+        return layout == Layout::list ? table[n] : data + std::ptrdiff_t{n} * rows * columns;
+    }
+};
+
+// As arguments of our functions.
+template <class T>
+auto matrixArguments(const Array<T>& a, auto layout)
+{
+    const int e = sizeof(T), row = a.columns * e;
+    if constexpr (layout() == Layout::packed) return std::tuple(a.data, a.rows * row, row, e);
+    if constexpr (layout() == Layout::list) return std::tuple(a.table, 0, row, e);
+    if constexpr (layout() == Layout::planes) return std::tuple(a.table, 0, e);
+}
+template <class T>
+auto vectorArguments(const Array<T>& a, auto layout)
+{
+    const int e = sizeof(T);
+    if constexpr (layout() == Layout::packed) return std::tuple(a.data, a.columns * e, e);
+    if constexpr (layout() == Layout::list) return std::tuple(a.table, 0, e);
+    if constexpr (layout() == Layout::planes) return std::tuple(a.table, 0, e);
+}
+template <class T>
+auto commonArguments(const Array<T>& a, auto layout)
+{
+    const int e = sizeof(T);
+    if constexpr (layout() == Layout::planes)
+        return std::tuple(a.table, 0);
+    else
+        return std::tuple(a.data, a.columns * e, e);
+}
+
+template <Layout value>
+struct LayoutOf {
+    constexpr Layout operator()() const { return value; }
+};
+
+inline lapack_int getrf(int n, float* a, int* rows) { return LAPACKE_sgetrf_work(LAPACK_COL_MAJOR, n, n, a, n, rows); }
+inline lapack_int getrf(int n, double* a, int* rows) { return LAPACKE_dgetrf_work(LAPACK_COL_MAJOR, n, n, a, n, rows); }
+inline lapack_int getrs(int n, int many, const float* a, const int* rows, float* x)
+{
+    return LAPACKE_sgetrs_work(LAPACK_COL_MAJOR, 'N', n, many, a, n, rows, x, n);
+}
+inline lapack_int getrs(int n, int many, const double* a, const int* rows, double* x)
+{
+    return LAPACKE_dgetrs_work(LAPACK_COL_MAJOR, 'N', n, many, a, n, rows, x, n);
+}
+
+template <int n, class T>
+[[gnu::noinline]] void plainDecomposition(const T* __restrict a, T* __restrict lu, int* __restrict rows)
+{
+    std::copy(a, a + n * n, lu);
+    std::iota(rows, rows + n, 0);
+    for (int k = 0; k < n; ++k) {
+        int p = k;
+        for (int i = k + 1; i < n; ++i)
+            if (std::abs(lu[i * n + k]) > std::abs(lu[p * n + k])) p = i;
+        if (lu[p * n + k] == 0) return;
+        std::swap(rows[k], rows[p]);
+        if (p != k)
+            for (int c = 0; c < n; ++c) std::swap(lu[k * n + c], lu[p * n + c]);
+        const T reciprocal = 1 / lu[k * n + k];
+        for (int i = k + 1; i < n; ++i) {
+            const T factor = lu[i * n + k] *= reciprocal;
+            for (int c = k + 1; c < n; ++c) lu[i * n + c] -= factor * lu[k * n + c];
+        }
+    }
+}
+template <int n, class T>
+[[gnu::noinline]] void plainSolution(const T* __restrict lu, const int* __restrict rows, const T* __restrict b,
+                                     T* __restrict x, int count, bool ownMatrices)
+{
+    for (int object = 0; object < count; ++object, b += n, x += n) {
+        for (int i = 0; i < n; ++i) {
+            T value = b[rows[i]];
+            for (int j = 0; j < i; ++j) value -= lu[i * n + j] * x[j];
+            x[i] = value;
+        }
+        for (int i = n - 1; i >= 0; --i) {
+            T value = x[i];
+            for (int j = i + 1; j < n; ++j) value -= lu[i * n + j] * x[j];
+            x[i] = value / lu[i * n + i];
+        }
+        if (ownMatrices) lu += n * n, rows += n;
+    }
+}
+
+// Eigen's code takes long to compile: it is the same for all layouts.
+template <int n, class T, int kept>
+[[gnu::noinline]] void eigenDecomposition(const Array<T>& a, const Array<T>& lu, int* rows, int count, Layout layout)
+{
+    using Matrix = Eigen::Matrix<T, n, n, kept>;
+    for (int object = 0; object < count; ++object) {
+        const Eigen::PartialPivLU<Matrix> result(Eigen::Map<const Matrix>(a.at(object, layout)));
+        Eigen::Map<Matrix>(lu.at(object, layout)) = result.matrixLU();
+        Eigen::Map<Eigen::Vector<int, n>>(rows + object * n) = result.permutationP().indices();
+    }
+}
+template <int n, class T>
+using Decomposition = Eigen::PartialPivLU<Eigen::Matrix<T, n, n, Eigen::RowMajor>>;
+template <int n, class T>
+[[gnu::noinline]] void eigenSolution(const Decomposition<n, T>* lu, int step, const Array<T>& b, const Array<T>& x,
+                                     int count, Layout layout)
+{
+    using Vector = Eigen::Vector<T, n>;
+    for (int object = 0; object < count; ++object, lu += step)
+        Eigen::Map<Vector>(x.at(object, layout)) = lu->solve(Eigen::Map<const Vector>(b.at(object, layout)));
+}
+
+template <class T>
+double wantedDecomposition(int n)
+{
+    return sizeof(T) == 4 ? (n <= 6 ? 3 : 1.5) : (n <= 6 ? 2 : 1.2);
+}
+template <class T>
+double wantedOfPlanes(int n)
+{
+    return n > 6 ? 1 : sizeof(T) == 4 ? 1.3 : 1.2;
+}
+
+template <int n, class T, Layout layout>
+Task decomposition(auto members, int count)
+{
+    const Array<T> a(n, n, count, layout, 387), lu(n, n, count, layout, 621);
+    int* const rows = Memory::region<int>(std::ptrdiff_t{count} * n);
+    Task task;
+    const auto add = [&](const char* name, auto work) { task.contestants.push_back({name, work}); };
+    const auto arguments = [=](const Array<T>& from, const Array<T>& to, auto as) {
+        return std::tuple_cat(matrixArguments(from, as), std::tuple(rows), matrixArguments(to, as),
+                              std::tuple(n, count));
+    };
+    const LayoutOf<layout> as;
+    if constexpr (layout == Layout::packed)
+        add("vorm", [=, all = arguments(a, lu, as)] { std::apply(members.standard, all); });
+    if constexpr (layout == Layout::list)
+        add("vorm", [=, all = arguments(a, lu, as)] { std::apply(members.list, all); });
+    if constexpr (layout == Layout::planes) {
+        add("vorm", [=, all = arguments(a, lu, as)] { std::apply(members.pointers, all); });
+        const Array<T> aPacked(n, n, count, Layout::packed, 1), luPacked(n, n, count, Layout::packed, 1);
+        const LayoutOf<Layout::packed> packed;
+        add("vorm, standard layout",
+            [=, all = arguments(aPacked, luPacked, packed)] { std::apply(members.standard, all); });
+        return task;
+    }
+    add("Eigen", [=] { eigenDecomposition<n, T, Eigen::ColMajor>(a, lu, rows, count, layout); });
+    add("Eigen by rows", [=] { eigenDecomposition<n, T, Eigen::RowMajor>(a, lu, rows, count, layout); });
+    add("LAPACK", [=] {
+        for (int object = 0; object < count; ++object) {
+            std::copy_n(a.at(object, layout), n * n, lu.at(object, layout));
+            getrf(n, lu.at(object, layout), rows + object * n);
+        }
+    });
+    add("plain loop", [=] {
+        for (int object = 0; object < count; ++object)
+            plainDecomposition<n>(a.at(object, layout), lu.at(object, layout), rows + object * n);
+    });
+    return task;
+}
+
+// With a matrix for each vector (mava), or one for all of them (mva).
+template <int n, class T, Layout layout, bool ownMatrices>
+Task solution(auto members, int count)
+{
+    const int matrices = ownMatrices ? count : 1;
+    const Array<T> a(n, n, matrices, layout, 387), b(1, n, count, layout, 621), x(1, n, count, layout, 783);
+    const Array<T> lu(n, n, matrices, Layout::packed, 1);
+    int* const rows = Memory::region<int>(std::ptrdiff_t{matrices} * n);
+    auto decompositions = std::make_shared<std::vector<Decomposition<n, T>>>();
+    for (int object = 0; object < matrices; ++object) {
+        plainDecomposition<n>(a.data + object * n * n, lu.data + object * n * n, rows + object * n);
+        decompositions->emplace_back(
+            Eigen::Map<const Eigen::Matrix<T, n, n, Eigen::RowMajor>>(a.data + object * n * n));
+    }
+    // Ours keep their rows where the source had them.
+    for (int object = 0; object < matrices; ++object)
+        for (int k = 0; k < n; ++k)
+            for (int c = 0; c < n; ++c) {
+                const int to = rows[object * n + k] * n + c;
+                (layout == Layout::planes ? a.table[to][object] : a.at(object, layout)[to]) =
+                    lu.data[(object * n + k) * n + c];
+            }
+
+    Task task;
+    const auto add = [&](const char* name, auto work) { task.contestants.push_back({name, work}); };
+    const auto arguments = [=](const Array<T>& m, const Array<T>& from, const Array<T>& to, auto as) {
+        const auto vectors =
+            std::tuple_cat(std::tuple(rows), vectorArguments(from, as), vectorArguments(to, as), std::tuple(n, count));
+        if constexpr (ownMatrices)
+            return std::tuple_cat(matrixArguments(m, as), vectors);
+        else
+            return std::tuple_cat(commonArguments(m, as), vectors);
+    };
+    const LayoutOf<layout> as;
+    if constexpr (layout == Layout::packed)
+        add("vorm", [=, all = arguments(a, b, x, as)] { std::apply(members.standard, all); });
+    if constexpr (layout == Layout::list)
+        add("vorm", [=, all = arguments(a, b, x, as)] { std::apply(members.list, all); });
+    if constexpr (layout == Layout::planes) {
+        add("vorm", [=, all = arguments(a, b, x, as)] { std::apply(members.pointers, all); });
+        const Array<T> aPacked(n, n, matrices, Layout::packed, 1), bPacked(1, n, count, Layout::packed, 1),
+            xPacked(1, n, count, Layout::packed, 1);
+        const LayoutOf<Layout::packed> packed;
+        add("vorm, standard layout",
+            [=, all = arguments(aPacked, bPacked, xPacked, packed)] { std::apply(members.standard, all); });
+        return task;
+    }
+    add("Eigen", [=] { eigenSolution<n, T>(decompositions->data(), ownMatrices, b, x, count, layout); });
+    int* const exchanges = Memory::region<int>(n);
+    std::iota(exchanges, exchanges + n, 1);
+    add("LAPACK", [=] {
+        if (!ownMatrices && layout == Layout::packed) {
+            std::copy_n(b.data, std::ptrdiff_t{count} * n, x.data);
+            getrs(n, count, lu.data, exchanges, x.data);
+            return;
+        }
+        for (int object = 0; object < count; ++object) {
+            std::copy_n(b.at(object, layout), n, x.at(object, layout));
+            getrs(n, 1, lu.data + (ownMatrices ? object * n * n : 0), exchanges, x.at(object, layout));
+        }
+    });
+    if constexpr (layout == Layout::packed) {
+        add("plain loop", [=] { plainSolution<n>(lu.data, rows, b.data, x.data, count, ownMatrices); });
+        if constexpr (!ownMatrices)
+            add("Eigen, all at once", [=] {
+                using Columns = Eigen::Matrix<T, n, Eigen::Dynamic>;
+                Eigen::Map<Columns>(x.data, n, count) =
+                    decompositions->front().solve(Eigen::Map<const Columns>(b.data, n, count));
+            });
+    }
+    return task;
+}
+
+struct LuSections {
+    Section &resident, &streaming, &list, &planes;
+};
+
+template <class T, int... n>
+void addOrders(LuSections& s, auto decompose, auto solveVectors, auto solvePairs)
+{
+    (..., [&] {
+        const int streaming = static_cast<int>(streamingBytes() / (n * n * sizeof(T)) / 16 * 16);
+        constexpr bool isFloat = sizeof(T) == 4;
+        constexpr double wantedPairs = n > 6 ? 1 : isFloat ? 1.6 : 1.2;
+        constexpr double wantedVectors = n == 4 || n == 6 ? (isFloat ? 5 : 4) : 1;
+        const auto add = [&](Section& section, const char* member, int count, double wanted, auto prepare) {
+            section.rows.push_back({std::string(member) + " " + std::to_string(n) + "x" + std::to_string(n), count,
+                                    [=] { return prepare(count); }, wanted});
+        };
+        const auto addShape = [&](auto members, double wanted, auto taskOf) {
+            const auto in = [=](auto layout) { return [=](int count) { return taskOf(layout, count); }; };
+            add(s.resident, members.name, residentObjects, wanted, in(LayoutOf<Layout::packed>{}));
+            if constexpr (n <= 6) add(s.streaming, members.name, streaming, 1, in(LayoutOf<Layout::packed>{}));
+            add(s.list, members.name, residentObjects, 1, in(LayoutOf<Layout::list>{}));
+            add(s.planes, members.name, residentObjects, wantedOfPlanes<T>(n), in(LayoutOf<Layout::planes>{}));
+        };
+        addShape(decompose, wantedDecomposition<T>(n),
+                 [=](auto layout, int count) { return decomposition<n, T, layout()>(decompose, count); });
+        addShape(solvePairs, wantedPairs,
+                 [=](auto layout, int count) { return solution<n, T, layout(), true>(solvePairs, count); });
+        addShape(solveVectors, wantedVectors,
+                 [=](auto layout, int count) { return solution<n, T, layout(), false>(solveVectors, count); });
+    }());
+}
+
+// Each element type in its own file.
+void addAll32f(LuSections& s);
+void addAll64f(LuSections& s);
+
+}  // namespace bench::lu

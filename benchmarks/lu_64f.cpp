@@ -1,0 +1,13 @@
+// LU decomposition and substitution in double precision.
+
+#include "lu.hpp"
+
+namespace bench {
+
+void lu::addAll64f(LuSections& s)
+{
+    addOrders<double, 3, 4, 5, 6, 8, 12>(s, MEMBERS(vormLUDecomp_ma_64f), MEMBERS(vormLUBackSubst_mva_64f),
+                                         MEMBERS(vormLUBackSubst_mava_64f));
+}
+
+}  // namespace bench
