@@ -99,7 +99,7 @@ VORM_INLINE void luSolveLanes(const M& matrix, const B& b, const X& dst, int fir
         gatherPivotRows(matrix, first, width, n, pivotIndex, reinterpret_cast<T*>(system.lu));
     for (int k = 0; k < n; ++k)
         system.x[k] =
-            gather<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, pivotAt(pivotIndex, l * n + k))); });
+            lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, pivotAt(pivotIndex, l * n + k))); });
     luSubstitute(system);
     storeLanes(dst, first, system.x);
 }
@@ -158,7 +158,7 @@ VORM_INLINE void luSolveVectors(const M& matrix, const B& b, const X& dst, const
             Lanes<T> natural[n];
             for (int i = 0; i < n; ++i) natural[i] = T(b(object, i));
             substitute(natural);
-            for (int i = 0; i < n; ++i) dst(object, i) = lane0(system.x[i]);
+            for (int i = 0; i < n; ++i) dst(object, i) = firstLane(system.x[i]);
         },
         [&](int first) VORM_INLINE_LAMBDA {
             Lanes<T> natural[n];
@@ -290,7 +290,7 @@ template <class T, class M, class B, class X>
         else
             gatherPivotRows(matrix, first, width, n, rows, reinterpret_cast<T*>(lu));
         for (int k = 0; k < n; ++k)
-            x[k] = gather<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, pivotAt(rows, l * n + k))); });
+            x[k] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, pivotAt(rows, l * n + k))); });
         luSubstitute(lu, x, n);
         storeLanes(dst, first, x, n);
     });

@@ -57,7 +57,7 @@ VORM_INLINE void loadRows(const float* const (&from)[4], Lanes<float> (&to)[n])
         to[full + 1] = _mm_shuffle_ps(ab, cd, _MM_SHUFFLE(3, 1, 3, 1));
     }
     if constexpr (even < n)
-        to[even] = gather<float>([&](int l) VORM_INLINE_LAMBDA { return elementAt(from[l] + even, 0); });
+        to[even] = lanes<float>([&](int l) VORM_INLINE_LAMBDA { return elementAt(from[l] + even, 0); });
 }
 template <int n>
 VORM_INLINE void loadRows(const double* const (&from)[2], Lanes<double> (&to)[n])
@@ -68,7 +68,7 @@ VORM_INLINE void loadRows(const double* const (&from)[2], Lanes<double> (&to)[n]
         to[c] = block[0], to[c + 1] = block[1];
     }
     if constexpr (n % 2 == 1)
-        to[n - 1] = gather<double>([&](int l) VORM_INLINE_LAMBDA { return elementAt(from[l] + n - 1, 0); });
+        to[n - 1] = lanes<double>([&](int l) VORM_INLINE_LAMBDA { return elementAt(from[l] + n - 1, 0); });
 }
 
 template <int n>
@@ -110,7 +110,7 @@ VORM_INLINE void loadRows(const T* const (&from)[width], Lanes<T>* to, int n)
         transpose(block);
         for (int i = 0; i < width; ++i) to[c + i] = block[i];
     }
-    for (; c < n; ++c) to[c] = gather<T>([&](int l) VORM_INLINE_LAMBDA { return elementAt(from[l] + c, 0); });
+    for (; c < n; ++c) to[c] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return elementAt(from[l] + c, 0); });
 }
 template <class T, int width>
 VORM_INLINE void storeRows(T* const (&to)[width], const Lanes<T>* from, int n)

@@ -47,6 +47,11 @@ VORM_INLINE Lanes<float> loadPairs(const float* p, const float* q)
 {
     return _mm_loadh_pi(loadFirst<2>(p).v, reinterpret_cast<const __m64*>(q));
 }
+VORM_INLINE void storePairs(float* p, float* q, Lanes<float> a)
+{
+    _mm_storel_pi(reinterpret_cast<__m64*>(p), a.v);
+    _mm_storeh_pi(reinterpret_cast<__m64*>(q), a.v);
+}
 // The lower or the upper two lanes.
 template <int half>
 VORM_INLINE void storeHalf(float* p, Lanes<float> a)

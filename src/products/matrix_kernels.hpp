@@ -2,12 +2,15 @@
 // views its operands are.
 #pragma once
 
+#include <climits>
+
 #include "products/gathered.hpp"
 #include "products/matrix_fixed.hpp"
 #include "products/matrix_kinds.hpp"
 #include "products/matrix_tiles.hpp"
 #include "products/paths.hpp"
 #include "products/planes.hpp"
+#include "products/vector_fixed.hpp"
 #include "vorm/status.h"
 
 namespace vorm {
@@ -19,6 +22,37 @@ VORM_INLINE int fixedOrder(Lengths lengths)
     const bool square = lengths.m == lengths.n && lengths.n == lengths.k;
     const bool hasBody = lengths.k >= 3 && lengths.k <= (bodies == Bodies::upTo5 ? 5 : 6);
     return bodies != Bodies::none && square && hasBody ? lengths.k : 0;
+}
+
+// The rows of a packed array times a shared matrix from the right are vectors times that matrix from the
+// left, transposed. Where that is faster: at order 3 several rows fill whole registers.
+template <class T, int n>
+constexpr bool fasterByRows = n == 3 || (n <= 5 && sizeof(T) == sizeof(float));
+template <class T, int n, class B, class U>
+VORM_INLINE bool productsByRows(const MatrixArray<U, Adjacent>& a, const B& b, const MatrixArray<T, Adjacent>& dst,
+                                int count)
+{
+    if constexpr (B::isCommon && fasterByRows<T, n>) {
+        constexpr int row = n * int{sizeof(T)};
+        const bool packed =
+            ((a.stride1 ^ row) | (dst.stride1 ^ row) | (a.stride0 ^ n * row) | (dst.stride0 ^ n * row)) == 0;
+        if (!packed || count > INT_MAX / n) return false;
+        fixedProducts<T, n, Start::firstProduct>(Transposed<B>{b}, VectorArray{a.p, row, adjacent},
+                                                 VectorArray{dst.p, row, adjacent}, n * count);
+        return true;
+    }
+    return false;
+}
+template <class T, int n, class A, class B, class D>
+VORM_INLINE bool productsByRows(const A&, const B&, const D&, int)
+{
+    return false;
+}
+
+template <class T, int n, class A, class B, class D>
+VORM_INLINE void fixedProductsOfAll(const A& a, const B& b, const D& dst, int count)
+{
+    if (!productsByRows<T, n>(a, b, dst, count)) products<T, n>(a, b, dst, 0, count);
 }
 
 // Contiguous rows: stored views of all three operands. -----------------------------------------------
@@ -33,10 +67,10 @@ VORM_INLINE VormStatus contiguousProducts(const A& src1, const B& src2, const D&
             return products<T, 6, Order::asInTiles>(a, b, dst, 0, count), StatusOk;
     }
     switch (fixedOrder<bodies>(lengths)) {
-    case 3: products<T, 3>(a, b, dst, 0, count); break;
-    case 4: products<T, 4>(a, b, dst, 0, count); break;
-    case 5: products<T, 5>(a, b, dst, 0, count); break;
-    case 6: products<T, 6>(a, b, dst, 0, count); break;
+    case 3: fixedProductsOfAll<T, 3>(a, b, dst, count); break;
+    case 4: fixedProductsOfAll<T, 4>(a, b, dst, count); break;
+    case 5: fixedProductsOfAll<T, 5>(a, b, dst, count); break;
+    case 6: fixedProductsOfAll<T, 6>(a, b, dst, count); break;
     default:
         for (int n = 0; n < count; ++n)
             generalProduct<Kind>(src1.object(n), src1.stride1, src2.object(n), src2.stride1, dst.object(n), dst.stride1,
