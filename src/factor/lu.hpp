@@ -114,11 +114,10 @@ VORM_INLINE bool luLanes(const Src& src, const Dst& dst, int first, int* pivotIn
     }
     if (luFactorise(lu) < n) return false;
 
-    std::memcpy(static_cast<void*>(pivotIndex), lu.rows, sizeof lu.rows);
     if constexpr (isAdjacent<Dst>) {
         unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
             T* to[width];
-            for (int l = 0; l < width; ++l) to[l] = rowAt(dst, first + l, pivotAt(pivotIndex, l * n + k));
+            for (int l = 0; l < width; ++l) to[l] = rowAt(dst, first + l, lu.rows[l][k]);
             storeRows(to, lu.a[k]);
         });
     } else if constexpr (isInPlanes<Dst>) {
@@ -127,8 +126,10 @@ VORM_INLINE bool luLanes(const Src& src, const Dst& dst, int first, int* pivotIn
             for (int c = 0; c < n; ++c) lu.a[r][c].store(dst.element(r, c) + first);
         });
     } else {
-        scatterPivotRows(dst, first, width, n, n, pivotIndex, reinterpret_cast<const T*>(lu.a));
+        scatterPivotRows(dst, first, width, n, n, lu.rows[0], reinterpret_cast<const T*>(lu.a));
     }
+    // Last, as a load that spans several of the stores just made waits for all of them.
+    std::memcpy(static_cast<void*>(pivotIndex), lu.rows, sizeof lu.rows);
     return true;
 }
 
@@ -266,7 +267,6 @@ template <class T, class Src, class Dst>
     }
     if (!luFactorise(a, rows, n)) return false;
 
-    std::memcpy(static_cast<void*>(pivotIndex), rows, std::size_t(n) * width * sizeof(int));
     if constexpr (isAdjacent<Dst>) {
         for (int k = 0; k < n; ++k) {
             T* to[width];
@@ -276,6 +276,7 @@ template <class T, class Src, class Dst>
     } else {
         scatterPivotRows(dst, first, width, n, n, rows, reinterpret_cast<const T*>(a));
     }
+    std::memcpy(static_cast<void*>(pivotIndex), rows, std::size_t(n) * width * sizeof(int));
     return true;
 }
 

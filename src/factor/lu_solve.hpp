@@ -29,33 +29,25 @@ VORM_INLINE void luSubstituteBy(LuSystem<n, Number>& system, const Divided& divi
     }
 }
 
-// The same with true divisions, compiled once, in lu_blocks.cpp.
-template <int n, class Number>
-VORM_HIDDEN void luSubstitute(LuSystem<n, Number>& system);
-
-// The same where the factors and b lie in source order, rows[k] being where row k is.
-template <int n, class T>
-VORM_HIDDEN void luSubstituteInSourceOrder(LuSystem<n, Lanes<T>>& system, const Lanes<T> (&rows)[n]);
-
-// Rows anywhere, of one object or of a block of them, in the order of the pivots.
-template <class T, class View>
-[[gnu::noinline]] void gatherPivotRows(const View& matrix, int first, int objects, int n, const int* pivotIndex, T* to)
-{
-    for (int l = 0; l < objects; ++l)
-        for (int k = 0; k < n; ++k)
-            for (int c = 0; c < n; ++c)
-                to[(k * n + c) * objects + l] = matrix(first + l, pivotAt(pivotIndex, l * n + k), c);
-}
-
-// One vector with its own matrix. All of it is read before the first element is written.
+// A vector with its own matrix: true divisions. All of b is read before the first element is written.
+// Objects one by one are the fastest here: lanes would first have to gather rows and b by their pivots.
 template <int n, class T, class M, class B, class X>
 VORM_INLINE void luSolveObject(const M& matrix, const B& b, const X& dst, int object, const int* pivotIndex)
 {
     LuSystem<n, T> system;
-    gatherPivotRows(matrix, object, 1, n, pivotIndex, system.lu[0]);
-    for (int k = 0; k < n; ++k) system.x[k] = b(object, pivotAt(pivotIndex, k));
-    luSubstitute(system);
+    for (int k = 0; k < n; ++k) {
+        const int row = pivotAt(pivotIndex, k);
+        for (int c = 0; c < n; ++c) system.lu[k][c] = matrix(object, row, c);
+        system.x[k] = b(object, row);
+    }
+    luSubstituteBy(system, [&](T x, int i) VORM_INLINE_LAMBDA { return x / system.lu[i][i]; });
     for (int i = 0; i < n; ++i) dst(object, i) = system.x[i];
+}
+template <int n, class T, class M, class B, class X>
+VORM_INLINE void luSolvePairs(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int count)
+{
+    for (int object = 0; object < count; ++object)
+        luSolveObject<n, T>(matrix, b, dst, object, pivotIndex + std::ptrdiff_t{object} * n);
 }
 
 template <class X, int n, class T>
@@ -71,37 +63,6 @@ VORM_INLINE void storeLanes(const X& dst, int first, const Lanes<T> (&x)[n])
     } else {
         scatterVectors(dst, first, width, n, reinterpret_cast<const T*>(x));
     }
-}
-
-// A register of vectors with their matrices, each lane in its own logical order.
-template <int n, class T, class M, class B, class X>
-VORM_INLINE void luSolveLanes(const M& matrix, const B& b, const X& dst, int first, const int* pivotIndex)
-{
-    constexpr int width = Lanes<T>::width;
-    LuSystem<n, Lanes<T>> system;
-    if constexpr (isInPlanes<M>) {
-        Lanes<T> rows[n];
-        loadRowNumbers(pivotIndex, rows);
-        for (int r = 0; r < n; ++r) {
-            system.x[r] = Lanes<T>::load(b.element(r) + first);
-            for (int c = 0; c < n; ++c) system.lu[r][c] = Lanes<T>::load(matrix.element(r, c) + first);
-        }
-        luSubstituteInSourceOrder(system, rows);
-        return storeLanes(dst, first, system.x);
-    }
-    if constexpr (isAdjacent<M>)
-        for (int k = 0; k < n; ++k) {
-            const T* from[width];
-            for (int l = 0; l < width; ++l) from[l] = rowAt(matrix, first + l, pivotAt(pivotIndex, l * n + k));
-            loadRows(from, system.lu[k]);
-        }
-    else
-        gatherPivotRows(matrix, first, width, n, pivotIndex, reinterpret_cast<T*>(system.lu));
-    for (int k = 0; k < n; ++k)
-        system.x[k] =
-            gather<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, pivotAt(pivotIndex, l * n + k))); });
-    luSubstitute(system);
-    storeLanes(dst, first, system.x);
 }
 
 // Objects in ascending order, a register of them wherever they share no memory.
@@ -121,32 +82,19 @@ VORM_INLINE void luEachVector(const X& dst, int n, int count, const Single& sing
     }
 }
 
-// Each vector with its own matrix: true divisions.
-template <int n, class T, class M, class B, class X>
-VORM_INLINE void luSolvePairs(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int count)
-{
-    const auto pivots = [&](int object) VORM_INLINE_LAMBDA { return pivotIndex + std::ptrdiff_t{object} * n; };
-    luEachVector<T>(
-        dst, n, count,
-        [&](int object) VORM_INLINE_LAMBDA { luSolveObject<n, T>(matrix, b, dst, object, pivots(object)); },
-        [&](int first) VORM_INLINE_LAMBDA { luSolveLanes<n, T>(matrix, b, dst, first, pivots(first)); });
-}
-
 // All vectors with one matrix: reciprocals of the diagonal, once per call. Single vectors run in lanes
 // too, all of them the same.
 template <int n, class T, class M, class B, class X>
 VORM_INLINE void luSolveVectors(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int count)
 {
     constexpr int width = Lanes<T>::width;
-    T factors[n][n];
-    gatherPivotRows(matrix, 0, 1, n, pivotIndex, factors[0]);
     LuSystem<n, Lanes<T>> system;
     Lanes<T> reciprocals[n];
     int rows[n];
     for (int i = 0; i < n; ++i) {
-        reciprocals[i] = T(1) / factors[i][i];
         rows[i] = pivotAt(pivotIndex, i);
-        for (int j = 0; j < n; ++j) system.lu[i][j] = factors[i][j];
+        for (int j = 0; j < n; ++j) system.lu[i][j] = T(matrix(0, rows[i], j));
+        reciprocals[i] = Lanes<T>(T(1)) / system.lu[i][i];
     }
     const auto substitute = [&](const Lanes<T>(&natural)[n]) VORM_INLINE_LAMBDA {
         for (int k = 0; k < n; ++k) system.x[k] = natural[rows[k]];
@@ -248,6 +196,16 @@ VORM_INLINE void luSolveGeneral(const M& matrix, const B& b, const X& dst, int o
         const auto rowI = row(i);
         x(i) = (T(x(i)) - sumOfProducts<T>(rowI, x, i + 1, order)) / rowI(i);
     }
+}
+
+// Rows anywhere, of a block of objects, in the order of the pivots.
+template <class T, class View>
+[[gnu::noinline]] void gatherPivotRows(const View& matrix, int first, int objects, int n, const int* pivotIndex, T* to)
+{
+    for (int l = 0; l < objects; ++l)
+        for (int k = 0; k < n; ++k)
+            for (int c = 0; c < n; ++c)
+                to[(k * n + c) * objects + l] = matrix(first + l, pivotAt(pivotIndex, l * n + k), c);
 }
 
 // Solves with a register of matrices of any order n, in logical row order; x as above.
