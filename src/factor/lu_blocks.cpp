@@ -44,6 +44,11 @@ Lanes<T> rowNumber(int r)
     else
         return _mm_castsi128_pd(_mm_set1_epi64x(r));
 }
+template <class T>
+Lanes<T> numbered(Lanes<T>, int r)
+{
+    return rowNumber<T>(r);
+}
 __m128 sameNumber(__m128 a, __m128 b)
 {
     return _mm_castsi128_ps(_mm_cmpeq_epi32(_mm_castps_si128(a), _mm_castps_si128(b)));
@@ -123,11 +128,8 @@ VORM_INLINE T pivotToRow(T* a, int* rows, int k, int n)
     return abs(a[k * n + k]);
 }
 
-#ifndef LU_SELECT
-#define LU_SELECT(n, T) (n <= 4 || sizeof(T) == sizeof(float))
-#endif
-// The same for the smallest orders, where all rows fit in registers: every row is looked at, and
-// changes places in the lanes whose pivot it is.
+// The same for the orders 3 to 6 without a branch or an address that depends on the pivots: every row is
+// looked at, and changes places in the lanes whose pivot it is.
 template <int k, int n, class T>
 VORM_INLINE void selectPivotRow(Lanes<T> (&a)[n][n], Lanes<T> (&rows)[n])
 {
@@ -188,28 +190,15 @@ VORM_INLINE int eliminate(Number (&a)[n][n], const BringPivot& bringPivot)
     return passed;
 }
 
-template <class Number>
-struct ElementOf {
-    using Type = Number;
-};
-template <class T>
-struct ElementOf<Lanes<T>> {
-    using Type = T;
-};
-
 template <int n, class Number>
 int luFactorise(LuBlock<n, Number>& lu)
 {
-    using T = typename ElementOf<Number>::Type;
-    if constexpr (!std::is_same_v<T, Number> && LU_SELECT(n, T)) {
-        Lanes<T> rows[n];
-        for (int r = 0; r < n; ++r) rows[r] = rowNumber<T>(r);
-        const int passed = eliminate(lu.a, [&](auto k) VORM_INLINE_LAMBDA { selectPivotRow<k>(lu.a, rows); });
-        storeRowNumbers(rows, lu.rows[0]);
-        return passed;
+    if constexpr (std::is_arithmetic_v<Number>) {
+        std::iota(lu.rows, lu.rows + n, 0);
+        return eliminate(lu.a, [&](int k) VORM_INLINE_LAMBDA { pivotToRow(lu.a[0], lu.rows, k, n); });
     } else {
-        for (auto& rows : lu.rows) std::iota(rows, rows + n, 0);
-        return eliminate(lu.a, [&](int k) VORM_INLINE_LAMBDA { pivotToRow(lu.a[0], lu.rows[0], k, n); });
+        for (int r = 0; r < n; ++r) lu.rows[r] = numbered(lu.rows[r], r);
+        return eliminate(lu.a, [&](auto k) VORM_INLINE_LAMBDA { selectPivotRow<k>(lu.a, lu.rows); });
     }
 }
 
@@ -249,11 +238,9 @@ template bool luFactorise(Lanes<double>* a, int* rows, int n);
 template <int n, class T>
 void luToSourceOrder(LuBlock<n, Lanes<T>>& lu)
 {
-    Lanes<T> rows[n];
-    loadRowNumbers(lu.rows[0], rows);
     decltype(LaneMask<T>::bits) is[n][n];
     for (int k = 0; k < n; ++k)
-        for (int r = 0; r < n; ++r) is[k][r] = sameNumber(rows[k].v, rowNumber<T>(r).v);
+        for (int r = 0; r < n; ++r) is[k][r] = sameNumber(lu.rows[k].v, rowNumber<T>(r).v);
     for (int c = 0; c < n; ++c) {
         Lanes<T> column[n];
         for (int k = 0; k < n; ++k) column[k] = lu.a[k][c];

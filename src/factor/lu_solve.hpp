@@ -8,19 +8,12 @@ namespace vorm {
 
 // Orders 3 to 6. --------------------------------------------------------------------------------------
 
-// Factors in logical row order; x holds b in logical order before, the solution after.
-template <int n, class Number>
-struct LuSystem {
-    Number lu[n][n];
-    Number x[n];
-};
-
-// Terms are subtracted one by one, those first whose unknown is found first. divided(x, i) is x divided
-// by the i-th element of U's diagonal.
+// Factors in logical row order; x holds b in logical order before, the solution after. Terms are subtracted
+// one by one, those first whose unknown is found first. divided(x, i) is x divided by the i-th element of
+// U's diagonal.
 template <int n, class Number, class Divided>
-VORM_INLINE void luSubstituteBy(LuSystem<n, Number>& system, const Divided& divided)
+VORM_INLINE void luSubstitute(const Number (&lu)[n][n], Number (&x)[n], const Divided& divided)
 {
-    auto& [lu, x] = system;
     for (int i = 1; i < n; ++i)
         for (int j = 0; j < i; ++j) x[i] = x[i] - lu[i][j] * x[j];
     for (int i = n - 1; i >= 0; --i) {
@@ -34,14 +27,14 @@ VORM_INLINE void luSubstituteBy(LuSystem<n, Number>& system, const Divided& divi
 template <int n, class T, class M, class B, class X>
 VORM_INLINE void luSolveObject(const M& matrix, const B& b, const X& dst, int object, const int* pivotIndex)
 {
-    LuSystem<n, T> system;
+    T lu[n][n], x[n];
     for (int k = 0; k < n; ++k) {
         const int row = pivotAt(pivotIndex, k);
-        for (int c = 0; c < n; ++c) system.lu[k][c] = matrix(object, row, c);
-        system.x[k] = b(object, row);
+        for (int c = 0; c < n; ++c) lu[k][c] = matrix(object, row, c);
+        x[k] = b(object, row);
     }
-    luSubstituteBy(system, [&](T x, int i) VORM_INLINE_LAMBDA { return x / system.lu[i][i]; });
-    for (int i = 0; i < n; ++i) dst(object, i) = system.x[i];
+    luSubstitute(lu, x, [&](T value, int i) VORM_INLINE_LAMBDA { return value / lu[i][i]; });
+    for (int i = 0; i < n; ++i) dst(object, i) = x[i];
 }
 template <int n, class T, class M, class B, class X>
 VORM_INLINE void luSolvePairs(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int count)
@@ -88,28 +81,27 @@ template <int n, class T, class M, class B, class X>
 VORM_INLINE void luSolveVectors(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int count)
 {
     constexpr int width = Lanes<T>::width;
-    LuSystem<n, Lanes<T>> system;
-    Lanes<T> reciprocals[n];
+    Lanes<T> lu[n][n], reciprocals[n];
     int rows[n];
     for (int i = 0; i < n; ++i) {
         rows[i] = pivotAt(pivotIndex, i);
-        for (int j = 0; j < n; ++j) system.lu[i][j] = T(matrix(0, rows[i], j));
-        reciprocals[i] = Lanes<T>(T(1)) / system.lu[i][i];
+        for (int j = 0; j < n; ++j) lu[i][j] = T(matrix(0, rows[i], j));
+        reciprocals[i] = Lanes<T>(T(1)) / lu[i][i];
     }
-    const auto substitute = [&](const Lanes<T>(&natural)[n]) VORM_INLINE_LAMBDA {
-        for (int k = 0; k < n; ++k) system.x[k] = natural[rows[k]];
-        luSubstituteBy(system, [&](Lanes<T> x, int i) VORM_INLINE_LAMBDA { return x * reciprocals[i]; });
+    const auto substitute = [&](const Lanes<T>(&natural)[n], Lanes<T>(&x)[n]) VORM_INLINE_LAMBDA {
+        for (int k = 0; k < n; ++k) x[k] = natural[rows[k]];
+        luSubstitute(lu, x, [&](Lanes<T> value, int i) VORM_INLINE_LAMBDA { return value * reciprocals[i]; });
     };
     luEachVector<T>(
         dst, n, count,
         [&](int object) VORM_INLINE_LAMBDA {
-            Lanes<T> natural[n];
+            Lanes<T> natural[n], x[n];
             for (int i = 0; i < n; ++i) natural[i] = T(b(object, i));
-            substitute(natural);
-            for (int i = 0; i < n; ++i) dst(object, i) = lane0(system.x[i]);
+            substitute(natural, x);
+            for (int i = 0; i < n; ++i) dst(object, i) = lane0(x[i]);
         },
         [&](int first) VORM_INLINE_LAMBDA {
-            Lanes<T> natural[n];
+            Lanes<T> natural[n], x[n];
             if constexpr (isAdjacent<B>) {
                 const T* from[width];
                 for (int l = 0; l < width; ++l) from[l] = b.object(first + l);
@@ -119,8 +111,8 @@ VORM_INLINE void luSolveVectors(const M& matrix, const B& b, const X& dst, const
             } else {
                 gatherVectors(b, first, width, n, reinterpret_cast<T*>(natural));
             }
-            substitute(natural);
-            storeLanes(dst, first, system.x);
+            substitute(natural, x);
+            storeLanes(dst, first, x);
         });
 }
 
