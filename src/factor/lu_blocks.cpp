@@ -1,5 +1,4 @@
-// Elimination and substitution of the orders 3 to 6, one object or a register of objects at a time:
-// each body once for all layouts.
+// Elimination and substitution of one matrix or of a register of them: each body once, for all layouts.
 
 #include <array>
 #include <numeric>
