@@ -19,17 +19,12 @@ VORM_INLINE int pivotAt(const int* pivotIndex, std::ptrdiff_t k)
 
 // Orders 3 to 6. --------------------------------------------------------------------------------------
 
-template <class Number>
-constexpr int objectsIn = 1;
-template <class T>
-constexpr int objectsIn<Lanes<T>> = Lanes<T>::width;
-
-// One object or a register of them: matrices in logical row order, and the source rows each object's rows
-// came from.
+// One object or a register of them: matrices in logical row order, and the source row each row came from,
+// whose number in lanes is bits that are only moved.
 template <int n, class Number>
 struct LuBlock {
     Number a[n][n];
-    int rows[objectsIn<Number>][n];
+    std::conditional_t<std::is_arithmetic_v<Number>, int, Number> rows[n];
 };
 
 // Factorises a block in place, until a pivot is singular in any of its objects. Returns how many rows
@@ -55,19 +50,6 @@ VORM_INLINE void storeRowNumbers(const Lanes<double> (&rows)[n], int* pivotIndex
             const __m128i lane = _mm_castpd_si128(l ? _mm_unpackhi_pd(rows[k].v, rows[k].v) : rows[k].v);
             elementAt(pivotIndex, (l * n + k) * int{sizeof(int)}) = _mm_cvtsi128_si32(lane);
         }
-}
-
-template <int n>
-VORM_INLINE void loadRowNumbers(const int* pivotIndex, Lanes<float> (&rows)[n])
-{
-    const auto* const p = reinterpret_cast<const float*>(pivotIndex);
-    loadRows({p, p + n, p + 2 * n, p + 3 * n}, rows);
-}
-template <int n>
-VORM_INLINE void loadRowNumbers(const int* pivotIndex, Lanes<double> (&rows)[n])
-{
-    for (int k = 0; k < n; ++k)
-        rows[k] = _mm_castsi128_pd(_mm_set_epi64x(pivotAt(pivotIndex, n + k), pivotAt(pivotIndex, k)));
 }
 
 // Rows anywhere, of one object or of a block of them, object by object and in the order of the pivots.
@@ -114,7 +96,7 @@ VORM_INLINE bool luLanes(const Src& src, const Dst& dst, int first, int* pivotIn
     }
     if (luFactorise(lu) < n) return false;
 
-    std::memcpy(static_cast<void*>(pivotIndex), lu.rows, sizeof lu.rows);
+    storeRowNumbers(lu.rows, pivotIndex);
     if constexpr (isAdjacent<Dst>) {
         unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
             T* to[width];
@@ -266,7 +248,6 @@ template <class T, class Src, class Dst>
     }
     if (!luFactorise(a, rows, n)) return false;
 
-    std::memcpy(static_cast<void*>(pivotIndex), rows, std::size_t(n) * width * sizeof(int));
     if constexpr (isAdjacent<Dst>) {
         for (int k = 0; k < n; ++k) {
             T* to[width];
@@ -276,6 +257,8 @@ template <class T, class Src, class Dst>
     } else {
         scatterPivotRows(dst, first, width, n, n, rows, reinterpret_cast<const T*>(a));
     }
+    // Last, as a load that spans several of the stores just made would wait for all of them.
+    std::memcpy(static_cast<void*>(pivotIndex), rows, std::size_t(n) * width * sizeof(int));
     return true;
 }
 

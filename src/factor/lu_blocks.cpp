@@ -1,6 +1,6 @@
-// Elimination and substitution of the orders 3 to 6, one object or a register of objects at a time:
-// each body once for all layouts.
+// Elimination and substitution of one matrix or of a register of them: each body once, for all layouts.
 
+#include <array>
 #include <numeric>
 #include <utility>
 
@@ -42,6 +42,11 @@ Lanes<T> rowNumber(int r)
         return _mm_castsi128_ps(_mm_set1_epi32(r));
     else
         return _mm_castsi128_pd(_mm_set1_epi64x(r));
+}
+template <class T>
+Lanes<T> numbered(Lanes<T>, int r)
+{
+    return rowNumber<T>(r);
 }
 __m128 sameNumber(__m128 a, __m128 b)
 {
@@ -122,11 +127,8 @@ VORM_INLINE T pivotToRow(T* a, int* rows, int k, int n)
     return abs(a[k * n + k]);
 }
 
-#ifndef LU_SELECT
-#define LU_SELECT(n, T) (n <= 4 || sizeof(T) == sizeof(float))
-#endif
-// The same for the smallest orders, where all rows fit in registers: every row is looked at, and
-// changes places in the lanes whose pivot it is.
+// The same for the orders 3 to 6 without a branch or an address that depends on the pivots: every row is
+// looked at, and changes places in the lanes whose pivot it is.
 template <int k, int n, class T>
 VORM_INLINE void selectPivotRow(Lanes<T> (&a)[n][n], Lanes<T> (&rows)[n])
 {
@@ -187,44 +189,15 @@ VORM_INLINE int eliminate(Number (&a)[n][n], const BringPivot& bringPivot)
     return passed;
 }
 
-template <class T>
-VORM_INLINE Lanes<T> sumOfProducts(const Lanes<T>* row, const Lanes<T>* x, int first, int end)
-{
-    Lanes<T> total = T(0);
-    int j = first;
-    if (end - first >= 8) {
-        Lanes<T> s[8];
-        for (Lanes<T>& sum : s) sum = T(0);
-        for (; end - j >= 8; j += 8)
-            for (int l = 0; l < 8; ++l) s[l] = s[l] + row[j + l] * x[j + l];
-        total = ((s[0] + s[1]) + (s[2] + s[3])) + ((s[4] + s[5]) + (s[6] + s[7]));
-    }
-    for (; j < end; ++j) total = total + row[j] * x[j];
-    return total;
-}
-
-template <class Number>
-struct ElementOf {
-    using Type = Number;
-};
-template <class T>
-struct ElementOf<Lanes<T>> {
-    using Type = T;
-};
-
 template <int n, class Number>
 int luFactorise(LuBlock<n, Number>& lu)
 {
-    using T = typename ElementOf<Number>::Type;
-    if constexpr (!std::is_same_v<T, Number> && LU_SELECT(n, T)) {
-        Lanes<T> rows[n];
-        for (int r = 0; r < n; ++r) rows[r] = rowNumber<T>(r);
-        const int passed = eliminate(lu.a, [&](auto k) VORM_INLINE_LAMBDA { selectPivotRow<k>(lu.a, rows); });
-        storeRowNumbers(rows, lu.rows[0]);
-        return passed;
+    if constexpr (std::is_arithmetic_v<Number>) {
+        std::iota(lu.rows, lu.rows + n, 0);
+        return eliminate(lu.a, [&](int k) VORM_INLINE_LAMBDA { pivotToRow(lu.a[0], lu.rows, k, n); });
     } else {
-        for (auto& rows : lu.rows) std::iota(rows, rows + n, 0);
-        return eliminate(lu.a, [&](int k) VORM_INLINE_LAMBDA { pivotToRow(lu.a[0], lu.rows[0], k, n); });
+        for (int r = 0; r < n; ++r) lu.rows[r] = numbered(lu.rows[r], r);
+        return eliminate(lu.a, [&](auto k) VORM_INLINE_LAMBDA { selectPivotRow<k>(lu.a, lu.rows); });
     }
 }
 
@@ -260,91 +233,62 @@ bool luFactorise(Lanes<T>* a, int* rows, int n)
 template bool luFactorise(Lanes<float>* a, int* rows, int n);
 template bool luFactorise(Lanes<double>* a, int* rows, int n);
 
-template <int n, class Number>
-void luSubstitute(LuSystem<n, Number>& system)
-{
-    luSubstituteBy(system, [&](Number x, int i) VORM_INLINE_LAMBDA { return x / system.lu[i][i]; });
-}
-
-// Row k of the logical order is row r of the source in the lanes of is[k][r].
-template <int n, class T>
-struct RowOrder {
-    decltype(LaneMask<T>::bits) is[n][n];
-
-    explicit RowOrder(const Lanes<T> (&rows)[n])
-    {
-        for (int r = 0; r < n; ++r) {
-            const Lanes<T> wanted = rowNumber<T>(r);
-            for (int k = 0; k < n; ++k) is[k][r] = sameNumber(rows[k].v, wanted.v);
-        }
-    }
-    // Row k out of rows in source order, and row r out of rows in logical order.
-    VORM_INLINE Lanes<T> logical(int k, const Lanes<T>* rows, int step = 1) const
-    {
-        auto found = both(is[k][0], rows[0].v);
-        for (int r = 1; r < n; ++r) found = either(found, both(is[k][r], rows[r * step].v));
-        return found;
-    }
-    VORM_INLINE Lanes<T> source(int r, const Lanes<T>* rows) const
-    {
-        auto found = both(is[0][r], rows[0].v);
-        for (int k = 1; k < n; ++k) found = either(found, both(is[k][r], rows[k].v));
-        return found;
-    }
-};
-
+// Row k of the block is row r of the source in the lanes of is[k][r].
 template <int n, class T>
 void luToSourceOrder(LuBlock<n, Lanes<T>>& lu)
 {
-    Lanes<T> rows[n];
-    loadRowNumbers(lu.rows[0], rows);
-    const RowOrder<n, T> order(rows);
+    decltype(LaneMask<T>::bits) is[n][n];
+    for (int k = 0; k < n; ++k)
+        for (int r = 0; r < n; ++r) is[k][r] = sameNumber(lu.rows[k].v, rowNumber<T>(r).v);
     for (int c = 0; c < n; ++c) {
         Lanes<T> column[n];
         for (int k = 0; k < n; ++k) column[k] = lu.a[k][c];
-        for (int r = 0; r < n; ++r) lu.a[r][c] = order.source(r, column);
+        for (int r = 0; r < n; ++r) {
+            auto found = both(is[0][r], column[0].v);
+            for (int k = 1; k < n; ++k) found = either(found, both(is[k][r], column[k].v));
+            lu.a[r][c] = found;
+        }
     }
 }
 
-// Column by column: an unknown is taken from the lanes' rows, then its terms are subtracted in all rows,
-// also where the row's own unknown is known already and nothing reads it any more.
-template <int n, class T>
-void luSubstituteInSourceOrder(LuSystem<n, Lanes<T>>& system, const Lanes<T> (&rows)[n])
+// Sums of up to luLanesOrder - 1 products, from zero, whose number of terms is known: loops over so few
+// terms cost as much as the terms. Eight terms go to sums of their own, as sumOfProducts has it.
+template <int terms, class T>
+Lanes<T> sumOf(const Lanes<T>* row, const Lanes<T>* x)
 {
-    const RowOrder<n, T> order(rows);
-    auto& [lu, x] = system;
-    Lanes<T> y[n], rest[n];
-    for (int k = 0; k < n; ++k) {
-        y[k] = order.logical(k, x);
-        for (int r = 0; r < n; ++r) x[r] = x[r] - lu[r][k] * y[k];
+    static_assert(terms < 16);
+    constexpr int group = terms >= 8 ? 8 : 0;
+    Lanes<T> total = T(0);
+    if constexpr (group == 8) {
+        Lanes<T> s[8];
+        for (int l = 0; l < 8; ++l) s[l] = Lanes<T>(T(0)) + row[l] * x[l];
+        total = ((s[0] + s[1]) + (s[2] + s[3])) + ((s[4] + s[5]) + (s[6] + s[7]));
     }
-    for (int r = 0; r < n; ++r) rest[r] = order.source(r, y);
-    for (int k = n - 1; k >= 0; --k) {
-        x[k] = order.logical(k, rest) / order.logical(k, &lu[0][k], n);
-        for (int r = 0; r < n; ++r) rest[r] = rest[r] - lu[r][k] * x[k];
-    }
+    unrolled<terms - group>([&](auto j) VORM_INLINE_LAMBDA { total = total + row[group + j] * x[group + j]; });
+    return total;
+}
+template <class T, int... terms>
+constexpr auto sumsOf(std::integer_sequence<int, terms...>)
+{
+    return std::array{sumOf<terms, T>...};
 }
 
-// Any order.
 template <class T>
 void luSubstitute(const Lanes<T>* lu, Lanes<T>* x, int n)
 {
-    for (int i = 1; i < n; ++i) x[i] = x[i] - sumOfProducts(lu + i * n, x, 0, i);
-    for (int i = n - 1; i >= 0; --i) {
-        if (i < n - 1) x[i] = x[i] - sumOfProducts(lu + i * n, x, i + 1, n);
-        x[i] = x[i] / lu[i * n + i];
-    }
+    static constexpr auto sums = sumsOf<T>(std::make_integer_sequence<int, luLanesOrder>{});
+    for (int i = 1; i < n; ++i) x[i] = x[i] - sums[std::size_t(i)](lu + i * n, x);
+    x[n - 1] = x[n - 1] / lu[n * n - 1];
+    for (int i = n - 2; i >= 0; --i)
+        x[i] = (x[i] - sums[std::size_t(n - 1 - i)](lu + i * n + i + 1, x + i + 1)) / lu[i * n + i];
 }
 template void luSubstitute(const Lanes<float>* lu, Lanes<float>* x, int n);
 template void luSubstitute(const Lanes<double>* lu, Lanes<double>* x, int n);
 
-#define LU_BLOCKS(n, T)                                        \
-    template int luFactorise(LuBlock<n, T>& lu);               \
-    template int luFactorise(LuBlock<n, Lanes<T>>& lu);        \
-    template void luToSourceOrder(LuBlock<n, Lanes<T>>& lu);   \
-    template void luSubstitute(LuSystem<n, T>& system);        \
-    template void luSubstitute(LuSystem<n, Lanes<T>>& system); \
-    template void luSubstituteInSourceOrder(LuSystem<n, Lanes<T>>& system, const Lanes<T>(&rows)[n]);
+#define LU_BLOCKS(n, T)                                 \
+    template int luFactorise(LuBlock<n, T>& lu);        \
+    template int luFactorise(LuBlock<n, Lanes<T>>& lu); \
+    template void luToSourceOrder(LuBlock<n, Lanes<T>>& lu);
 #define LU_BLOCKS_OF_TYPE(T) LU_BLOCKS(3, T) LU_BLOCKS(4, T) LU_BLOCKS(5, T) LU_BLOCKS(6, T)
 
 LU_BLOCKS_OF_TYPE(float)

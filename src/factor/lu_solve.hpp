@@ -8,19 +8,12 @@ namespace vorm {
 
 // Orders 3 to 6. --------------------------------------------------------------------------------------
 
-// Factors in logical row order; x holds b in logical order before, the solution after.
-template <int n, class Number>
-struct LuSystem {
-    Number lu[n][n];
-    Number x[n];
-};
-
-// Terms are subtracted one by one, those first whose unknown is found first. divided(x, i) is x divided
-// by the i-th element of U's diagonal.
+// Factors in logical row order; x holds b in logical order before, the solution after. Terms are subtracted
+// one by one, those first whose unknown is found first. divided(x, i) is x divided by the i-th element of
+// U's diagonal.
 template <int n, class Number, class Divided>
-VORM_INLINE void luSubstituteBy(LuSystem<n, Number>& system, const Divided& divided)
+VORM_INLINE void luSubstitute(const Number (&lu)[n][n], Number (&x)[n], const Divided& divided)
 {
-    auto& [lu, x] = system;
     for (int i = 1; i < n; ++i)
         for (int j = 0; j < i; ++j) x[i] = x[i] - lu[i][j] * x[j];
     for (int i = n - 1; i >= 0; --i) {
@@ -29,33 +22,25 @@ VORM_INLINE void luSubstituteBy(LuSystem<n, Number>& system, const Divided& divi
     }
 }
 
-// The same with true divisions, compiled once, in lu_blocks.cpp.
-template <int n, class Number>
-VORM_HIDDEN void luSubstitute(LuSystem<n, Number>& system);
-
-// The same where the factors and b lie in source order, rows[k] being where row k is.
-template <int n, class T>
-VORM_HIDDEN void luSubstituteInSourceOrder(LuSystem<n, Lanes<T>>& system, const Lanes<T> (&rows)[n]);
-
-// Rows anywhere, of one object or of a block of them, in the order of the pivots.
-template <class T, class View>
-[[gnu::noinline]] void gatherPivotRows(const View& matrix, int first, int objects, int n, const int* pivotIndex, T* to)
-{
-    for (int l = 0; l < objects; ++l)
-        for (int k = 0; k < n; ++k)
-            for (int c = 0; c < n; ++c)
-                to[(k * n + c) * objects + l] = matrix(first + l, pivotAt(pivotIndex, l * n + k), c);
-}
-
-// One vector with its own matrix. All of it is read before the first element is written.
+// A vector with its own matrix: true divisions. All of b is read before the first element is written.
+// Objects one by one are the fastest here: lanes would first have to gather rows and b by their pivots.
 template <int n, class T, class M, class B, class X>
 VORM_INLINE void luSolveObject(const M& matrix, const B& b, const X& dst, int object, const int* pivotIndex)
 {
-    LuSystem<n, T> system;
-    gatherPivotRows(matrix, object, 1, n, pivotIndex, system.lu[0]);
-    for (int k = 0; k < n; ++k) system.x[k] = b(object, pivotAt(pivotIndex, k));
-    luSubstitute(system);
-    for (int i = 0; i < n; ++i) dst(object, i) = system.x[i];
+    T lu[n][n], x[n];
+    for (int k = 0; k < n; ++k) {
+        const int row = pivotAt(pivotIndex, k);
+        for (int c = 0; c < n; ++c) lu[k][c] = matrix(object, row, c);
+        x[k] = b(object, row);
+    }
+    luSubstitute(lu, x, [&](T value, int i) VORM_INLINE_LAMBDA { return value / lu[i][i]; });
+    for (int i = 0; i < n; ++i) dst(object, i) = x[i];
+}
+template <int n, class T, class M, class B, class X>
+VORM_INLINE void luSolvePairs(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int count)
+{
+    for (int object = 0; object < count; ++object)
+        luSolveObject<n, T>(matrix, b, dst, object, pivotIndex + std::ptrdiff_t{object} * n);
 }
 
 template <class X, int n, class T>
@@ -71,37 +56,6 @@ VORM_INLINE void storeLanes(const X& dst, int first, const Lanes<T> (&x)[n])
     } else {
         scatterVectors(dst, first, width, n, reinterpret_cast<const T*>(x));
     }
-}
-
-// A register of vectors with their matrices, each lane in its own logical order.
-template <int n, class T, class M, class B, class X>
-VORM_INLINE void luSolveLanes(const M& matrix, const B& b, const X& dst, int first, const int* pivotIndex)
-{
-    constexpr int width = Lanes<T>::width;
-    LuSystem<n, Lanes<T>> system;
-    if constexpr (isInPlanes<M>) {
-        Lanes<T> rows[n];
-        loadRowNumbers(pivotIndex, rows);
-        for (int r = 0; r < n; ++r) {
-            system.x[r] = Lanes<T>::load(b.element(r) + first);
-            for (int c = 0; c < n; ++c) system.lu[r][c] = Lanes<T>::load(matrix.element(r, c) + first);
-        }
-        luSubstituteInSourceOrder(system, rows);
-        return storeLanes(dst, first, system.x);
-    }
-    if constexpr (isAdjacent<M>)
-        for (int k = 0; k < n; ++k) {
-            const T* from[width];
-            for (int l = 0; l < width; ++l) from[l] = rowAt(matrix, first + l, pivotAt(pivotIndex, l * n + k));
-            loadRows(from, system.lu[k]);
-        }
-    else
-        gatherPivotRows(matrix, first, width, n, pivotIndex, reinterpret_cast<T*>(system.lu));
-    for (int k = 0; k < n; ++k)
-        system.x[k] =
-            lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, pivotAt(pivotIndex, l * n + k))); });
-    luSubstitute(system);
-    storeLanes(dst, first, system.x);
 }
 
 // Objects in ascending order, a register of them wherever they share no memory.
@@ -121,47 +75,33 @@ VORM_INLINE void luEachVector(const X& dst, int n, int count, const Single& sing
     }
 }
 
-// Each vector with its own matrix: true divisions.
-template <int n, class T, class M, class B, class X>
-VORM_INLINE void luSolvePairs(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int count)
-{
-    const auto pivots = [&](int object) VORM_INLINE_LAMBDA { return pivotIndex + std::ptrdiff_t{object} * n; };
-    luEachVector<T>(
-        dst, n, count,
-        [&](int object) VORM_INLINE_LAMBDA { luSolveObject<n, T>(matrix, b, dst, object, pivots(object)); },
-        [&](int first) VORM_INLINE_LAMBDA { luSolveLanes<n, T>(matrix, b, dst, first, pivots(first)); });
-}
-
 // All vectors with one matrix: reciprocals of the diagonal, once per call. Single vectors run in lanes
 // too, all of them the same.
 template <int n, class T, class M, class B, class X>
 VORM_INLINE void luSolveVectors(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int count)
 {
     constexpr int width = Lanes<T>::width;
-    T factors[n][n];
-    gatherPivotRows(matrix, 0, 1, n, pivotIndex, factors[0]);
-    LuSystem<n, Lanes<T>> system;
-    Lanes<T> reciprocals[n];
+    Lanes<T> lu[n][n], reciprocals[n];
     int rows[n];
     for (int i = 0; i < n; ++i) {
-        reciprocals[i] = T(1) / factors[i][i];
         rows[i] = pivotAt(pivotIndex, i);
-        for (int j = 0; j < n; ++j) system.lu[i][j] = factors[i][j];
+        for (int j = 0; j < n; ++j) lu[i][j] = T(matrix(0, rows[i], j));
+        reciprocals[i] = Lanes<T>(T(1)) / lu[i][i];
     }
-    const auto substitute = [&](const Lanes<T>(&natural)[n]) VORM_INLINE_LAMBDA {
-        for (int k = 0; k < n; ++k) system.x[k] = natural[rows[k]];
-        luSubstituteBy(system, [&](Lanes<T> x, int i) VORM_INLINE_LAMBDA { return x * reciprocals[i]; });
+    const auto substitute = [&](const Lanes<T>(&natural)[n], Lanes<T>(&x)[n]) VORM_INLINE_LAMBDA {
+        for (int k = 0; k < n; ++k) x[k] = natural[rows[k]];
+        luSubstitute(lu, x, [&](Lanes<T> value, int i) VORM_INLINE_LAMBDA { return value * reciprocals[i]; });
     };
     luEachVector<T>(
         dst, n, count,
         [&](int object) VORM_INLINE_LAMBDA {
-            Lanes<T> natural[n];
+            Lanes<T> natural[n], x[n];
             for (int i = 0; i < n; ++i) natural[i] = T(b(object, i));
-            substitute(natural);
-            for (int i = 0; i < n; ++i) dst(object, i) = firstLane(system.x[i]);
+            substitute(natural, x);
+            for (int i = 0; i < n; ++i) dst(object, i) = firstLane(x[i]);
         },
         [&](int first) VORM_INLINE_LAMBDA {
-            Lanes<T> natural[n];
+            Lanes<T> natural[n], x[n];
             if constexpr (isAdjacent<B>) {
                 const T* from[width];
                 for (int l = 0; l < width; ++l) from[l] = b.object(first + l);
@@ -171,8 +111,8 @@ VORM_INLINE void luSolveVectors(const M& matrix, const B& b, const X& dst, const
             } else {
                 gatherVectors(b, first, width, n, reinterpret_cast<T*>(natural));
             }
-            substitute(natural);
-            storeLanes(dst, first, system.x);
+            substitute(natural, x);
+            storeLanes(dst, first, x);
         });
 }
 
@@ -248,6 +188,16 @@ VORM_INLINE void luSolveGeneral(const M& matrix, const B& b, const X& dst, int o
         const auto rowI = row(i);
         x(i) = (T(x(i)) - sumOfProducts<T>(rowI, x, i + 1, order)) / rowI(i);
     }
+}
+
+// Rows anywhere, of a block of objects, in the order of the pivots.
+template <class T, class View>
+[[gnu::noinline]] void gatherPivotRows(const View& matrix, int first, int objects, int n, const int* pivotIndex, T* to)
+{
+    for (int l = 0; l < objects; ++l)
+        for (int k = 0; k < n; ++k)
+            for (int c = 0; c < n; ++c)
+                to[(k * n + c) * objects + l] = matrix(first + l, pivotAt(pivotIndex, l * n + k), c);
 }
 
 // Solves with a register of matrices of any order n, in logical row order; x as above.
