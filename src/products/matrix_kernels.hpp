@@ -6,8 +6,8 @@
 
 #include "products/gathered.hpp"
 #include "products/matrix_fixed.hpp"
+#include "products/matrix_general.hpp"
 #include "products/matrix_kinds.hpp"
-#include "products/matrix_tiles.hpp"
 #include "products/paths.hpp"
 #include "products/planes.hpp"
 #include "products/vector_fixed.hpp"

@@ -16,11 +16,23 @@
 #pragma once
 
 #include "frame/small_matrix.hpp"
-#include "products/matrix_kinds.hpp"
 
 namespace vorm {
 
 enum class Sums { running, evenAndOdd };
+
+// The view from row r and column c on. ---------------------------------------------------------------
+
+template <class T>
+VORM_INLINE Matrix<T, Adjacent> from(const Matrix<T, Adjacent>& view, int r, int c)
+{
+    return {advance(view.p, std::ptrdiff_t{r} * view.stride1) + c, view.stride1, adjacent};
+}
+template <class Stored>
+VORM_INLINE Transposed<Stored> from(const Transposed<Stored>& view, int r, int c)
+{
+    return {from(view.stored, c, r)};
+}
 
 // Some lanes of row r from column c on, as far as they exist. -------------------------------------
 
@@ -44,22 +56,21 @@ VORM_INLINE void storeAcross(const View& view, int r, int c, Lanes<T> v)
 
 // Tiles along the rows of B and D. ------------------------------------------------------------------
 
-// Rows r to r + height of A and the terms from k on, some at a time: get<i, ahead> is A(r + i, k + ahead)
-// in all lanes.
+// The rows of A and the terms from k on, some at a time: get<i, ahead> is A(i, k + ahead) in all lanes.
 template <class T, int height, class A>
 struct TermsOf {
     static constexpr int width = Lanes<T>::width;
     static constexpr bool inRows = sizeof(T) == sizeof(float) && adjacentRows<A>;
     static constexpr bool inColumns = sizeof(T) == sizeof(float) && isTransposed<A> && height == width;
     const A& a;
-    int r, k;
+    int k;
     Lanes<T> loaded[width];
-    VORM_INLINE TermsOf(const A& a_, int r_, int k_) : a(a_), r(r_), k(k_)
+    VORM_INLINE TermsOf(const A& a_, int k_) : a(a_), k(k_)
     {
         if constexpr (inRows)
-            for (int i = 0; i < height; ++i) loaded[i] = loadAcross<T, width>(a, r + i, k);
+            for (int i = 0; i < height; ++i) loaded[i] = loadAcross<T, width>(a, i, k);
         if constexpr (inColumns)
-            for (int ahead = 0; ahead < width; ++ahead) loaded[ahead] = loadAcross<T, width>(a.stored, k + ahead, r);
+            for (int ahead = 0; ahead < width; ++ahead) loaded[ahead] = loadAcross<T, width>(a.stored, k + ahead, 0);
     }
     template <int i, int ahead>
     VORM_INLINE Lanes<T> get() const
@@ -69,64 +80,62 @@ struct TermsOf {
         else if constexpr (inColumns)
             return splat<i>(loaded[ahead]);
         else
-            return T(a(0, r + i, k + ahead));
+            return T(a(0, i, k + ahead));
+    }
+};
+// One term.
+template <class T, class A>
+struct TermOf {
+    const A& a;
+    int k;
+    template <int i, int>
+    VORM_INLINE Lanes<T> get() const
+    {
+        return T(a(0, i, k));
     }
 };
 
-// height rows from r on, registers side by side from column c on; some of their lanes are in use.
-template <class T, Sums sums, int height, int registers, int some, class A, class B, class D>
-VORM_INLINE void tile(const A& a, const B& b, const D& dst, int r, int c, int terms)
+// The sums of a tile, row by row: from each row of B on the products with a column of A are added to them.
+template <int ahead, int registers, int some, class T, int all, class Terms, class B>
+VORM_INLINE void addTerm(Lanes<T> (&sum)[all], const Terms& terms, const B& b, int k)
 {
-    constexpr int width = Lanes<T>::width, accumulators = sums == Sums::running ? 1 : 2;
-    Lanes<T> sum[accumulators][height][registers];
-    for (auto& accumulator : sum)
-        for (auto& row : accumulator)
-            for (auto& s : row) s = T(0);
-
-    const auto add = [&](int k, const auto& factor, Lanes<T>(&to)[height][registers]) VORM_INLINE_LAMBDA {
-        Lanes<T> rowOfB[registers];
-        for (int p = 0; p < registers; ++p) rowOfB[p] = loadAcross<T, some>(b, k, c + p * width);
-        unrolled<height>([&](auto i) VORM_INLINE_LAMBDA {
-            const Lanes<T> factorOfRow = factor(i);
-            for (int p = 0; p < registers; ++p) {
-                to[i][p] = to[i][p] + factorOfRow * rowOfB[p];
-                __asm__("" : "+x"(to[i][p].v));  // or g++ adds up one sum after the other and spills the rest
-            }
-        });
-    };
-    const auto addOne = [&](int k, Lanes<T>(&to)[height][registers]) VORM_INLINE_LAMBDA {
-        add(
-            k, [&](int i) VORM_INLINE_LAMBDA { return T(a(0, r + i, k)); }, to);
-    };
-    if constexpr (sums == Sums::running) {
-        int k = 0;
-        for (; width == 4 && k + width <= terms; k += width) {
-            const TermsOf<T, height, A> factors(a, r, k);
-            unrolled<width>([&](auto ahead) VORM_INLINE_LAMBDA {
-                add(
-                    k + ahead, [&](auto i) VORM_INLINE_LAMBDA { return factors.template get<i, ahead>(); }, sum[0]);
-            });
-        }
-        for (; k < terms; ++k) addOne(k, sum[0]);
-    } else {
-        for (int k = 0; k + 2 <= terms; k += 2) addOne(k, sum[0]), addOne(k + 1, sum[1]);
-        for (int i = 0; i < height; ++i)
-            for (int p = 0; p < registers; ++p) sum[0][i][p] = sum[0][i][p] + sum[1][i][p];
-        if (terms % 2 != 0) addOne(terms - 1, sum[0]);
-    }
-    for (int i = 0; i < height; ++i)
-        for (int p = 0; p < registers; ++p) storeAcross<T, some>(dst, r + i, c + p * width, sum[0][i][p]);
+    Lanes<T> rowOfB[registers];
+    unrolled<registers>([&](auto p) VORM_INLINE_LAMBDA { rowOfB[p] = loadAcross<T, some>(b, k, p * Lanes<T>::width); });
+    unrolled<all>([&](auto s) VORM_INLINE_LAMBDA {
+        sum[s] = sum[s] + terms.template get<s / registers, ahead>() * rowOfB[s % registers];
+        __asm__("" : "+x"(sum[s].v));  // or g++ adds up one sum after the other and spills the rest
+    });
 }
 
-// The columns from c on that do not fill a register.
-template <class T, Sums sums, int height, class A, class B, class D>
-VORM_INLINE void edge(const A& a, const B& b, const D& dst, int r, int c, int end, int terms)
+// height rows, registers side by side; some of their lanes are in use. A function of its own, so that the
+// many tiles of a product do not share its registers.
+template <class T, Sums sums, int height, int registers, int some, class A, class B, class D>
+[[gnu::noinline]] void tile(const A a, const B b, const D dst, int terms)
 {
-    if (end - c == 1) tile<T, sums, height, 1, 1>(a, b, dst, r, c, terms);
-    if constexpr (Lanes<T>::width == 4) {
-        if (end - c == 2) tile<T, sums, height, 1, 2>(a, b, dst, r, c, terms);
-        if (end - c == 3) tile<T, sums, height, 1, 3>(a, b, dst, r, c, terms);
+    constexpr int width = Lanes<T>::width, all = height * registers;
+    Lanes<T> sum[all];
+    unrolled<all>([&](auto s) VORM_INLINE_LAMBDA { sum[s] = T(0); });
+    int k = 0;
+    if constexpr (sums == Sums::running) {
+        for (; width == 4 && k + width <= terms; k += width) {
+            const TermsOf<T, height, A> ofA(a, k);
+            addTerm<0, registers, some>(sum, ofA, b, k);
+            addTerm<1, registers, some>(sum, ofA, b, k + 1);
+            addTerm<2 % width, registers, some>(sum, ofA, b, k + 2);
+            addTerm<3 % width, registers, some>(sum, ofA, b, k + 3);
+        }
+    } else {
+        Lanes<T> odd[all];
+        unrolled<all>([&](auto s) VORM_INLINE_LAMBDA { odd[s] = T(0); });
+        for (; k + 2 <= terms; k += 2) {
+            addTerm<0, registers, some>(sum, TermOf<T, A>{a, k}, b, k);
+            addTerm<0, registers, some>(odd, TermOf<T, A>{a, k + 1}, b, k + 1);
+        }
+        unrolled<all>([&](auto s) VORM_INLINE_LAMBDA { sum[s] = sum[s] + odd[s]; });
     }
+    for (; k < terms; ++k) addTerm<0, registers, some>(sum, TermOf<T, A>{a, k}, b, k);
+    unrolled<all>([&](auto s)
+                      VORM_INLINE_LAMBDA { storeAcross<T, some>(dst, s / registers, s % registers * width, sum[s]); });
 }
 
 // Strips of tiles: height rows each from row r up to toRow, columns c up to toColumn.
@@ -135,13 +144,22 @@ VORM_INLINE void strips(const A& a, const B& b, const D& dst, int r, int toRow, 
 {
     constexpr int width = Lanes<T>::width;
     for (; r < toRow; r += height) {
+        const A rows = from(a, r, 0);
+        const auto across = [&]<int registers, int some>(int j) VORM_INLINE_LAMBDA {
+            tile<T, sums, height, registers, some>(rows, from(b, 0, j), from(dst, r, j), terms);
+        };
         int j = c;
-        for (; j + 2 * width <= toColumn; j += 2 * width) tile<T, sums, height, 2, width>(a, b, dst, r, j, terms);
+        for (; j + 2 * width <= toColumn; j += 2 * width) across.template operator()<2, width>(j);
         if (j + width <= toColumn) {
-            tile<T, sums, height, 1, width>(a, b, dst, r, j, terms);
+            across.template operator()<1, width>(j);
             j += width;
         }
-        if (j < toColumn) edge<T, sums, height>(a, b, dst, r, j, toColumn, terms);
+        const int left = toColumn - j;
+        if (left == 1) across.template operator()<1, 1>(j);
+        if constexpr (width == 4) {
+            if (left == 2) across.template operator()<1, 2>(j);
+            if (left == 3) across.template operator()<1, 3>(j);
+        }
     }
 }
 
@@ -150,97 +168,51 @@ VORM_INLINE void strips(const A& a, const B& b, const D& dst, int r, int toRow, 
 VORM_INLINE Lanes<float> pairs(Lanes<float> a, Lanes<float> b) { return _mm_hadd_ps(a.v, b.v); }
 VORM_INLINE Lanes<double> pairs(Lanes<double> a, Lanes<double> b) { return _mm_hadd_pd(a.v, b.v); }
 
-// The folded sums of four elements.
-VORM_INLINE void fold(const Lanes<float> (&s)[4][1], float (&total)[4])
+// The sums of one column, folded: of four elements in a register each, or of one element in two or four.
+template <int registers, class T>
+VORM_INLINE void fold(const Lanes<T>* s, T* total)
 {
-    pairs(pairs(s[0][0], s[1][0]), pairs(s[2][0], s[3][0])).store(total);
-}
-// The folded sum of one element.
-VORM_INLINE void fold(const Lanes<float> (&s)[1][2], float (&total)[1])
-{
-    const Lanes<float> both = s[0][0] + s[0][1], folded = pairs(both, both);
-    total[0] = firstLane(pairs(folded, folded));
-}
-VORM_INLINE void fold(const Lanes<double> (&s)[1][4], double (&total)[1])
-{
-    const Lanes<double> fours = pairs(pairs(s[0][0], s[0][1]), pairs(s[0][2], s[0][3]));
-    total[0] = firstLane(pairs(fours, fours));
-}
-
-// height rows from r on, breadth columns from c on; each element has that many registers of sums.
-template <class T, int registers, int height, int breadth, class D>
-VORM_INLINE void dots(const Matrix<const T, Adjacent>& a, const Matrix<const T, Adjacent>& b, const D& dst, int r,
-                      int c, int terms)
-{
-    constexpr int width = Lanes<T>::width;
-    Lanes<T> sum[breadth][height][registers];
-    for (auto& column : sum)
-        for (auto& element : column)
-            for (auto& s : element) s = T(0);
-
-    int inGroups = 0;
-    for (; inGroups + registers * width <= terms; inGroups += registers * width)
-        for (int p = 0; p < registers; ++p) {
-            const int k = inGroups + p * width;
-            Lanes<T> ofB[breadth];
-            for (int j = 0; j < breadth; ++j) ofB[j] = loadAcross<T, width>(b, c + j, k);
-            for (int i = 0; i < height; ++i) {
-                const Lanes<T> ofA = loadAcross<T, width>(a, r + i, k);
-                for (int j = 0; j < breadth; ++j) sum[j][i][p] = sum[j][i][p] + ofA * ofB[j];
-            }
-        }
-    for (int j = 0; j < breadth; ++j) {
-        T total[height];
-        fold(sum[j], total);
-        for (int k = inGroups; k < terms; ++k)
-            for (int i = 0; i < height; ++i) total[i] += a(0, r + i, k) * b(0, c + j, k);
-        for (int i = 0; i < height; ++i) dst(0, r + i, c + j) = total[i];
-    }
-}
-
-// -----------------------------------------------------------------------------------------------------
-
-// One product of any size.
-template <class Kind, class T>
-[[gnu::noinline]] void generalProduct(const T* pSrc1, int src1Stride1, const T* pSrc2, int src2Stride1, T* pDst,
-                                      int dstStride1, Lengths lengths)
-{
-    const Matrix stored1{pSrc1, src1Stride1, adjacent}, stored2{pSrc2, src2Stride1, adjacent};
-    const Matrix dst{pDst, dstStride1, adjacent};
-    const auto [m, n, terms] = lengths;
-    const int tiled = m & ~3, left = m & 3;
-
-    if constexpr (Kind::transposed1 && Kind::transposed2) {
-        // Whole registers lie along the rows of the stored A only, that is along the columns of D.
-        const Transposed columns{dst};
-        const int fours = n & ~3;
-        if (tiled != 0) {
-            strips<T, Sums::running, 4>(stored2, stored1, columns, 0, fours, 0, tiled, terms);
-            strips<T, Sums::running, 1>(stored2, stored1, columns, fours, n, 0, tiled, terms);
-        }
-        if (left == 3)
-            strips<T, Sums::running, 1>(stored2, stored1, columns, 0, n, tiled, m, terms);
-        else if (left != 0)
-            strips<T, Sums::evenAndOdd, 1>(stored2, stored1, columns, 0, n, tiled, m, terms);
-    } else if constexpr (Kind::transposed2) {
-        if constexpr (sizeof(T) == sizeof(double)) {
-            strips<T, Sums::running, 4>(stored1, Transposed{stored2}, dst, 0, tiled, 0, n, terms);
-        } else {
-            for (int i = 0; i < tiled; i += 4) {
-                int j = 0;
-                for (; j + 2 <= n; j += 2) dots<T, 1, 4, 2>(stored1, stored2, dst, i, j, terms);
-                if (j < n) dots<T, 1, 4, 1>(stored1, stored2, dst, i, j, terms);
-            }
-        }
-        for (int i = tiled; i < m; ++i)
-            for (int j = 0; j < n; ++j) dots<T, 8 / Lanes<T>::width, 1, 1>(stored1, stored2, dst, i, j, terms);
+    if constexpr (registers == 1) {
+        pairs(pairs(s[0], s[1]), pairs(s[2], s[3])).store(total);
     } else {
-        const auto a = Kind::first(stored1);
-        if (tiled != 0) strips<T, Sums::running, 4>(a, stored2, dst, 0, tiled, 0, n, terms);
-        if (left == 1) strips<T, Sums::evenAndOdd, 1>(a, stored2, dst, tiled, m, 0, n, terms);
-        if (left == 2) strips<T, Sums::evenAndOdd, 2>(a, stored2, dst, tiled, m, 0, n, terms);
-        if (left == 3) strips<T, Sums::running, 3>(a, stored2, dst, tiled, m, 0, n, terms);
+        Lanes<T> half;
+        if constexpr (registers == 2)
+            half = s[0] + s[1], half = pairs(half, half);
+        else
+            half = pairs(pairs(s[0], s[1]), pairs(s[2], s[3]));
+        *total = firstLane(pairs(half, half));
     }
+}
+
+// height rows, breadth columns; each element has that many registers of sums.
+template <class T, int registers, int height, int breadth>
+[[gnu::noinline]] void dots(const Matrix<const T, Adjacent> a, const Matrix<const T, Adjacent> b,
+                            const Matrix<T, Adjacent> dst, int terms)
+{
+    constexpr int width = Lanes<T>::width, column = height * registers;
+    Lanes<T> sum[breadth * column];
+    unrolled<breadth * column>([&](auto s) VORM_INLINE_LAMBDA { sum[s] = T(0); });
+
+    int k = 0;
+    for (; k + registers * width <= terms; k += registers * width) {
+        Lanes<T> ofB[breadth * registers];
+        unrolled<breadth * registers>([&](auto p) VORM_INLINE_LAMBDA {
+            ofB[p] = loadAcross<T, width>(b, p / registers, k + p % registers * width);
+        });
+        unrolled<column * breadth>([&](auto s) VORM_INLINE_LAMBDA {
+            constexpr int i = s / breadth, j = s % breadth;  // both columns of a row together
+            const Lanes<T> ofA = loadAcross<T, width>(a, i / registers, k + i % registers * width);
+            Lanes<T>& to = sum[j * column + i];
+            to = to + ofA * ofB[j * registers + i % registers];
+        });
+    }
+    unrolled<breadth>([&](auto j) VORM_INLINE_LAMBDA {
+        T total[height];
+        fold<registers>(&sum[j * column], total);
+        for (int rest = k; rest < terms; ++rest)
+            for (int i = 0; i < height; ++i) total[i] += a(0, i, rest) * b(0, j, rest);
+        for (int i = 0; i < height; ++i) dst(0, i, j) = total[i];
+    });
 }
 
 }  // namespace vorm
