@@ -2,7 +2,8 @@
 // k of A(i, k) times row k of B.
 //
 // Where rows of floats end in a rest of one or two elements, the rests of several rows, a group, fill a
-// register of their own: lane l is column l % rest of row l / rest of the group. Doubles gain nothing.
+// register of their own: lane l is column l % rest of row l / rest of the group. Doubles gain by it where
+// all objects share A, so that its elements are gathered but once.
 //
 // Operands are loaded where a part of the body begins that uses them: no compiler moves a load over a
 // store by itself, and there are not registers enough to hold everything.
@@ -16,12 +17,12 @@ namespace vorm {
 // matrix_tiles.hpp).
 enum class Order { leftToRight, asInTiles };
 
+template <class T, int n, bool commonA>
+constexpr int grouped = sizeof(T) == sizeof(float) || commonA ? SmallMatrix<T, n>::rest : 0;
 template <class T, int n>
-constexpr int grouped = sizeof(T) == sizeof(float) ? SmallMatrix<T, n>::rest : 0;
-template <class T, int n>
-constexpr int groupRows = Lanes<T>::width / std::max(grouped<T, n>, 1);
-template <class T, int n>
-constexpr int groups = grouped<T, n> ? n / groupRows<T, n> : 0;
+constexpr int groupRows = Lanes<T>::width / std::max(SmallMatrix<T, n>::rest, 1);
+template <class T, int n, bool commonA>
+constexpr int groups = grouped<T, n, commonA> ? n / groupRows<T, n> : 0;
 
 // The elements of A: get<i, k> is A(i, k) in all lanes, group<g, k> has those of a group's rows, each
 // in the lanes of its row. -----------------------------------------------------------------------------
@@ -40,8 +41,9 @@ struct FactorsInMemory {
     template <int g, int k>
     VORM_INLINE Lanes<T> group() const
     {
-        return lanes<T>([&](int l)
-                            VORM_INLINE_LAMBDA { return T(view(object, g * groupRows<T, n> + l / grouped<T, n>, k)); });
+        return lanes<T>([&](int l) VORM_INLINE_LAMBDA {
+            return T(view(object, g * groupRows<T, n> + l / SmallMatrix<T, n>::rest, k));
+        });
     }
 };
 
@@ -104,14 +106,15 @@ struct FactorsInColumns {
 // Prepared once for all objects.
 template <class T, int n>
 struct FactorsPrepared {
-    Lanes<T> all[n][n], inGroups[std::max(groups<T, n>, 1)][n];
+    Lanes<T> all[n][n], inGroups[std::max(groups<T, n, true>, 1)][n];
     template <class View>
     VORM_INLINE explicit FactorsPrepared(const View& view)
     {
         const FactorsInMemory<T, n, View> factors{view, 0};
         unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
             unrolled<n>([&](auto i) VORM_INLINE_LAMBDA { all[i][k] = factors.template get<i, k>(); });
-            unrolled<groups<T, n>>([&](auto g) VORM_INLINE_LAMBDA { inGroups[g][k] = factors.template group<g, k>(); });
+            unrolled<groups<T, n, true>>([&](auto g)
+                                             VORM_INLINE_LAMBDA { inGroups[g][k] = factors.template group<g, k>(); });
         });
     }
 
@@ -227,11 +230,11 @@ struct Parts {
     }
 };
 
-template <class T, int n, Order order, class A, class B, class D>
+template <class T, int n, Order order, bool commonA, class A, class B, class D>
 VORM_INLINE void product(const A& factors, const B& rows, const D& dst, int object)
 {
     using Small = SmallMatrix<T, n>;
-    constexpr int full = Small::full, parts = grouped<T, n> ? full : Small::parts;
+    constexpr int full = Small::full, parts = grouped<T, n, commonA> ? full : Small::parts;
     // Five rows of doubles are too many for the registers as a whole, and better held without the rests.
     constexpr int atOnce = full > 1 && Small::rest ? full : parts;
     unrolled<(parts + atOnce - 1) / atOnce>([&](auto stage) VORM_INLINE_LAMBDA {
@@ -249,10 +252,10 @@ VORM_INLINE void product(const A& factors, const B& rows, const D& dst, int obje
                                     VORM_INLINE_LAMBDA { Small::template store<i, from + p>(dst, object, row.v[p]); });
         });
     });
-    if constexpr (grouped<T, n> != 0) {
+    if constexpr (grouped<T, n, commonA> != 0) {
         const auto& a = factors(object);
         const auto& b = rows.template load<full, full + 1>(object);
-        unrolled<groups<T, n>>([&](auto g) VORM_INLINE_LAMBDA {
+        unrolled<groups<T, n, commonA>>([&](auto g) VORM_INLINE_LAMBDA {
             constexpr int first = g * groupRows<T, n>;
             const auto rests = sumOf<order, n, first>(
                 [&](auto k) VORM_INLINE_LAMBDA { return a.template group<g, k>() * b.v[full][k]; });
@@ -260,7 +263,7 @@ VORM_INLINE void product(const A& factors, const B& rows, const D& dst, int obje
                 Small::template store<first + i, full>(dst, object, Small::template restOf<i>(rests));
             });
         });
-        if constexpr (groups<T, n> * groupRows<T, n> < n)
+        if constexpr (groups<T, n, commonA> * groupRows<T, n> < n)
             dst(object, n - 1, n - 1) = sumOf<order, n, n - 1>([&](auto k) VORM_INLINE_LAMBDA {
                 return T(factors.view(object, n - 1, k)) * T(rows.view(object, k, n - 1));
             });
@@ -272,7 +275,7 @@ VORM_INLINE void products(const A& a, const B& b, const D& dst, int first, int e
 {
     const std::conditional_t<A::isCommon, CommonFactors<T, n, A>, Factors<T, n, A>> factors{a};
     const std::conditional_t<B::isCommon, CommonRows<T, n, B>, Rows<T, n, B>> rows{b};
-    for (int object = first; object < end; ++object) product<T, n, order>(factors, rows, dst, object);
+    for (int object = first; object < end; ++object) product<T, n, order, A::isCommon>(factors, rows, dst, object);
 }
 
 }  // namespace vorm
