@@ -10,6 +10,7 @@
 #include <Eigen/Core>
 #include <tuple>
 
+#include "members.hpp"
 #include "memory.hpp"
 #include "rows.hpp"
 #include "vorm/vorm.h"
@@ -228,20 +229,6 @@ Task elementwiseTask(Function* ours, int count)
     if (count <= residentObjects) task.result = dst.memory();
     return task;
 }
-
-// The members of one shape and element type.
-template <class Standard, class List, class Pointers>
-struct Members {
-    const char* name;
-    Standard* standard;
-    List* list;
-    Pointers* pointers;
-};
-// clang 14 deduces no aggregates by itself.
-template <class Standard, class List, class Pointers>
-Members(const char*, Standard*, List*, Pointers*) -> Members<Standard, List, Pointers>;
-#define BENCH_MEMBERS(stem) \
-    bench::Members { #stem, stem, stem##_L, stem##_P }
 
 struct ElementwiseSections {
     Section &packed, &packedStreaming, &slots, &slotsStreaming, &anyStride, &list, &planes, &planesStreaming;

@@ -11,6 +11,7 @@
 #include <tuple>
 #include <vector>
 
+#include "members.hpp"
 #include "memory.hpp"
 #include "rows.hpp"
 #include "vorm/vorm.h"
@@ -18,16 +19,6 @@
 namespace bench::lu {
 
 enum class Layout { packed, list, planes };
-
-template <class Standard, class List, class Pointers>
-struct Members {
-    const char* name;
-    Standard* standard;
-    List* list;
-    Pointers* pointers;
-};
-#define MEMBERS(stem) \
-    Members { #stem, stem, stem##_L, stem##_P }
 
 // An array of matrices or vectors, stored side by side; as a list visited out of order, or in planes.
 template <class T>

@@ -6,8 +6,8 @@ namespace bench {
 
 void lu::addAll32f(LuSections& s)
 {
-    addOrders<float, 3, 4, 5, 6, 8, 12>(s, MEMBERS(vormLUDecomp_ma_32f), MEMBERS(vormLUBackSubst_mva_32f),
-                                        MEMBERS(vormLUBackSubst_mava_32f));
+    addOrders<float, 3, 4, 5, 6, 8, 12>(s, BENCH_MEMBERS(vormLUDecomp_ma_32f), BENCH_MEMBERS(vormLUBackSubst_mva_32f),
+                                        BENCH_MEMBERS(vormLUBackSubst_mava_32f));
 }
 
 void addLu(Sections& sections)

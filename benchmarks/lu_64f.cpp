@@ -6,8 +6,8 @@ namespace bench {
 
 void lu::addAll64f(LuSections& s)
 {
-    addOrders<double, 3, 4, 5, 6, 8, 12>(s, MEMBERS(vormLUDecomp_ma_64f), MEMBERS(vormLUBackSubst_mva_64f),
-                                         MEMBERS(vormLUBackSubst_mava_64f));
+    addOrders<double, 3, 4, 5, 6, 8, 12>(s, BENCH_MEMBERS(vormLUDecomp_ma_64f), BENCH_MEMBERS(vormLUBackSubst_mva_64f),
+                                         BENCH_MEMBERS(vormLUBackSubst_mava_64f));
 }
 
 }  // namespace bench

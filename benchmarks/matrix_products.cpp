@@ -9,6 +9,7 @@
 #include <glm/glm.hpp>
 #include <type_traits>
 
+#include "members.hpp"
 #include "memory.hpp"
 #include "rows.hpp"
 #include "vorm/vorm.h"
@@ -19,17 +20,6 @@ namespace {
 
 enum class Shared { none, first, second };
 enum class Layout { packed, list, planes };
-
-// The members of one kind, type and shape.
-template <class Standard, class List, class Pointers>
-struct Members {
-    const char* name;
-    Standard* standard;
-    List* list;
-    Pointers* pointers;
-};
-#define MEMBERS(stem) \
-    Members { #stem, stem, stem##_L, stem##_P }
 
 // Held to SSE, or as wide as this processor allows. The one with the signature of a prefetching kernel is
 // another kernel for libxsmm, which would hand out the first one again.
@@ -260,16 +250,16 @@ void addMatrixProducts(Sections& sections)
         section("Matrix products as structure of arrays, resident", resident + ". Peer: our own packed layout."),
     };
     using enum Shared;
-    addShape<float, false, false, none>(s, MEMBERS(vormMul_mama_32f), {1.6, 1.4, 1.8, 1.8});
-    addShape<float, true, false, none>(s, MEMBERS(vormMul_tama_32f), {1.8, 1.8, 1.8, 1.8});
-    addShape<float, false, true, none>(s, MEMBERS(vormMul_mata_32f), {1.8, 1.8, 1.8, 1.8});
-    addShape<float, false, false, second>(s, MEMBERS(vormMul_mam_32f), {1.5, 1.5, 1.5, 1.5});
-    addShape<float, false, false, first>(s, MEMBERS(vormMul_mma_32f), {});
-    addShape<double, false, false, none>(s, MEMBERS(vormMul_mama_64f), {1.3, 1.3, 1.3, 1.3});
-    addShape<double, true, false, none>(s, MEMBERS(vormMul_tama_64f), {1.5, 1.5, 1.5, 1.5});
-    addShape<double, false, true, none>(s, MEMBERS(vormMul_mata_64f), {1.5, 1.5, 1.5, 1.5});
-    addShape<double, false, false, second>(s, MEMBERS(vormMul_mam_64f), {1.3, 1.3, 1.3, 1.3});
-    addShape<double, false, false, first>(s, MEMBERS(vormMul_mma_64f), {});
+    addShape<float, false, false, none>(s, BENCH_MEMBERS(vormMul_mama_32f), {1.6, 1.4, 1.8, 1.8});
+    addShape<float, true, false, none>(s, BENCH_MEMBERS(vormMul_tama_32f), {1.8, 1.8, 1.8, 1.8});
+    addShape<float, false, true, none>(s, BENCH_MEMBERS(vormMul_mata_32f), {1.8, 1.8, 1.8, 1.8});
+    addShape<float, false, false, second>(s, BENCH_MEMBERS(vormMul_mam_32f), {1.5, 1.5, 1.5, 1.5});
+    addShape<float, false, false, first>(s, BENCH_MEMBERS(vormMul_mma_32f), {});
+    addShape<double, false, false, none>(s, BENCH_MEMBERS(vormMul_mama_64f), {1.3, 1.3, 1.3, 1.3});
+    addShape<double, true, false, none>(s, BENCH_MEMBERS(vormMul_tama_64f), {1.5, 1.5, 1.5, 1.5});
+    addShape<double, false, true, none>(s, BENCH_MEMBERS(vormMul_mata_64f), {1.5, 1.5, 1.5, 1.5});
+    addShape<double, false, false, second>(s, BENCH_MEMBERS(vormMul_mam_64f), {1.3, 1.3, 1.3, 1.3});
+    addShape<double, false, false, first>(s, BENCH_MEMBERS(vormMul_mma_64f), {});
     Section& single = section("Single matrix products", "One object, resident.");
     addSingle<float>(single, "vormMul_mm_32f", vormMul_mm_32f);
     addSingle<double>(single, "vormMul_mm_64f", vormMul_mm_64f);

@@ -261,17 +261,12 @@ std::vector<const Function*> members(bool arraysOnly, std::string_view family = 
 
 class Lu : public testing::Test {
 protected:
-    Lu() { standinThreads = 1; }
-    ~Lu() override { standinThreads = 1; }
     Random random{seed};
 
     // The number of times a call asked for the threads, which also checks its result.
     int askedBy(const Function& f, int threads, const Case& c)
     {
-        standinThreads = threads;
-        standinAsked = 0;
-        check(f, c, random);
-        return standinAsked;
+        return askedDuring(threads, [&] { check(f, c, random); });
     }
 };
 

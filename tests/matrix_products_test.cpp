@@ -371,8 +371,7 @@ TYPED_TEST(MatrixProducts, LongPlanes)
     vorSetNumThreads(1);
     for (const Shape shape : {Shape::firstArray, Shape::secondArray, Shape::bothArrays})
         for (const Layout layout : {Layout::planes, Layout::unevenPlanes})
-            for (int n = 2; n <= 6; ++n)
-                this->checkRandom({tm, shape, layout, n, n, n, 1063, Against::pageBehind, 3});
+            for (int n = 2; n <= 6; ++n) this->checkRandom({tm, shape, layout, n, n, n, 1063, Against::pageBehind, 3});
     vorSetNumThreads(before);
 }
 
@@ -439,7 +438,8 @@ TEST(MatrixProduct, OverlappingObjectsAscend)
                         for (int k = 0; k < n; ++k) sum += pa[at(i * n + k)][object] * pb[at(k * n + j)][object];
                         wanted[place(i * n + j) + at(object)] = sum;
                     }
-            ASSERT_EQ(vormMul_mama_32f_P(pa.data(), 0, 4, n, n, pb.data(), 0, 4, n, n, pd.data(), 0, 4, count), StatusOk);
+            ASSERT_EQ(vormMul_mama_32f_P(pa.data(), 0, 4, n, n, pb.data(), 0, 4, n, n, pd.data(), 0, 4, count),
+                      StatusOk);
             EXPECT_EQ(d, wanted) << "order " << n << ", distance " << distance;
         }
 }

@@ -56,10 +56,7 @@ public:
                 arguments.push_back(f_.type == "32f" ? argumentFor(p, placed_.at(p.operand).single)
                                                      : argumentFor(p, placed_.at(p.operand).twice));
         }
-        standinThreads = threads, standinAsked = 0;
-        EXPECT_EQ(f_.call(arguments), StatusOk) << f_.name;
-        standinThreads = 1;
-        return standinAsked;
+        return askedDuring(threads, [&] { EXPECT_EQ(f_.call(arguments), StatusOk) << f_.name; });
     }
 
     // The measure that decides.
@@ -139,12 +136,13 @@ TEST(MatrixTeams, WrappedMeasureIsSerial)
     const int terms = 1 << 15, count = 1 << 15;
     const std::vector<float> src(terms + count, 0.5f);
     std::vector<float> dst(count);
-    standinThreads = 2, standinAsked = 0;
-    EXPECT_EQ(vormMul_mama_32f(src.data(), 4, 4 * terms, 4, terms, 1, src.data(), 4, 4, 4, 1, terms, dst.data(), 4, 4,
-                               4, count),
-              StatusOk);
-    standinThreads = 1;
-    EXPECT_EQ(standinAsked, 0);
+    EXPECT_EQ(askedDuring(2,
+                          [&] {
+                              EXPECT_EQ(vormMul_mama_32f(src.data(), 4, 4 * terms, 4, terms, 1, src.data(), 4, 4, 4, 1,
+                                                         terms, dst.data(), 4, 4, 4, count),
+                                        StatusOk);
+                          }),
+              0);
     EXPECT_EQ(dst.back(), 0.25f * terms);
 }
 

@@ -28,16 +28,12 @@ int vectorSumLimit(const Function& f)
 
 class Teams : public testing::Test {
 protected:
-    ~Teams() override { standinThreads = 1; }
     Random random{20120924};
 
     // The number of times a call asked for the threads, which also checks its result.
     int askedBy(const Function& f, int threads, const Case& c)
     {
-        standinThreads = threads;
-        standinAsked = 0;
-        checkCaseOfType(f, c, random);
-        return standinAsked;
+        return askedDuring(threads, [&] { checkCaseOfType(f, c, random); });
     }
 };
 
@@ -92,9 +88,10 @@ TEST_F(Teams, WrappedMeasureIsSerial)
     const int len = 1 << 15, count = 1 << 15;
     ASSERT_LT(vectorSumMeasure("vac", len, count), 0);
     std::vector<float> src(len + count, 1.0f), dst(len + count);
-    standinThreads = 2, standinAsked = 0;
-    EXPECT_EQ(vormAdd_vac_32f(src.data(), 4, 4, 2.0f, dst.data(), 4, 4, len, count), StatusOk);
-    EXPECT_EQ(standinAsked, 0);
+    const auto call = [&] {
+        EXPECT_EQ(vormAdd_vac_32f(src.data(), 4, 4, 2.0f, dst.data(), 4, 4, len, count), StatusOk);
+    };
+    EXPECT_EQ(askedDuring(2, call), 0);
     EXPECT_EQ(dst[len + count - 2], 3.0f);
 }
 

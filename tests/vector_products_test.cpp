@@ -147,17 +147,12 @@ void checkCaseOfType(const Function& f, const Case& c, Random& random)
 
 class VectorProducts : public testing::Test {
 protected:
-    VectorProducts() { standinThreads = 1; }
-    ~VectorProducts() override { standinThreads = 1; }
     Random random{seed};
 
     // The number of times a call asked for the threads, which also checks its result.
     int askedBy(const Function& f, int threads, const Case& c)
     {
-        standinThreads = threads;
-        standinAsked = 0;
-        checkCaseOfType(f, c, random);
-        return standinAsked;
+        return askedDuring(threads, [&] { checkCaseOfType(f, c, random); });
     }
 };
 
