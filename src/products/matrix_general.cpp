@@ -20,7 +20,7 @@ void generalProduct(const T* pSrc1, int src1Stride1, const T* pSrc2, int src2Str
         const Transposed columns{dst};
         const int fours = n & ~3;
         if (tiled != 0) {
-            strips<T, Sums::running, 4>(stored2, stored1, columns, 0, fours, 0, tiled, terms);
+            tiles<T>(stored2, stored1, columns, fours, tiled, terms);
             strips<T, Sums::running, 1>(stored2, stored1, columns, fours, n, 0, tiled, terms);
         }
         if (left == 3)
@@ -29,7 +29,7 @@ void generalProduct(const T* pSrc1, int src1Stride1, const T* pSrc2, int src2Str
             strips<T, Sums::evenAndOdd, 1>(stored2, stored1, columns, 0, n, tiled, m, terms);
     } else if constexpr (Kind::transposed2) {
         if constexpr (sizeof(T) == sizeof(double)) {
-            strips<T, Sums::running, 4>(stored1, Transposed{stored2}, dst, 0, tiled, 0, n, terms);
+            tiles<T>(stored1, Transposed{stored2}, dst, tiled, n, terms);
         } else {
             for (int i = 0; i < tiled; i += 4) {
                 int j = 0;
@@ -43,7 +43,7 @@ void generalProduct(const T* pSrc1, int src1Stride1, const T* pSrc2, int src2Str
                 dots<T, 8 / Lanes<T>::width, 1, 1>(from(stored1, i, 0), from(stored2, j, 0), from(dst, i, j), terms);
     } else {
         const auto a = Kind::first(stored1);
-        if (tiled != 0) strips<T, Sums::running, 4>(a, stored2, dst, 0, tiled, 0, n, terms);
+        if (tiled != 0) tiles<T>(a, stored2, dst, tiled, n, terms);
         if (left == 1) strips<T, Sums::evenAndOdd, 1>(a, stored2, dst, tiled, m, 0, n, terms);
         if (left == 2) strips<T, Sums::evenAndOdd, 2>(a, stored2, dst, tiled, m, 0, n, terms);
         if (left == 3) strips<T, Sums::running, 3>(a, stored2, dst, tiled, m, 0, n, terms);

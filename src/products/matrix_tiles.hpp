@@ -107,10 +107,9 @@ VORM_INLINE void addTerm(Lanes<T> (&sum)[all], const Terms& terms, const B& b, i
     });
 }
 
-// height rows, registers side by side; some of their lanes are in use. A function of its own, so that the
-// many tiles of a product do not share its registers.
+// height rows, registers side by side; some of their lanes are in use.
 template <class T, Sums sums, int height, int registers, int some, class A, class B, class D>
-[[gnu::noinline]] void tile(const A a, const B b, const D dst, int terms)
+VORM_INLINE void tileHere(const A& a, const B& b, const D& dst, int terms)
 {
     constexpr int width = Lanes<T>::width, all = height * registers;
     Lanes<T> sum[all];
@@ -138,9 +137,26 @@ template <class T, Sums sums, int height, int registers, int some, class A, clas
                       VORM_INLINE_LAMBDA { storeAcross<T, some>(dst, s / registers, s % registers * width, sum[s]); });
 }
 
+// A function of its own for each, so that the many tiles of a product do not share its registers.
+template <class T, Sums sums, int height, int registers, int some, class A, class B, class D>
+[[gnu::noinline]] void tile(const A a, const B b, const D dst, int terms)
+{
+    tileHere<T, sums, height, registers, some>(a, b, dst, terms);
+}
+
+// The bulk of a product: a multiple of four rows, and of two registers of columns.
+template <class T, class A, class B, class D>
+[[gnu::noinline]] void fullTiles(const A a, const B b, const D dst, int rows, int columns, int terms)
+{
+    constexpr int breadth = 2 * Lanes<T>::width;
+    for (int r = 0; r < rows; r += 4)
+        for (int c = 0; c < columns; c += breadth)
+            tileHere<T, Sums::running, 4, 2, Lanes<T>::width>(from(a, r, 0), from(b, 0, c), from(dst, r, c), terms);
+}
+
 // Strips of tiles: height rows each from row r up to toRow, columns c up to toColumn.
 template <class T, Sums sums, int height, class A, class B, class D>
-VORM_INLINE void strips(const A& a, const B& b, const D& dst, int r, int toRow, int c, int toColumn, int terms)
+[[gnu::noinline]] void strips(const A a, const B b, const D dst, int r, int toRow, int c, int toColumn, int terms)
 {
     constexpr int width = Lanes<T>::width;
     for (; r < toRow; r += height) {
@@ -149,7 +165,8 @@ VORM_INLINE void strips(const A& a, const B& b, const D& dst, int r, int toRow, 
             tile<T, sums, height, registers, some>(rows, from(b, 0, j), from(dst, r, j), terms);
         };
         int j = c;
-        for (; j + 2 * width <= toColumn; j += 2 * width) across.template operator()<2, width>(j);
+        if constexpr (height != 4)
+            for (; j + 2 * width <= toColumn; j += 2 * width) across.template operator()<2, width>(j);
         if (j + width <= toColumn) {
             across.template operator()<1, width>(j);
             j += width;
@@ -161,6 +178,13 @@ VORM_INLINE void strips(const A& a, const B& b, const D& dst, int r, int toRow, 
             if (left == 3) across.template operator()<1, 3>(j);
         }
     }
+}
+template <class T, class A, class B, class D>
+VORM_INLINE void tiles(const A& a, const B& b, const D& dst, int rows, int columns, int terms)
+{
+    const int full = columns & -(2 * Lanes<T>::width);
+    if (full != 0) fullTiles<T>(a, b, dst, rows, full, terms);
+    if (full != columns) strips<T, Sums::running, 4>(a, b, dst, 0, rows, full, columns, terms);
 }
 
 // Tiles along k, for rows of A and columns of B that both run along it. ---------------------------
