@@ -4,6 +4,7 @@
 // counts, since everything that disturbs a measurement makes it longer.
 
 #include <benchmark/benchmark.h>
+#include <unistd.h>
 
 #include <cmath>
 #include <cstdio>
@@ -133,12 +134,16 @@ std::string tableLine(const Row& row, std::map<std::string, double> times, Tally
            " |";
 }
 
-std::string processor()
+// The machine by what matters to the numbers.
+std::string machine()
 {
-    std::ifstream info("/proc/cpuinfo");
-    for (std::string line; std::getline(info, line);)
-        if (line.starts_with("model name")) return line.substr(line.find(':') + 2);
-    return "unknown processor";
+    const auto kib = [](int cache) { return std::to_string(sysconf(cache) / 1024); };
+    const char* const widest = __builtin_cpu_supports("avx512f") ? "AVX-512"
+                               : __builtin_cpu_supports("avx2")  ? "AVX2"
+                                                                 : "SSE";
+    return "x86-64 with " + std::string(widest) + ", " + std::to_string(sysconf(_SC_NPROCESSORS_ONLN)) +
+           " processors, caches of " + kib(_SC_LEVEL1_DCACHE_SIZE) + ", " + kib(_SC_LEVEL2_CACHE_SIZE) + " and " +
+           kib(_SC_LEVEL3_CACHE_SIZE) + " KiB";
 }
 
 std::string compiler()
@@ -185,18 +190,18 @@ int run(const std::string& filter, const std::string& output)
     std::ostringstream report;
     report
         << "# Benchmarks\n\n"
-        << "Written by `scripts/bench`. " << processor() << ", " << compiler() << ".\n\n"
+        << "Written by `scripts/bench`. " << machine() << ", " << compiler() << ".\n\n"
         << "Times are ns per object, the least of several interleaved measurements. *Ratio* is the time of the best\n"
         << "peer, compiled with the same flags, over ours: above 1 we are faster. *Against bandwidth* is our time "
            "over\n"
         << "that of a plain SSE2 loop that moves the same bytes through the same number of streams in the same run.\n"
         << "Calls run on one thread except where a team is measured. All operands begin at multiples of 64 bytes.\n"
-        << "Bold marks a ratio below what the row is held to (1; 2 for `vav` in `32f`, packed and resident) by more "
-           "than the\n"
-        << number(repeatability) << " that separate two runs, and more than " << number(allowedOverBandwidth, 1)
-        << " times the bandwidth.\n\n"
+        << "Bold marks a ratio that is more than the " << number(repeatability)
+        << " which separate two runs below what its row is held to: 1,\n"
+        << "or more where the row has an aim of its own (`wanted` in the sources), and more than "
+        << number(allowedOverBandwidth, 1) << " times the bandwidth.\n\n"
         << tally.rows << " rows; " << tally.slower
-        << " slower than their best peer. Of the packed rows of lengths 3 to 6, " << tally.missed
+        << " slower than their best peer. Of the rows with an aim of their own, " << tally.missed
         << " miss their ratio and\n"
         << tally.overBandwidth << " exceed the bandwidth allowed.\n"
         << tables.str();

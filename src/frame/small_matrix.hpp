@@ -100,8 +100,7 @@ struct SmallMatrix {
             } else if (r < n - 1 && view.stride1 == n * int{sizeof(T)}) {
                 part.store(to);  // the next row overwrites what is too much
             } else {
-                storeFirst<2>(to, part);
-                storeFirst<1>(to + 2, _mm_movehl_ps(part.v, part.v));
+                storeThree(to, part);
             }
         } else {
             unrolled<p == full ? rest : std::min(width, n - p * width)>(

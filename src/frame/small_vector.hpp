@@ -1,8 +1,8 @@
 // The vectors of 3 to 6 elements the library exists for, each held in registers as a whole.
 #pragma once
 
-#include "frame/lanes.hpp"
 #include "frame/operands.hpp"
+#include "frame/shuffles.hpp"
 
 namespace vorm {
 
@@ -54,9 +54,7 @@ struct SlotVector {
     template <class View>
     VORM_INLINE void store(const View& view, int n) const
     {
-        float* const p = view.object(n);
-        storeFirst<2>(p, v[0]);
-        storeFirst<1>(p + 2, _mm_movehl_ps(v[0].v, v[0].v));
+        storeThree(view.object(n), v[0]);
     }
 };
 

@@ -348,7 +348,7 @@ VORM_INLINE int packedThrees(const A& a, const float* x, float* y, int count)
         for (int k = 0; k < 3; ++k)
             rows[j][k] = lanes<float>([&](int l) VORM_INLINE_LAMBDA { return float(a(0, (4 * j + l) % 3, k)); });
     int object = 0;
-    for (; object + 4 <= count; object += 4, x += 12, y += 12) {
+    for (; count - object >= 4; object += 4, x += 12, y += 12) {
         Lanes<float> result[3];
         unrolled<3>([&](auto j) VORM_INLINE_LAMBDA {
             constexpr int begin = 4 * j, first = begin / 3;  // the lanes belong to this object and the next one
@@ -404,7 +404,7 @@ VORM_INLINE int productsOfFour(const A& a, const X& x, const D& y, int count)
 {
     const SpreadMatrix<float, n> matrix(a);
     int object = 0;
-    for (; object + 4 <= count; object += 4) {
+    for (; count - object >= 4; object += 4) {
         Lanes<float> vectors[n], results[n];
         loadFour(x, object, vectors);
         unrolled<n>([&](auto i) VORM_INLINE_LAMBDA {
@@ -467,7 +467,7 @@ requires(sizeof(T) == sizeof(double)) VORM_INLINE int productsOfCommon(const A& 
         return count;
     } else {
         int object = 0;
-        for (; object + 2 <= count; object += 2) {
+        for (; count - object >= 2; object += 2) {
             const auto x0 = Spread<T, n>::load(x, object), x1 = Spread<T, n>::load(x, object + 1);
             Lanes<T> results0[n / 2], results1[n / 2];
             unrolled<n / 2>([&](auto c) VORM_INLINE_LAMBDA {
