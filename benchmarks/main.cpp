@@ -195,11 +195,13 @@ int run(const std::string& filter, const std::string& output)
         << "peer, compiled with the same flags, over ours: above 1 we are faster. *Against bandwidth* is our time "
            "over\n"
         << "that of a plain SSE2 loop that moves the same bytes through the same number of streams in the same run.\n"
+        << "*libxsmm at its widest* is a ratio too, against that library with registers wider than ours where the\n"
+        << "processor has them; it is no peer, and `-` stands where a row has no such contestant.\n"
         << "Calls run on one thread except where a team is measured. All operands begin at multiples of 64 bytes.\n"
-        << "Bold marks a ratio that is more than the " << number(repeatability)
-        << " which separate two runs below what its row is held to: 1,\n"
-        << "or more where the row has an aim of its own (`wanted` in the sources), and more than "
-        << number(allowedOverBandwidth, 1) << " times the bandwidth.\n\n"
+        << "Bold marks a ratio that misses what its row is held to (1, or more where the row has an aim of its own,\n"
+        << "`wanted` in the sources) by more than the " << number(repeatability)
+        << " that separate two runs, and a time above " << number(allowedOverBandwidth, 1) << " times that of\n"
+        << "the bandwidth loop.\n\n"
         << tally.rows << " rows; " << tally.slower
         << " slower than their best peer. Of the rows with an aim of their own, " << tally.missed
         << " miss their ratio and\n"

@@ -1,3 +1,4 @@
+/* Moves two points by one offset. */
 #include <stdio.h>
 #include <vorm/vorm.h>
 

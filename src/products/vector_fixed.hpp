@@ -322,7 +322,7 @@ struct FourColumns {
 template <int some, class X, class D, class Body>
 VORM_INLINE void eachVector(const X& x, const D& y, int object, int count, const Body& body)
 {
-    for (; object + some <= count; object += some)
+    for (; count - object >= some; object += some)
         unrolled<some>([&](auto o) VORM_INLINE_LAMBDA { body(x.object(object + o), y.object(object + o)); });
     for (; object < count; ++object) body(x.object(object), y.object(object));
 }
@@ -333,7 +333,7 @@ VORM_INLINE void eachVector(const VectorArray<const T, Adjacent>& x, const Vecto
     const std::ptrdiff_t xStep = x.stride0, yStep = y.stride0;
     const T* from = x.object(object);
     T* to = y.object(object);
-    for (; object + some <= count; object += some, from = advance(from, some * xStep), to = advance(to, some * yStep))
+    for (; count - object >= some; object += some, from = advance(from, some * xStep), to = advance(to, some * yStep))
         unrolled<some>([&](auto o) VORM_INLINE_LAMBDA { body(advance(from, o * xStep), advance(to, o * yStep)); });
     for (; object < count; ++object, from = advance(from, xStep), to = advance(to, yStep)) body(from, to);
 }
