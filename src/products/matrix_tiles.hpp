@@ -10,6 +10,7 @@
 // but mt, both of whose operands run along k:
 //
 //   float, tiles          four lanes along k, folded as (l0 + l1) + (l2 + l3), then the rest one by one
+//   double, tiles         from zero, ascending k
 //   float, rows left      groups of eight k in two such registers, which are added before the fold
 //   double, rows left     groups of eight k in eight sums, folded as
 //                         ((s0 + s1) + (s2 + s3)) + ((s4 + s5) + (s6 + s7)), then the rest one by one
