@@ -2,8 +2,8 @@
 #pragma once
 
 #include <utility>
-#include "frame/operands.hpp"
 
+#include "frame/operands.hpp"
 #include "frame/operations.hpp"
 #include "frame/small_vector.hpp"
 
