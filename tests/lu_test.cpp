@@ -177,8 +177,12 @@ void checkDecomposition(const Function& f, const Case& c, Random& random)
     const auto src = lay<T>(f, c, c.src, f.isArray(), c.order, random);
     const auto dst = c.inPlace ? src : lay<T>(f, c, c.dst, f.isArray(), c.order, random);
     Pivots pivots(c.order, c.count, random);
-    for (int n = 0; n < c.count && c.values != Values::special; ++n)
-        for (int e = 0; e < c.order * c.order; ++e) src.put(n, e, matrixValue<T>(c.values, c.order, e, random));
+    const int elements = c.order * c.order;
+    for (int n = 0; n < c.count && c.values != Values::special; ++n) {
+        const int turned = c.order * pick(random, 0, c.order - 1);  // the pivots off the diagonal
+        for (int e = 0; e < elements; ++e)
+            src.put(n, e, matrixValue<T>(c.values, c.order, (e + turned) % elements, random));
+    }
     for (int n : c.singular)
         for (int r = 0; r < c.order; ++r) src.put(n, r * c.order + c.column, T(0));
     for (Room* room : {src.room.get(), dst.room.get(), &pivots.room}) room->shade();
@@ -194,7 +198,7 @@ void checkDecomposition(const Function& f, const Case& c, Random& random)
             auto result = all(dst, n);
             auto rows = pivots.get(n);
             const VormStatus status = factorise(c.order, all(src, n), result, rows);
-            for (int e = 0; e < c.order * c.order; ++e) dst.set(n, e, result[std::size_t(e)]);
+            for (int e = 0; e < elements; ++e) dst.set(n, e, result[std::size_t(e)]);
             pivots.putInto(pivots.room.shadow.data(), n, rows);
             if (status == StatusOk) continue;
             expected = status;
