@@ -7,6 +7,7 @@
 #include <limits>
 #include <type_traits>
 
+#include "factor/lu_elimination.hpp"
 #include "frame/object_lanes.hpp"
 #include "vorm/status.h"
 
@@ -19,16 +20,10 @@ VORM_INLINE int pivotAt(const int* pivotIndex, std::ptrdiff_t k)
 
 // Orders 3 to 6. --------------------------------------------------------------------------------------
 
-// One object or a register of them: matrices in logical row order, and the source row each row came from,
-// whose number in lanes is bits that are only moved.
-template <int n, class Number>
-struct LuBlock {
-    Number a[n][n];
-    std::conditional_t<std::is_arithmetic_v<Number>, int, Number> rows[n];
-};
-
-// Factorises a block in place, until a pivot is singular in any of its objects. Returns how many rows
-// have passed; these are final. All bodies of blocks are compiled once, in lu_blocks.cpp.
+#ifndef LU_HERE
+#define LU_HERE 4
+#endif
+// luFactoriseHere, compiled once, in lu_blocks.cpp.
 template <int n, class Number>
 VORM_HIDDEN int luFactorise(LuBlock<n, Number>& lu);
 
@@ -94,7 +89,7 @@ VORM_INLINE bool luLanes(const Src& src, const Dst& dst, int first, int* pivotIn
     } else {
         gatherMatrices(src, first, width, n, reinterpret_cast<T*>(lu.a));
     }
-    if (luFactorise(lu) < n) return false;
+    if ((n <= LU_HERE && isAdjacent<Src> ? luFactoriseHere(lu) : luFactorise(lu)) < n) return false;
 
     storeRowNumbers(lu.rows, pivotIndex);
     if constexpr (isAdjacent<Dst>) {
