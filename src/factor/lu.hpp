@@ -27,10 +27,20 @@ VORM_INLINE int pivotAt(const int* pivotIndex, std::ptrdiff_t k)
 template <int n, class Number>
 VORM_HIDDEN int luFactorise(LuBlock<n, Number>& lu);
 
-// Puts the rows of a block back to where they came from.
-template <int n, class T>
-VORM_HIDDEN void luToSourceOrder(LuBlock<n, Lanes<T>>& lu);
-
+// Row numbers in lanes, those of a register of objects.
+template <int n>
+VORM_INLINE void loadRowNumbers(const int* pivotIndex, Lanes<float> (&rows)[n])
+{
+    const auto* const p = reinterpret_cast<const float*>(pivotIndex);
+    loadRows({p, p + n, p + 2 * n, p + 3 * n}, rows);
+}
+template <int n>
+VORM_INLINE void loadRowNumbers(const int* pivotIndex, Lanes<double> (&rows)[n])
+{
+    for (int k = 0; k < n; ++k)
+        rows[k] = _mm_castsi128_pd(_mm_unpacklo_epi64(_mm_cvtsi32_si128(pivotAt(pivotIndex, k)),
+                                                      _mm_cvtsi32_si128(pivotAt(pivotIndex, n + k))));
+}
 template <int n>
 VORM_INLINE void storeRowNumbers(const Lanes<float> (&rows)[n], int* pivotIndex)
 {
@@ -99,9 +109,15 @@ VORM_INLINE bool luLanes(const Src& src, const Dst& dst, int first, int* pivotIn
             storeRows(to, lu.a[k]);
         });
     } else if constexpr (isInPlanes<Dst>) {
-        luToSourceOrder(lu);
+        // Row k of the block is row r of the source in the lanes of is[k].
         unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
-            for (int c = 0; c < n; ++c) lu.a[r][c].store(dst.element(r, c) + first);
+            decltype(LaneMask<T>::bits) is[n];
+            for (int k = 0; k < n; ++k) is[k] = sameNumber(lu.rows[k].v, rowNumber<T>(r).v);
+            for (int c = 0; c < n; ++c) {
+                auto found = both(is[0], lu.a[0][c].v);
+                for (int k = 1; k < n; ++k) found = either(found, both(is[k], lu.a[k][c].v));
+                Lanes<T>(found).store(dst.element(r, c) + first);
+            }
         });
     } else {
         scatterPivotRows(dst, first, width, n, n, pivotIndex, reinterpret_cast<const T*>(lu.a));

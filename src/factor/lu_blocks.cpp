@@ -10,16 +10,6 @@
 namespace vorm {
 namespace {
 
-__m128 sameNumber(__m128 a, __m128 b)
-{
-    return _mm_castsi128_ps(_mm_cmpeq_epi32(_mm_castps_si128(a), _mm_castps_si128(b)));
-}
-__m128d sameNumber(__m128d a, __m128d b)  // in the lower halves
-{
-    const __m128i same = _mm_cmpeq_epi32(_mm_castpd_si128(a), _mm_castpd_si128(b));
-    return _mm_castsi128_pd(_mm_shuffle_epi32(same, _MM_SHUFFLE(2, 2, 0, 0)));
-}
-
 // Row k and, in each lane, the row whose number is given change places.
 VORM_INLINE void exchangeRows(Lanes<float>* a, int k, const int (&pivot)[4], int n)
 {
@@ -49,8 +39,8 @@ VORM_INLINE void exchangeRows(Lanes<double>* a, int k, const int (&pivot)[2], in
     }
 }
 
-// For any order, with the pivots' row numbers as addresses. a has n columns; rows
-// has n numbers for each lane. Returns the magnitude.
+// The first of the largest magnitudes in column k moves to row k, lane by lane, for any order: here the pivots'
+// row numbers are addresses. a has n columns; rows has n numbers for each lane. Returns the magnitude.
 template <class T>
 VORM_INLINE Lanes<T> pivotToRow(Lanes<T>* a, int* rows, int k, int n)
 {
@@ -72,6 +62,7 @@ VORM_INLINE Lanes<T> pivotToRow(Lanes<T>* a, int* rows, int k, int n)
     exchangeRows(a, k, pivot, n);
     return largest;
 }
+
 }  // namespace
 
 template <int n, class Number>
@@ -112,24 +103,6 @@ bool luFactorise(Lanes<T>* a, int* rows, int n)
 template bool luFactorise(Lanes<float>* a, int* rows, int n);
 template bool luFactorise(Lanes<double>* a, int* rows, int n);
 
-// Row k of the block is row r of the source in the lanes of is[k][r].
-template <int n, class T>
-void luToSourceOrder(LuBlock<n, Lanes<T>>& lu)
-{
-    decltype(LaneMask<T>::bits) is[n][n];
-    for (int k = 0; k < n; ++k)
-        for (int r = 0; r < n; ++r) is[k][r] = sameNumber(lu.rows[k].v, rowNumber<T>(r).v);
-    for (int c = 0; c < n; ++c) {
-        Lanes<T> column[n];
-        for (int k = 0; k < n; ++k) column[k] = lu.a[k][c];
-        for (int r = 0; r < n; ++r) {
-            auto found = both(is[0][r], column[0].v);
-            for (int k = 1; k < n; ++k) found = either(found, both(is[k][r], column[k].v));
-            lu.a[r][c] = found;
-        }
-    }
-}
-
 // Sums of up to luLanesOrder - 1 products, from zero, whose number of terms is known: loops over so few
 // terms cost as much as the terms. Eight terms go to sums of their own, as sumOfProducts has it.
 template <int terms, class T>
@@ -166,8 +139,7 @@ template void luSubstitute(const Lanes<double>* lu, Lanes<double>* x, int n);
 
 #define LU_BLOCKS(n, T)                                 \
     template int luFactorise(LuBlock<n, T>& lu);        \
-    template int luFactorise(LuBlock<n, Lanes<T>>& lu); \
-    template void luToSourceOrder(LuBlock<n, Lanes<T>>& lu);
+    template int luFactorise(LuBlock<n, Lanes<T>>& lu);
 #define LU_BLOCKS_OF_TYPE(T) LU_BLOCKS(3, T) LU_BLOCKS(4, T) LU_BLOCKS(5, T) LU_BLOCKS(6, T)
 
 LU_BLOCKS_OF_TYPE(float)

@@ -46,6 +46,15 @@ VORM_INLINE Lanes<T> numbered(Lanes<T>, int r)
     return rowNumber<T>(r);
 }
 VORM_INLINE int numbered(int, int r) { return r; }
+inline __m128 sameNumber(__m128 a, __m128 b)
+{
+    return _mm_castsi128_ps(_mm_cmpeq_epi32(_mm_castps_si128(a), _mm_castps_si128(b)));
+}
+inline __m128d sameNumber(__m128d a, __m128d b)  // in the lower halves
+{
+    const __m128i same = _mm_cmpeq_epi32(_mm_castpd_si128(a), _mm_castpd_si128(b));
+    return _mm_castsi128_pd(_mm_shuffle_epi32(same, _MM_SHUFFLE(2, 2, 0, 0)));
+}
 
 // Larger, or what was the largest unless it is less: a NaN displaces nothing, and nothing displaces it.
 inline __m128 largerOf(Lanes<float> magnitude, Lanes<float> largest) { return _mm_max_ps(magnitude.v, largest.v); }

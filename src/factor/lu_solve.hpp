@@ -4,26 +4,28 @@
 
 #include "factor/lu.hpp"
 
+#ifndef LU_GATHER
+#define LU_GATHER 7
+#endif
 namespace vorm {
 
 // Orders 3 to 6. --------------------------------------------------------------------------------------
 
-// Factors in logical row order; x holds b in logical order before, the solution after. Terms are subtracted
-// one by one, those first whose unknown is found first. divided(x, i) is x divided by the i-th element of
+// Factors in logical row order; x holds b in logical order before, the solution after. An unknown is subtracted
+// everywhere as soon as it is found. divided(x, i) is x divided by the i-th element of
 // U's diagonal.
 template <int n, class Number, class Divided>
 VORM_INLINE void luSubstitute(const Number (&lu)[n][n], Number (&x)[n], const Divided& divided)
 {
-    for (int i = 1; i < n; ++i)
-        for (int j = 0; j < i; ++j) x[i] = x[i] - lu[i][j] * x[j];
-    for (int i = n - 1; i >= 0; --i) {
-        for (int j = n - 1; j > i; --j) x[i] = x[i] - lu[i][j] * x[j];
-        x[i] = divided(x[i], i);
+    for (int j = 0; j < n - 1; ++j)
+        for (int i = j + 1; i < n; ++i) x[i] = x[i] - lu[i][j] * x[j];
+    for (int j = n - 1; j >= 0; --j) {
+        x[j] = divided(x[j], j);
+        for (int i = 0; i < j; ++i) x[i] = x[i] - lu[i][j] * x[j];
     }
 }
 
 // A vector with its own matrix: true divisions. All of b is read before the first element is written.
-// Objects one by one are the fastest here: lanes would first have to gather rows and b by their pivots.
 template <int n, class T, class M, class B, class X>
 VORM_INLINE void luSolveObject(const M& matrix, const B& b, const X& dst, int object, const int* pivotIndex)
 {
@@ -36,13 +38,6 @@ VORM_INLINE void luSolveObject(const M& matrix, const B& b, const X& dst, int ob
     luSubstitute(lu, x, [&](T value, int i) VORM_INLINE_LAMBDA { return value / lu[i][i]; });
     for (int i = 0; i < n; ++i) dst(object, i) = x[i];
 }
-template <int n, class T, class M, class B, class X>
-VORM_INLINE void luSolvePairs(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int count)
-{
-    for (int object = 0; object < count; ++object)
-        luSolveObject<n, T>(matrix, b, dst, object, pivotIndex + std::ptrdiff_t{object} * n);
-}
-
 template <class X, int n, class T>
 VORM_INLINE void storeLanes(const X& dst, int first, const Lanes<T> (&x)[n])
 {
@@ -73,6 +68,66 @@ VORM_INLINE void luEachVector(const X& dst, int n, int count, const Single& sing
             for (const int end = std::min(done + width, count); done < end; ++done) single(done);
         }
     }
+}
+
+// A register of objects in planes, whose rows are brought into logical order lane by lane; or of rows that are
+// loaded in that order.
+template <int n, class T, class M, class B, class X>
+VORM_INLINE void luSolveLanes(const M& matrix, const B& b, const X& dst, int first, const int* pivotIndex)
+{
+    constexpr int width = Lanes<T>::width;
+    Lanes<T> lu[n][n], x[n];
+    if constexpr (isInPlanes<M> && (width == 2 || n >= LU_GATHER)) {
+        unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
+            int row[width];
+            for (int l = 0; l < width; ++l) row[l] = pivotAt(pivotIndex, l * n + k);
+            for (int c = 0; c < n; ++c)
+                lu[k][c] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(matrix(first + l, row[l], c)); });
+            x[k] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, row[l])); });
+        });
+    } else if constexpr (isInPlanes<M>) {
+        Lanes<T> own[n][n], ownB[n], rows[n];
+        for (int r = 0; r < n; ++r) {
+            for (int c = 0; c < n; ++c) own[r][c] = Lanes<T>::load(matrix.element(r, c) + first);
+            ownB[r] = Lanes<T>::load(b.element(r) + first);
+        }
+        loadRowNumbers(pivotIndex, rows);
+        unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
+            decltype(LaneMask<T>::bits) is[n];
+            for (int r = 0; r < n; ++r) is[r] = sameNumber(rows[k].v, rowNumber<T>(r).v);
+            const auto chosen = [&](auto element) VORM_INLINE_LAMBDA {
+                auto found = both(is[0], element(0).v);
+                for (int r = 1; r < n; ++r) found = either(found, both(is[r], element(r).v));
+                return found;
+            };
+            for (int c = 0; c < n; ++c) lu[k][c] = chosen([&](int r) VORM_INLINE_LAMBDA { return own[r][c]; });
+            x[k] = chosen([&](int r) VORM_INLINE_LAMBDA { return ownB[r]; });
+        });
+    } else {
+        unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
+            const T* from[width];
+            for (int l = 0; l < width; ++l) from[l] = rowAt(matrix, first + l, pivotAt(pivotIndex, l * n + k));
+            loadRows(from, lu[k]);
+            x[k] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, pivotAt(pivotIndex, l * n + k))); });
+        });
+    }
+    luSubstitute(lu, x, [&](Lanes<T> value, int i) VORM_INLINE_LAMBDA { return value / lu[i][i]; });
+    storeLanes(dst, first, x);
+}
+
+
+template <int n, class T, class M, class B, class X>
+VORM_INLINE void luSolvePairs(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int count)
+{
+    const auto pivots = [&](int object) VORM_INLINE_LAMBDA { return pivotIndex + std::ptrdiff_t{object} * n; };
+    const auto single = [&](int object)
+                            VORM_INLINE_LAMBDA { luSolveObject<n, T>(matrix, b, dst, object, pivots(object)); };
+    if constexpr (isInPlanes<M> || (isAdjacent<M>))
+        luEachVector<T>(dst, n, count, single, [&](int first) VORM_INLINE_LAMBDA {
+            luSolveLanes<n, T>(matrix, b, dst, first, pivots(first));
+        });
+    else
+        for (int object = 0; object < count; ++object) single(object);
 }
 
 // All vectors with one matrix: reciprocals of the diagonal, once per call. Single vectors run in lanes
