@@ -20,9 +20,6 @@ VORM_INLINE int pivotAt(const int* pivotIndex, std::ptrdiff_t k)
 
 // Orders 3 to 6. --------------------------------------------------------------------------------------
 
-#ifndef LU_HERE
-#define LU_HERE 4
-#endif
 // luFactoriseHere, compiled once, in lu_blocks.cpp.
 template <int n, class Number>
 VORM_HIDDEN int luFactorise(LuBlock<n, Number>& lu);
@@ -99,7 +96,7 @@ VORM_INLINE bool luLanes(const Src& src, const Dst& dst, int first, int* pivotIn
     } else {
         gatherMatrices(src, first, width, n, reinterpret_cast<T*>(lu.a));
     }
-    if ((n <= LU_HERE && isAdjacent<Src> ? luFactoriseHere(lu) : luFactorise(lu)) < n) return false;
+    if ((n <= 4 && (isAdjacent<Src> || isInPlanes<Src>) ? luFactoriseHere(lu) : luFactorise(lu)) < n) return false;
 
     storeRowNumbers(lu.rows, pivotIndex);
     if constexpr (isAdjacent<Dst>) {
@@ -109,16 +106,25 @@ VORM_INLINE bool luLanes(const Src& src, const Dst& dst, int first, int* pivotIn
             storeRows(to, lu.a[k]);
         });
     } else if constexpr (isInPlanes<Dst>) {
-        // Row k of the block is row r of the source in the lanes of is[k].
-        unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
-            decltype(LaneMask<T>::bits) is[n];
-            for (int k = 0; k < n; ++k) is[k] = sameNumber(lu.rows[k].v, rowNumber<T>(r).v);
-            for (int c = 0; c < n; ++c) {
-                auto found = both(is[0], lu.a[0][c].v);
-                for (int k = 1; k < n; ++k) found = either(found, both(is[k], lu.a[k][c].v));
-                Lanes<T>(found).store(dst.element(r, c) + first);
-            }
-        });
+        if constexpr (width == 2) {
+            unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
+                unrolled<width>([&](auto l) VORM_INLINE_LAMBDA {
+                    const int row = pivotAt(pivotIndex, l * n + k);
+                    for (int c = 0; c < n; ++c) dst(first + l, row, c) = lane<l>(lu.a[k][c]);
+                });
+            });
+        } else {
+            // Row k of the block is row r of the source in the lanes of is[k].
+            unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
+                decltype(LaneMask<T>::bits) is[n];
+                for (int k = 0; k < n; ++k) is[k] = sameNumber(lu.rows[k].v, rowNumber<T>(r).v);
+                for (int c = 0; c < n; ++c) {
+                    auto found = both(is[0], lu.a[0][c].v);
+                    for (int k = 1; k < n; ++k) found = either(found, both(is[k], lu.a[k][c].v));
+                    Lanes<T>(found).store(dst.element(r, c) + first);
+                }
+            });
+        }
     } else {
         scatterPivotRows(dst, first, width, n, n, pivotIndex, reinterpret_cast<const T*>(lu.a));
     }

@@ -4,9 +4,6 @@
 
 #include "factor/lu.hpp"
 
-#ifndef LU_GATHER
-#define LU_GATHER 7
-#endif
 namespace vorm {
 
 // Orders 3 to 6. --------------------------------------------------------------------------------------
@@ -70,22 +67,14 @@ VORM_INLINE void luEachVector(const X& dst, int n, int count, const Single& sing
     }
 }
 
-// A register of objects in planes, whose rows are brought into logical order lane by lane; or of rows that are
-// loaded in that order.
+// A register of objects. Their rows are loaded in logical order; from planes, where those of no two objects lie
+// together, elements are loaded one by one, or few planes as they are and put in order by selecting.
 template <int n, class T, class M, class B, class X>
 VORM_INLINE void luSolveLanes(const M& matrix, const B& b, const X& dst, int first, const int* pivotIndex)
 {
     constexpr int width = Lanes<T>::width;
     Lanes<T> lu[n][n], x[n];
-    if constexpr (isInPlanes<M> && (width == 2 || n >= LU_GATHER)) {
-        unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
-            int row[width];
-            for (int l = 0; l < width; ++l) row[l] = pivotAt(pivotIndex, l * n + k);
-            for (int c = 0; c < n; ++c)
-                lu[k][c] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(matrix(first + l, row[l], c)); });
-            x[k] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, row[l])); });
-        });
-    } else if constexpr (isInPlanes<M>) {
+    if constexpr (isInPlanes<M> && width == 4 && n <= 4) {
         Lanes<T> own[n][n], ownB[n], rows[n];
         for (int r = 0; r < n; ++r) {
             for (int c = 0; c < n; ++c) own[r][c] = Lanes<T>::load(matrix.element(r, c) + first);
@@ -105,16 +94,22 @@ VORM_INLINE void luSolveLanes(const M& matrix, const B& b, const X& dst, int fir
         });
     } else {
         unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
-            const T* from[width];
-            for (int l = 0; l < width; ++l) from[l] = rowAt(matrix, first + l, pivotAt(pivotIndex, l * n + k));
-            loadRows(from, lu[k]);
-            x[k] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, pivotAt(pivotIndex, l * n + k))); });
+            int row[width];
+            for (int l = 0; l < width; ++l) row[l] = pivotAt(pivotIndex, l * n + k);
+            if constexpr (isAdjacent<M>) {
+                const T* from[width];
+                for (int l = 0; l < width; ++l) from[l] = rowAt(matrix, first + l, row[l]);
+                loadRows(from, lu[k]);
+            } else {
+                for (int c = 0; c < n; ++c)
+                    lu[k][c] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(matrix(first + l, row[l], c)); });
+            }
+            x[k] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, row[l])); });
         });
     }
     luSubstitute(lu, x, [&](Lanes<T> value, int i) VORM_INLINE_LAMBDA { return value / lu[i][i]; });
     storeLanes(dst, first, x);
 }
-
 
 template <int n, class T, class M, class B, class X>
 VORM_INLINE void luSolvePairs(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int count)
@@ -122,7 +117,7 @@ VORM_INLINE void luSolvePairs(const M& matrix, const B& b, const X& dst, const i
     const auto pivots = [&](int object) VORM_INLINE_LAMBDA { return pivotIndex + std::ptrdiff_t{object} * n; };
     const auto single = [&](int object)
                             VORM_INLINE_LAMBDA { luSolveObject<n, T>(matrix, b, dst, object, pivots(object)); };
-    if constexpr (isInPlanes<M> || (isAdjacent<M>))
+    if constexpr (isInPlanes<M> || isAdjacent<M>)
         luEachVector<T>(dst, n, count, single, [&](int first) VORM_INLINE_LAMBDA {
             luSolveLanes<n, T>(matrix, b, dst, first, pivots(first));
         });
