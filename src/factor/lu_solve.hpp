@@ -138,30 +138,40 @@ VORM_INLINE void luSolveVectors(const M& matrix, const B& b, const X& dst, const
         for (int j = 0; j < n; ++j) lu[i][j] = T(matrix(0, rows[i], j));
         reciprocals[i] = Lanes<T>(T(1)) / lu[i][i];
     }
-    const auto substitute = [&](const Lanes<T>(&natural)[n], Lanes<T>(&x)[n]) VORM_INLINE_LAMBDA {
-        for (int k = 0; k < n; ++k) x[k] = natural[rows[k]];
+    const auto substitute = [&](Lanes<T>(&x)[n]) VORM_INLINE_LAMBDA {
         luSubstitute(lu, x, [&](Lanes<T> value, int i) VORM_INLINE_LAMBDA { return value * reciprocals[i]; });
     };
+    const auto substituteNatural = [&](const Lanes<T>(&natural)[n], Lanes<T>(&x)[n]) VORM_INLINE_LAMBDA {
+        for (int k = 0; k < n; ++k) x[k] = natural[rows[k]];
+        substitute(x);
+    };
+    const T* planes[n];  // of b in logical order
+    if constexpr (isInPlanes<B>)
+        for (int k = 0; k < n; ++k) planes[k] = b.element(rows[k]);
     luEachVector<T>(
         dst, n, count,
         [&](int object) VORM_INLINE_LAMBDA {
             Lanes<T> natural[n], x[n];
             for (int i = 0; i < n; ++i) natural[i] = T(b(object, i));
-            substitute(natural, x);
+            substituteNatural(natural, x);
             for (int i = 0; i < n; ++i) dst(object, i) = firstLane(x[i]);
         },
         [&](int first) VORM_INLINE_LAMBDA {
-            Lanes<T> natural[n], x[n];
-            if constexpr (isAdjacent<B>) {
-                const T* from[width];
-                for (int l = 0; l < width; ++l) from[l] = b.object(first + l);
-                loadRows(from, natural);
-            } else if constexpr (isInPlanes<B>) {
-                for (int i = 0; i < n; ++i) natural[i] = Lanes<T>::load(b.element(i) + first);
+            Lanes<T> x[n];
+            if constexpr (isInPlanes<B>) {
+                for (int k = 0; k < n; ++k) x[k] = Lanes<T>::load(planes[k] + first);
+                substitute(x);
             } else {
-                gatherVectors(b, first, width, n, reinterpret_cast<T*>(natural));
+                Lanes<T> natural[n];
+                if constexpr (isAdjacent<B>) {
+                    const T* from[width];
+                    for (int l = 0; l < width; ++l) from[l] = b.object(first + l);
+                    loadRows(from, natural);
+                } else {
+                    gatherVectors(b, first, width, n, reinterpret_cast<T*>(natural));
+                }
+                substituteNatural(natural, x);
             }
-            substitute(natural, x);
             storeLanes(dst, first, x);
         });
 }
