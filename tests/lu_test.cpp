@@ -183,8 +183,10 @@ void checkDecomposition(const Function& f, const Case& c, Random& random)
         for (int e = 0; e < elements; ++e)
             src.put(n, e, matrixValue<T>(c.values, c.order, (e + turned) % elements, random));
     }
+    // Not all zeros, so that the exchange that comes before the test, or after it, shows in the row numbers.
     for (int n : c.singular)
-        for (int r = 0; r < c.order; ++r) src.put(n, r * c.order + c.column, T(0));
+        for (int r = 0; r < c.order; ++r)
+            src.put(n, r * c.order + c.column, T(r) * std::numeric_limits<T>::denorm_min() * 256);
     for (Room* room : {src.room.get(), dst.room.get(), &pivots.room}) room->shade();
 
     const std::uint32_t work = std::uint32_t(c.order) * std::uint32_t(c.order) * std::uint32_t(c.count);
