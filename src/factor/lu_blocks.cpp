@@ -104,38 +104,46 @@ template bool luFactorise(Lanes<float>* a, int* rows, int n);
 template bool luFactorise(Lanes<double>* a, int* rows, int n);
 
 // Sums of up to luLanesOrder - 1 products, from zero, whose number of terms is known: loops over so few
-// terms cost as much as the terms. Eight terms go to sums of their own, as sumOfProducts has it.
-template <int terms, class T>
-Lanes<T> sumOf(const Lanes<T>* row, const Lanes<T>* x)
+// terms cost as much as the terms. Eight terms go to sums of their own, as sumOfProducts has it. Several
+// registers of vectors are summed up at once, as every sum waits for its last unknown.
+template <int terms, int several, class T>
+void subtractSums(const Lanes<T>* row, const Lanes<T>* x, Lanes<T>* from)
 {
     static_assert(terms < 16);
     constexpr int group = terms >= 8 ? 8 : 0;
-    Lanes<T> total = T(0);
-    if constexpr (group == 8) {
-        Lanes<T> s[8];
-        for (int l = 0; l < 8; ++l) s[l] = Lanes<T>(T(0)) + row[l] * x[l];
-        total = ((s[0] + s[1]) + (s[2] + s[3])) + ((s[4] + s[5]) + (s[6] + s[7]));
+    Lanes<T> total[several];
+    for (int r = 0; r < several; ++r) {
+        const auto term = [&](int j) VORM_INLINE_LAMBDA { return Lanes<T>(T(0)) + row[j] * x[j * several + r]; };
+        total[r] = T(0);
+        if constexpr (group == 8)
+            total[r] = ((term(0) + term(1)) + (term(2) + term(3))) + ((term(4) + term(5)) + (term(6) + term(7)));
     }
-    unrolled<terms - group>([&](auto j) VORM_INLINE_LAMBDA { total = total + row[group + j] * x[group + j]; });
-    return total;
+    unrolled<terms - group>([&](auto j) VORM_INLINE_LAMBDA {
+        for (int r = 0; r < several; ++r) total[r] = total[r] + row[group + j] * x[(group + j) * several + r];
+    });
+    for (int r = 0; r < several; ++r) from[r] = from[r] - total[r];
 }
-template <class T, int... terms>
-constexpr auto sumsOf(std::integer_sequence<int, terms...>)
+template <class T, int several, int... terms>
+constexpr auto subtractionsOf(std::integer_sequence<int, terms...>)
 {
-    return std::array{sumOf<terms, T>...};
+    return std::array{subtractSums<terms, several, T>...};
 }
 
-template <class T>
+template <int several, class T>
 void luSubstitute(const Lanes<T>* lu, Lanes<T>* x, int n)
 {
-    static constexpr auto sums = sumsOf<T>(std::make_integer_sequence<int, luLanesOrder>{});
-    for (int i = 1; i < n; ++i) x[i] = x[i] - sums[std::size_t(i)](lu + i * n, x);
-    x[n - 1] = x[n - 1] / lu[n * n - 1];
-    for (int i = n - 2; i >= 0; --i)
-        x[i] = (x[i] - sums[std::size_t(n - 1 - i)](lu + i * n + i + 1, x + i + 1)) / lu[i * n + i];
+    static constexpr auto subtract = subtractionsOf<T, several>(std::make_integer_sequence<int, luLanesOrder>{});
+    for (int i = 1; i < n; ++i) subtract[std::size_t(i)](lu + i * n, x, x + i * several);
+    for (int i = n - 1; i >= 0; --i) {
+        Lanes<T>* const unknown = x + i * several;
+        if (i < n - 1) subtract[std::size_t(n - 1 - i)](lu + i * n + i + 1, unknown + several, unknown);
+        for (int r = 0; r < several; ++r) unknown[r] = unknown[r] / lu[i * n + i];
+    }
 }
-template void luSubstitute(const Lanes<float>* lu, Lanes<float>* x, int n);
-template void luSubstitute(const Lanes<double>* lu, Lanes<double>* x, int n);
+template void luSubstitute<1>(const Lanes<float>* lu, Lanes<float>* x, int n);
+template void luSubstitute<1>(const Lanes<double>* lu, Lanes<double>* x, int n);
+template void luSubstitute<luRegisters>(const Lanes<float>* lu, Lanes<float>* x, int n);
+template void luSubstitute<luRegisters>(const Lanes<double>* lu, Lanes<double>* x, int n);
 
 #define LU_BLOCKS(n, T)                                 \
     template int luFactorise(LuBlock<n, T>& lu);        \

@@ -52,10 +52,11 @@ VORM_INLINE void storeLanes(const X& dst, int first, const Lanes<T> (&x)[n])
 
 // Objects in ascending order, a register of them wherever they share no memory.
 template <class T, class X, class Single, class Register>
-VORM_INLINE void luEachVector(const X& dst, int n, int count, const Single& single, const Register& lanesFrom)
+VORM_INLINE void luEachVector(const X& dst, int n, int count, const Single& single, const Register& lanesFrom,
+                               int done = 0)
 {
     constexpr int width = Lanes<T>::width;
-    for (int done = 0; done < count;) {
+    while (done < count) {
         bool apart = count - done >= width;
         if constexpr (isAdjacent<X>) apart = apart && objectsApart(dst, done, 1, n);
         if (apart) {
@@ -260,8 +261,10 @@ template <class T, class View>
                 to[(k * n + c) * objects + l] = matrix(first + l, pivotAt(pivotIndex, l * n + k), c);
 }
 
-// Solves with a register of matrices of any order n, in logical row order; x as above.
-template <class T>
+// Solves with a register of matrices of any order n, in logical row order; x as above, of several registers of
+// vectors in turn.
+constexpr int luRegisters = 4;
+template <int several, class T>
 VORM_HIDDEN void luSubstitute(const Lanes<T>* lu, Lanes<T>* x, int n);
 
 template <class X, class T>
@@ -272,6 +275,8 @@ VORM_INLINE void storeLanes(const X& dst, int first, const Lanes<T>* x, int n)
         T* to[width];
         for (int l = 0; l < width; ++l) to[l] = dst.object(first + l);
         storeRows(to, x, n);
+    } else if constexpr (isInPlanes<X>) {
+        for (int i = 0; i < n; ++i) x[i].store(dst.element(i) + first);
     } else {
         scatterVectors(dst, first, width, n, reinterpret_cast<const T*>(x));
     }
@@ -301,7 +306,7 @@ template <class T, class M, class B, class X>
             gatherPivotRows(matrix, first, width, n, rows, reinterpret_cast<T*>(lu));
         for (int k = 0; k < n; ++k)
             x[k] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, pivotAt(rows, l * n + k))); });
-        luSubstitute(lu, x, n);
+        luSubstitute<1>(lu, x, n);
         storeLanes(dst, first, x, n);
     });
 }
@@ -319,21 +324,39 @@ template <class T, class M, class B, class X>
     Lanes<T> lu[luLanesOrder * luLanesOrder];
     for (int k = 0; k < n; ++k)
         for (int c = 0; c < n; ++c) lu[k * n + c] = T(matrix(0, pivotAt(pivotIndex, k), c));
-    luEachVector<T>(dst, n, count, single, [&](int first) VORM_INLINE_LAMBDA {
-        Lanes<T> natural[luLanesOrder], x[luLanesOrder];
-        if constexpr (isAdjacent<B>) {
-            const T* from[width];
-            for (int l = 0; l < width; ++l) from[l] = b.object(first + l);
-            loadRows(from, natural, n);
-        } else if constexpr (isInPlanes<B>) {
-            for (int i = 0; i < n; ++i) natural[i] = Lanes<T>::load(b.element(i) + first);
-        } else {
-            gatherVectors(b, first, width, n, reinterpret_cast<T*>(natural));
+    const auto solve = [&](int first, auto several) VORM_INLINE_LAMBDA {
+        Lanes<T> natural[luLanesOrder], x[luLanesOrder * several];
+        for (int r = 0; r < several; ++r) {
+            const int object = first + r * width;
+            if constexpr (isAdjacent<B>) {
+                const T* from[width];
+                for (int l = 0; l < width; ++l) from[l] = b.object(object + l);
+                loadRows(from, natural, n);
+            } else if constexpr (isInPlanes<B>) {
+                for (int i = 0; i < n; ++i) natural[i] = Lanes<T>::load(b.element(i) + object);
+            } else {
+                gatherVectors(b, object, width, n, reinterpret_cast<T*>(natural));
+            }
+            for (int k = 0; k < n; ++k) x[k * several + r] = natural[pivotAt(pivotIndex, k)];
         }
-        for (int k = 0; k < n; ++k) x[k] = natural[pivotAt(pivotIndex, k)];
-        luSubstitute(lu, x, n);
-        storeLanes(dst, first, x, n);
-    });
+        luSubstitute<several>(lu, x, n);
+        for (int r = 0; r < several; ++r) {
+            for (int i = 0; i < n; ++i) natural[i] = x[i * several + r];
+            storeLanes(dst, first + r * width, natural, n);
+        }
+    };
+    const auto apart = [&](int first) VORM_INLINE_LAMBDA {
+        if constexpr (isAdjacent<X>)
+            for (int r = 0; r < luRegisters; ++r)
+                if (!objectsApart(dst, first + r * width, 1, n)) return false;
+        return true;
+    };
+    int done = 0;
+    for (; count - done >= luRegisters * width && apart(done); done += luRegisters * width)
+        solve(done, std::integral_constant<int, luRegisters>{});
+    luEachVector<T>(
+        dst, n, count, single,
+        [&](int first) VORM_INLINE_LAMBDA { solve(first, std::integral_constant<int, 1>{}); }, done);
 }
 
 }  // namespace vorm
