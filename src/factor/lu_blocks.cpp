@@ -106,12 +106,17 @@ template bool luFactorise(Lanes<double>* a, int* rows, int n);
 // Sums of up to luLanesOrder - 1 products, from zero, whose number of terms is known: loops over so few
 // terms cost as much as the terms. Eight terms go to sums of their own, as sumOfProducts has it. Several
 // registers of vectors are summed up at once, as every sum waits for its last unknown.
+template <int several, class T>
+struct Sums {
+    Lanes<T> total[several];
+};
 template <int terms, int several, class T>
-void subtractSums(const Lanes<T>* row, const Lanes<T>* x, Lanes<T>* from)
+Sums<several, T> sumsOf(const Lanes<T>* row, const Lanes<T>* x)
 {
     static_assert(terms < 16);
     constexpr int group = terms >= 8 ? 8 : 0;
-    Lanes<T> total[several];
+    Sums<several, T> sums;
+    auto& total = sums.total;
     for (int r = 0; r < several; ++r) {
         const auto term = [&](int j) VORM_INLINE_LAMBDA { return Lanes<T>(T(0)) + row[j] * x[j * several + r]; };
         total[r] = T(0);
@@ -121,23 +126,27 @@ void subtractSums(const Lanes<T>* row, const Lanes<T>* x, Lanes<T>* from)
     unrolled<terms - group>([&](auto j) VORM_INLINE_LAMBDA {
         for (int r = 0; r < several; ++r) total[r] = total[r] + row[group + j] * x[(group + j) * several + r];
     });
-    for (int r = 0; r < several; ++r) from[r] = from[r] - total[r];
+    return sums;
 }
 template <class T, int several, int... terms>
-constexpr auto subtractionsOf(std::integer_sequence<int, terms...>)
+constexpr auto sumsByTerms(std::integer_sequence<int, terms...>)
 {
-    return std::array{subtractSums<terms, several, T>...};
+    return std::array{sumsOf<terms, several, T>...};
 }
 
 template <int several, class T>
 void luSubstitute(const Lanes<T>* lu, Lanes<T>* x, int n)
 {
-    static constexpr auto subtract = subtractionsOf<T, several>(std::make_integer_sequence<int, luLanesOrder>{});
-    for (int i = 1; i < n; ++i) subtract[std::size_t(i)](lu + i * n, x, x + i * several);
-    for (int i = n - 1; i >= 0; --i) {
-        Lanes<T>* const unknown = x + i * several;
-        if (i < n - 1) subtract[std::size_t(n - 1 - i)](lu + i * n + i + 1, unknown + several, unknown);
-        for (int r = 0; r < several; ++r) unknown[r] = unknown[r] / lu[i * n + i];
+    static constexpr auto byTerms = sumsByTerms<T, several>(std::make_integer_sequence<int, luLanesOrder>{});
+    for (int i = 1; i < n; ++i) {
+        const auto sums = byTerms[std::size_t(i)](lu + i * n, x);
+        for (int r = 0; r < several; ++r) x[i * several + r] = x[i * several + r] - sums.total[r];
+    }
+    for (int r = 0; r < several; ++r) x[(n - 1) * several + r] = x[(n - 1) * several + r] / lu[n * n - 1];
+    for (int i = n - 2; i >= 0; --i) {
+        const auto sums = byTerms[std::size_t(n - 1 - i)](lu + i * n + i + 1, x + (i + 1) * several);
+        for (int r = 0; r < several; ++r)
+            x[i * several + r] = (x[i * several + r] - sums.total[r]) / lu[i * n + i];
     }
 }
 template void luSubstitute<1>(const Lanes<float>* lu, Lanes<float>* x, int n);
