@@ -20,7 +20,8 @@ VORM_INLINE int pivotAt(const int* pivotIndex, std::ptrdiff_t k)
 
 // Orders 3 to 6. --------------------------------------------------------------------------------------
 
-// luFactoriseHere, compiled once, in lu_blocks.cpp.
+// luFactoriseHere, compiled once, in lu_blocks.cpp. Only of the orders 3 and 4 the call and the way through memory
+// cost more than what the compiler loses in a larger function.
 template <int n, class Number>
 VORM_HIDDEN int luFactorise(LuBlock<n, Number>& lu);
 

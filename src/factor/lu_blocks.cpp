@@ -145,8 +145,7 @@ void luSubstitute(const Lanes<T>* lu, Lanes<T>* x, int n)
     for (int r = 0; r < several; ++r) x[(n - 1) * several + r] = x[(n - 1) * several + r] / lu[n * n - 1];
     for (int i = n - 2; i >= 0; --i) {
         const auto sums = byTerms[std::size_t(n - 1 - i)](lu + i * n + i + 1, x + (i + 1) * several);
-        for (int r = 0; r < several; ++r)
-            x[i * several + r] = (x[i * several + r] - sums.total[r]) / lu[i * n + i];
+        for (int r = 0; r < several; ++r) x[i * several + r] = (x[i * several + r] - sums.total[r]) / lu[i * n + i];
     }
 }
 template void luSubstitute<1>(const Lanes<float>* lu, Lanes<float>* x, int n);
@@ -154,8 +153,8 @@ template void luSubstitute<1>(const Lanes<double>* lu, Lanes<double>* x, int n);
 template void luSubstitute<luRegisters>(const Lanes<float>* lu, Lanes<float>* x, int n);
 template void luSubstitute<luRegisters>(const Lanes<double>* lu, Lanes<double>* x, int n);
 
-#define LU_BLOCKS(n, T)                                 \
-    template int luFactorise(LuBlock<n, T>& lu);        \
+#define LU_BLOCKS(n, T)                          \
+    template int luFactorise(LuBlock<n, T>& lu); \
     template int luFactorise(LuBlock<n, Lanes<T>>& lu);
 #define LU_BLOCKS_OF_TYPE(T) LU_BLOCKS(3, T) LU_BLOCKS(4, T) LU_BLOCKS(5, T) LU_BLOCKS(6, T)
 

@@ -1,11 +1,21 @@
 // The elimination of the orders 3 to 6 over a number type, one object or a register of them.
 #pragma once
 
+#include <type_traits>
 #include <utility>
 
-#include "factor/lu_block.hpp"
+#include "frame/lanes.hpp"
+#include "frame/unrolled.hpp"
 
 namespace vorm {
+
+// One object or a register of them: matrices in logical row order, and the source row each row came from,
+// whose number in lanes is bits that are only moved.
+template <int n, class Number>
+struct LuBlock {
+    Number a[n][n];
+    std::conditional_t<std::is_arithmetic_v<Number>, int, Number> rows[n];
+};
 
 // A pivot below this is singular: 2^-125 and 2^-1021. Single precision orders the magnitudes as
 // double precision would, denormals and NaN included, since widening is exact.
