@@ -35,13 +35,24 @@ VORM_INLINE void luSolveObject(const M& matrix, const B& b, const X& dst, int ob
     luSubstitute(lu, x, [&](T value, int i) VORM_INLINE_LAMBDA { return value / lu[i][i]; });
     for (int i = 0; i < n; ++i) dst(object, i) = x[i];
 }
+
+// The addresses of consecutive objects.
+template <class View, class T, int objects>
+VORM_INLINE void objectsAt(const View& view, int first, T* (&to)[objects])
+{
+    if constexpr (requires { view.stride0; })
+        for (int l = 0; l < objects; ++l) to[l] = advance(view.object(first), std::ptrdiff_t{l} * view.stride0);
+    else
+        for (int l = 0; l < objects; ++l) to[l] = view.object(first + l);
+}
+
 template <class X, int n, class T>
 VORM_INLINE void storeLanes(const X& dst, int first, const Lanes<T> (&x)[n])
 {
     constexpr int width = Lanes<T>::width;
     if constexpr (isAdjacent<X>) {
         T* to[width];
-        for (int l = 0; l < width; ++l) to[l] = dst.object(first + l);
+        objectsAt(dst, first, to);
         storeRows(to, x);
     } else if constexpr (isInPlanes<X>) {
         for (int i = 0; i < n; ++i) x[i].store(dst.element(i) + first);
@@ -53,7 +64,7 @@ VORM_INLINE void storeLanes(const X& dst, int first, const Lanes<T> (&x)[n])
 // Objects in ascending order, a register of them wherever they share no memory.
 template <class T, class X, class Single, class Register>
 VORM_INLINE void luEachVector(const X& dst, int n, int count, const Single& single, const Register& lanesFrom,
-                               int done = 0)
+                              int done = 0)
 {
     constexpr int width = Lanes<T>::width;
     while (done < count) {
@@ -126,6 +137,41 @@ VORM_INLINE void luSolvePairs(const M& matrix, const B& b, const X& dst, const i
         for (int object = 0; object < count; ++object) single(object);
 }
 
+// Two registers of objects: so many operations that wait for each other keep the processor busy only together.
+template <class T>
+struct LanesPair {
+    Lanes<T> first, second;
+    friend LanesPair operator-(LanesPair a, LanesPair b) { return {a.first - b.first, a.second - b.second}; }
+    friend LanesPair operator*(LanesPair a, Lanes<T> b) { return {a.first * b, a.second * b}; }
+    friend LanesPair operator*(Lanes<T> a, LanesPair b) { return {a * b.first, a * b.second}; }
+};
+// Compilers leave loops over so much code as loops, whose indices would be addresses.
+template <int n, class T, class Divided>
+VORM_INLINE void luSubstitute(const Lanes<T> (&lu)[n][n], LanesPair<T> (&x)[n], const Divided& divided)
+{
+    unrolled<n>([&](auto j) VORM_INLINE_LAMBDA {
+        unrolled<n - 1 - j>([&](auto i) VORM_INLINE_LAMBDA { x[j + 1 + i] = x[j + 1 + i] - lu[j + 1 + i][j] * x[j]; });
+    });
+    unrolled<n>([&](auto below) VORM_INLINE_LAMBDA {
+        constexpr int j = n - 1 - below;
+        x[j] = divided(x[j], j);
+        unrolled<j>([&](auto i) VORM_INLINE_LAMBDA { x[i] = x[i] - lu[i][j] * x[j]; });
+    });
+}
+
+template <class B, int n, class T>
+VORM_INLINE void loadLanes(const B& b, int first, Lanes<T> (&x)[n])
+{
+    constexpr int width = Lanes<T>::width;
+    if constexpr (isAdjacent<B>) {
+        const T* from[width];
+        objectsAt(b, first, from);
+        loadRows(from, x);
+    } else {
+        gatherVectors(b, first, width, n, reinterpret_cast<T*>(x));
+    }
+}
+
 // All vectors with one matrix: reciprocals of the diagonal, once per call. Single vectors run in lanes
 // too, all of them the same.
 template <int n, class T, class M, class B, class X>
@@ -139,42 +185,64 @@ VORM_INLINE void luSolveVectors(const M& matrix, const B& b, const X& dst, const
         for (int j = 0; j < n; ++j) lu[i][j] = T(matrix(0, rows[i], j));
         reciprocals[i] = Lanes<T>(T(1)) / lu[i][i];
     }
-    const auto substitute = [&](Lanes<T>(&x)[n]) VORM_INLINE_LAMBDA {
-        luSubstitute(lu, x, [&](Lanes<T> value, int i) VORM_INLINE_LAMBDA { return value * reciprocals[i]; });
+    // In registers all coefficients would be too many, and the unknowns evicted for them: the compiler is to take
+    // these for memory that a store might change.
+    constexpr bool paired = width == 2 && n >= 4 && isAdjacent<B>;
+    const auto inMemory = [](auto& array) VORM_INLINE_LAMBDA -> auto&
+    {
+        auto* p = &array;
+        if constexpr (paired || n == 6) __asm__("" : "+r"(p) : : "memory");
+        return *p;
     };
-    const auto substituteNatural = [&](const Lanes<T>(&natural)[n], Lanes<T>(&x)[n]) VORM_INLINE_LAMBDA {
-        for (int k = 0; k < n; ++k) x[k] = natural[rows[k]];
-        substitute(x);
-    };
+    const auto& coefficients = inMemory(lu);
+    const auto& inverses = inMemory(reciprocals);
+    const auto divided = [&](auto value, int i) VORM_INLINE_LAMBDA { return value * inverses[i]; };
     const T* planes[n];  // of b in logical order
     if constexpr (isInPlanes<B>)
         for (int k = 0; k < n; ++k) planes[k] = b.element(rows[k]);
-    luEachVector<T>(
-        dst, n, count,
-        [&](int object) VORM_INLINE_LAMBDA {
-            Lanes<T> natural[n], x[n];
-            for (int i = 0; i < n; ++i) natural[i] = T(b(object, i));
-            substituteNatural(natural, x);
-            for (int i = 0; i < n; ++i) dst(object, i) = firstLane(x[i]);
-        },
-        [&](int first) VORM_INLINE_LAMBDA {
-            Lanes<T> x[n];
-            if constexpr (isInPlanes<B>) {
-                for (int k = 0; k < n; ++k) x[k] = Lanes<T>::load(planes[k] + first);
-                substitute(x);
-            } else {
-                Lanes<T> natural[n];
-                if constexpr (isAdjacent<B>) {
-                    const T* from[width];
-                    for (int l = 0; l < width; ++l) from[l] = b.object(first + l);
-                    loadRows(from, natural);
-                } else {
-                    gatherVectors(b, first, width, n, reinterpret_cast<T*>(natural));
-                }
-                substituteNatural(natural, x);
-            }
-            storeLanes(dst, first, x);
-        });
+    const auto loadPermuted = [&](int first, Lanes<T>(&x)[n]) VORM_INLINE_LAMBDA {
+        if constexpr (isInPlanes<B>) {
+            for (int k = 0; k < n; ++k) x[k] = Lanes<T>::load(planes[k] + first);
+        } else {
+            Lanes<T> natural[n];
+            loadLanes(b, first, natural);
+            for (int k = 0; k < n; ++k) x[k] = natural[rows[k]];
+        }
+    };
+    const auto registers = [&](int first) VORM_INLINE_LAMBDA {
+        Lanes<T> x[n];
+        loadPermuted(first, x);
+        luSubstitute(coefficients, x, divided);
+        storeLanes(dst, first, x);
+    };
+    const auto pairs = [&](int first) VORM_INLINE_LAMBDA {
+        Lanes<T> natural[n], next[n];
+        LanesPair<T> x[n];
+        loadLanes(b, first, natural);
+        loadLanes(b, first + width, next);
+        unrolled<n>([&](auto k) VORM_INLINE_LAMBDA { x[k] = {natural[rows[k]], next[rows[k]]}; });
+        luSubstitute(coefficients, x, divided);
+        unrolled<n>([&](auto k) VORM_INLINE_LAMBDA { natural[k] = x[k].first, next[k] = x[k].second; });
+        storeLanes(dst, first, natural);
+        storeLanes(dst, first + width, next);
+    };
+    const auto apart = [&](int first) VORM_INLINE_LAMBDA {
+        if constexpr (isAdjacent<X>) return objectsApart(dst, first, 1, n);
+        return true;
+    };
+    const auto single = [&](int object) VORM_INLINE_LAMBDA {
+        Lanes<T> x[n];
+        for (int k = 0; k < n; ++k) x[k] = T(b(object, rows[k]));
+        luSubstitute(coefficients, x, divided);
+        for (int i = 0; i < n; ++i) dst(object, i) = firstLane(x[i]);
+    };
+    int done = 0;
+    if constexpr (paired)
+        while (count - done >= 2 * width && apart(done) && apart(done + width)) {
+            pairs(done);
+            done += 2 * width;
+        }
+    luEachVector<T>(dst, n, count, single, registers, done);
 }
 
 // All other orders. -----------------------------------------------------------------------------------
@@ -273,7 +341,7 @@ VORM_INLINE void storeLanes(const X& dst, int first, const Lanes<T>* x, int n)
     constexpr int width = Lanes<T>::width;
     if constexpr (isAdjacent<X>) {
         T* to[width];
-        for (int l = 0; l < width; ++l) to[l] = dst.object(first + l);
+        objectsAt(dst, first, to);
         storeRows(to, x, n);
     } else if constexpr (isInPlanes<X>) {
         for (int i = 0; i < n; ++i) x[i].store(dst.element(i) + first);
@@ -355,8 +423,8 @@ template <class T, class M, class B, class X>
     for (; count - done >= luRegisters * width && apart(done); done += luRegisters * width)
         solve(done, std::integral_constant<int, luRegisters>{});
     luEachVector<T>(
-        dst, n, count, single,
-        [&](int first) VORM_INLINE_LAMBDA { solve(first, std::integral_constant<int, 1>{}); }, done);
+        dst, n, count, single, [&](int first) VORM_INLINE_LAMBDA { solve(first, std::integral_constant<int, 1>{}); },
+        done);
 }
 
 }  // namespace vorm
