@@ -248,8 +248,17 @@ Task solution(auto members, int count)
         return task;
     }
     add("Eigen", [=] { eigenSolution<n, T>(decompositions->data(), ownMatrices, b, x, count, layout); });
-    int* const exchanges = Memory::region<int>(n);
-    std::iota(exchanges, exchanges + n, 1);
+    // The same rows as the exchanges LAPACK makes one after the other.
+    int* const exchanges = Memory::region<int>(std::ptrdiff_t{matrices} * n);
+    for (int object = 0; object < matrices; ++object) {
+        std::vector<int> order(n);
+        std::iota(order.begin(), order.end(), 0);
+        for (int k = 0; k < n; ++k) {
+            const auto p = std::find(order.begin() + k, order.end(), rows[object * n + k]);
+            exchanges[object * n + k] = static_cast<int>(p - order.begin()) + 1;
+            std::swap(order[static_cast<std::size_t>(k)], *p);
+        }
+    }
     add("LAPACK", [=] {
         if (!ownMatrices && layout == Layout::packed) {
             std::copy_n(b.data, std::ptrdiff_t{count} * n, x.data);
@@ -258,7 +267,8 @@ Task solution(auto members, int count)
         }
         for (int object = 0; object < count; ++object) {
             std::copy_n(b.at(object, layout), n, x.at(object, layout));
-            getrs(n, 1, lu.data + (ownMatrices ? object * n * n : 0), exchanges, x.at(object, layout));
+            const int own = ownMatrices ? object : 0;
+            getrs(n, 1, lu.data + own * n * n, exchanges + own * n, x.at(object, layout));
         }
     });
     if constexpr (layout == Layout::packed) {

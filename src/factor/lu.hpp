@@ -7,6 +7,7 @@
 #include <limits>
 #include <type_traits>
 
+#include "factor/lu_elimination.hpp"
 #include "frame/object_lanes.hpp"
 #include "vorm/status.h"
 
@@ -19,23 +20,25 @@ VORM_INLINE int pivotAt(const int* pivotIndex, std::ptrdiff_t k)
 
 // Orders 3 to 6. --------------------------------------------------------------------------------------
 
-// One object or a register of them: matrices in logical row order, and the source row each row came from,
-// whose number in lanes is bits that are only moved.
-template <int n, class Number>
-struct LuBlock {
-    Number a[n][n];
-    std::conditional_t<std::is_arithmetic_v<Number>, int, Number> rows[n];
-};
-
-// Factorises a block in place, until a pivot is singular in any of its objects. Returns how many rows
-// have passed; these are final. All bodies of blocks are compiled once, in lu_blocks.cpp.
+// luFactoriseHere, compiled once, in lu_blocks.cpp. Only of the orders 3 and 4 the call and the way through memory
+// cost more than what the compiler loses in a larger function.
 template <int n, class Number>
 VORM_HIDDEN int luFactorise(LuBlock<n, Number>& lu);
 
-// Puts the rows of a block back to where they came from.
-template <int n, class T>
-VORM_HIDDEN void luToSourceOrder(LuBlock<n, Lanes<T>>& lu);
-
+// Row numbers in lanes, those of a register of objects.
+template <int n>
+VORM_INLINE void loadRowNumbers(const int* pivotIndex, Lanes<float> (&rows)[n])
+{
+    const auto* const p = reinterpret_cast<const float*>(pivotIndex);
+    loadRows({p, p + n, p + 2 * n, p + 3 * n}, rows);
+}
+template <int n>
+VORM_INLINE void loadRowNumbers(const int* pivotIndex, Lanes<double> (&rows)[n])
+{
+    for (int k = 0; k < n; ++k)
+        rows[k] = _mm_castsi128_pd(_mm_unpacklo_epi64(_mm_cvtsi32_si128(pivotAt(pivotIndex, k)),
+                                                      _mm_cvtsi32_si128(pivotAt(pivotIndex, n + k))));
+}
 template <int n>
 VORM_INLINE void storeRowNumbers(const Lanes<float> (&rows)[n], int* pivotIndex)
 {
@@ -94,7 +97,7 @@ VORM_INLINE bool luLanes(const Src& src, const Dst& dst, int first, int* pivotIn
     } else {
         gatherMatrices(src, first, width, n, reinterpret_cast<T*>(lu.a));
     }
-    if (luFactorise(lu) < n) return false;
+    if ((n <= 4 && (isAdjacent<Src> || isInPlanes<Src>) ? luFactoriseHere(lu) : luFactorise(lu)) < n) return false;
 
     storeRowNumbers(lu.rows, pivotIndex);
     if constexpr (isAdjacent<Dst>) {
@@ -104,10 +107,25 @@ VORM_INLINE bool luLanes(const Src& src, const Dst& dst, int first, int* pivotIn
             storeRows(to, lu.a[k]);
         });
     } else if constexpr (isInPlanes<Dst>) {
-        luToSourceOrder(lu);
-        unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
-            for (int c = 0; c < n; ++c) lu.a[r][c].store(dst.element(r, c) + first);
-        });
+        if constexpr (width == 2) {
+            unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
+                unrolled<width>([&](auto l) VORM_INLINE_LAMBDA {
+                    const int row = pivotAt(pivotIndex, l * n + k);
+                    for (int c = 0; c < n; ++c) dst(first + l, row, c) = lane<l>(lu.a[k][c]);
+                });
+            });
+        } else {
+            // Row k of the block is row r of the source in the lanes of is[k].
+            unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
+                decltype(LaneMask<T>::bits) is[n];
+                for (int k = 0; k < n; ++k) is[k] = sameNumber(lu.rows[k].v, rowNumber<T>(r).v);
+                for (int c = 0; c < n; ++c) {
+                    auto found = both(is[0], lu.a[0][c].v);
+                    for (int k = 1; k < n; ++k) found = either(found, both(is[k], lu.a[k][c].v));
+                    Lanes<T>(found).store(dst.element(r, c) + first);
+                }
+            });
+        }
     } else {
         scatterPivotRows(dst, first, width, n, n, pivotIndex, reinterpret_cast<const T*>(lu.a));
     }
@@ -126,7 +144,7 @@ VORM_INLINE VormStatus luArray(const Dst& dst, int order, int count, const Block
             done += width;
             continue;
         }
-        for (const int end = std::min(done + width, count); done < end; ++done)
+        for (const int end = done + std::min(width, count - done); done < end; ++done)
             if (const VormStatus status = single(done); status != StatusOk) return status;
     }
     return StatusOk;

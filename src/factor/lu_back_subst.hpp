@@ -345,7 +345,7 @@ VORM_INLINE VormStatus luMvaPointers(LU_MVA_PARAMS_P(T))
     const MatrixPointers matrix{srcPointers, srcShift, order};
     const VectorArrayPointers b{src2Pointers, src2Shift, src2Stride0};
     const VectorArrayPointers x{dstPointers, dstShift, dstStride0};
-    if (inPlanes<T>(src2Stride0, dstStride0) && (order > 6 || planesApart(dstPointers, order)))
+    if (order <= luLanesOrder && inPlanes(b) && storableAsPlanes(x, order, 1, count))
         return luMvaKernel<T>(matrix, pivotIndex, asPlanes(b), asPlanes(x), order, count);
     return luMvaKernel<T>(matrix, pivotIndex, b, x, order, count);
 }
@@ -384,7 +384,7 @@ VORM_INLINE VormStatus luMavaPointers(LU_MAVA_PARAMS_P(T))
     const MatrixArrayPointers matrices{srcPointers, srcShift, srcStride0, order};
     const VectorArrayPointers b{src2Pointers, src2Shift, src2Stride0};
     const VectorArrayPointers x{dstPointers, dstShift, dstStride0};
-    if (inPlanes<T>(srcStride0, src2Stride0, dstStride0) && (order > 6 || planesApart(dstPointers, order)))
+    if (order <= luLanesOrder && inPlanes(matrices) && inPlanes(b) && storableAsPlanes(x, order, 1, count))
         return luMavaKernel<T>(asPlanes(matrices), pivotIndex, asPlanes(b), asPlanes(x), order, count);
     return luMavaKernel<T>(matrices, pivotIndex, b, x, order, count);
 }

@@ -2,65 +2,13 @@
 
 #include <array>
 #include <numeric>
-#include <utility>
 
 #include "factor/lu.hpp"
+#include "factor/lu_elimination.hpp"
 #include "factor/lu_solve.hpp"
 
 namespace vorm {
 namespace {
-
-// A pivot below this is singular: 2^-125 and 2^-1021. Single precision orders the magnitudes as
-// double precision would, denormals and NaN included, since widening is exact.
-template <class T>
-constexpr T tiny = sizeof(T) == sizeof(float) ? T(0x1p-125) : T(0x1p-1021);
-template <class T>
-T tinyFor(T)
-{
-    return tiny<T>;
-}
-template <class T>
-Lanes<T> tinyFor(Lanes<T>)
-{
-    return tiny<T>;
-}
-
-__m128 both(__m128 a, __m128 b) { return _mm_and_ps(a, b); }
-__m128d both(__m128d a, __m128d b) { return _mm_and_pd(a, b); }
-__m128 either(__m128 a, __m128 b) { return _mm_or_ps(a, b); }
-__m128d either(__m128d a, __m128d b) { return _mm_or_pd(a, b); }
-__m128 differing(__m128 a, __m128 b) { return _mm_xor_ps(a, b); }
-__m128d differing(__m128d a, __m128d b) { return _mm_xor_pd(a, b); }
-__m128i bitsOf(__m128 a) { return _mm_castps_si128(a); }
-__m128i bitsOf(__m128d a) { return _mm_castpd_si128(a); }
-
-// Row numbers in lanes, as bits.
-template <class T>
-Lanes<T> rowNumber(int r)
-{
-    if constexpr (Lanes<T>::width == 4)
-        return _mm_castsi128_ps(_mm_set1_epi32(r));
-    else
-        return _mm_castsi128_pd(_mm_set1_epi64x(r));
-}
-template <class T>
-Lanes<T> numbered(Lanes<T>, int r)
-{
-    return rowNumber<T>(r);
-}
-__m128 sameNumber(__m128 a, __m128 b)
-{
-    return _mm_castsi128_ps(_mm_cmpeq_epi32(_mm_castps_si128(a), _mm_castps_si128(b)));
-}
-__m128d sameNumber(__m128d a, __m128d b)  // in the lower halves
-{
-    const __m128i same = _mm_cmpeq_epi32(_mm_castpd_si128(a), _mm_castpd_si128(b));
-    return _mm_castsi128_pd(_mm_shuffle_epi32(same, _MM_SHUFFLE(2, 2, 0, 0)));
-}
-
-// Larger, or what was the largest unless it is less: a NaN displaces nothing, and nothing displaces it.
-__m128 largerOf(Lanes<float> magnitude, Lanes<float> largest) { return _mm_max_ps(magnitude.v, largest.v); }
-__m128d largerOf(Lanes<double> magnitude, Lanes<double> largest) { return _mm_max_pd(magnitude.v, largest.v); }
 
 // Row k and, in each lane, the row whose number is given change places.
 VORM_INLINE void exchangeRows(Lanes<float>* a, int k, const int (&pivot)[4], int n)
@@ -91,8 +39,8 @@ VORM_INLINE void exchangeRows(Lanes<double>* a, int k, const int (&pivot)[2], in
     }
 }
 
-// The first of the largest magnitudes in column k moves to row k, lane by lane. a has n columns; rows
-// has n numbers for each lane. Returns the magnitude.
+// The first of the largest magnitudes in column k moves to row k, lane by lane, for any order: here the pivots'
+// row numbers are addresses. a has n columns; rows has n numbers for each lane. Returns the magnitude.
 template <class T>
 VORM_INLINE Lanes<T> pivotToRow(Lanes<T>* a, int* rows, int k, int n)
 {
@@ -114,91 +62,13 @@ VORM_INLINE Lanes<T> pivotToRow(Lanes<T>* a, int* rows, int k, int n)
     exchangeRows(a, k, pivot, n);
     return largest;
 }
-template <class T>
-VORM_INLINE T pivotToRow(T* a, int* rows, int k, int n)
-{
-    int p = k;
-    for (int i = k + 1; i < n; ++i)
-        if (abs(a[i * n + k]) > abs(a[p * n + k])) p = i;
-    if (p != k) {
-        std::swap(rows[k], rows[p]);
-        for (int c = 0; c < n; ++c) std::swap(a[k * n + c], a[p * n + c]);
-    }
-    return abs(a[k * n + k]);
-}
-
-// The same for the orders 3 to 6 without a branch or an address that depends on the pivots: every row is
-// looked at, and changes places in the lanes whose pivot it is.
-template <int k, int n, class T>
-VORM_INLINE void selectPivotRow(Lanes<T> (&a)[n][n], Lanes<T> (&rows)[n])
-{
-    decltype(LaneMask<T>::bits) is[n];
-    Lanes<T> largest = abs(a[k][k]);
-    for (int i = k + 1; i < n; ++i) {
-        const Lanes<T> magnitude = abs(a[i][k]);
-        is[i] = (magnitude > largest).bits;
-        largest = largerOf(magnitude, largest);
-    }
-    auto later = is[n - 1];  // the last one to displace the largest is the pivot
-    for (int i = n - 2; i > k; --i) {
-        const auto own = is[i];
-        is[i] = both(own, differing(own, later));
-        later = either(later, own);
-    }
-    const auto exchange = [&](auto element) VORM_INLINE_LAMBDA {
-        const auto top = element(k).v;
-        auto changes = differing(top, top);
-        for (int i = k + 1; i < n; ++i) {
-            const auto change = both(is[i], differing(top, element(i).v));
-            element(i) = differing(element(i).v, change);
-            changes = either(changes, change);
-        }
-        element(k) = differing(top, changes);
-    };
-    for (int c = 0; c < n; ++c) exchange([&](int i) VORM_INLINE_LAMBDA -> Lanes<T>& { return a[i][c]; });
-    exchange([&](int i) VORM_INLINE_LAMBDA -> Lanes<T>& { return rows[i]; });
-}
 
 }  // namespace
-
-// The elimination of a block of a known order. bringPivot(k) moves the pivot to row k. Multipliers are
-// products with a reciprocal, only the last one is a quotient.
-template <int n, class Number, class BringPivot>
-VORM_INLINE int eliminate(Number (&a)[n][n], const BringPivot& bringPivot)
-{
-    int passed = 0;
-    const auto step = [&](auto k) VORM_INLINE_LAMBDA {
-        if constexpr (k < n - 1) bringPivot(k);
-        if (any(abs(a[k][k]) < tinyFor(a[k][k]))) return false;
-        ++passed;
-        if constexpr (k < n - 2) {
-            const Number reciprocal = Number(1) / a[k][k];
-            for (int i = k + 1; i < n; ++i) a[i][k] = a[i][k] * reciprocal;
-        } else if constexpr (k == n - 2) {
-            a[n - 1][k] = a[n - 1][k] / a[k][k];
-        }
-        for (int i = k + 1; i < n; ++i)
-            for (int j = k + 1; j < n; ++j) a[i][j] = a[i][j] - a[k][j] * a[i][k];
-        return true;
-    };
-    [&]<int... k>(std::integer_sequence<int, k...>) VORM_INLINE_LAMBDA
-    {
-        (void)(... && step(std::integral_constant<int, k>{}));
-    }
-    (std::make_integer_sequence<int, n>{});
-    return passed;
-}
 
 template <int n, class Number>
 int luFactorise(LuBlock<n, Number>& lu)
 {
-    if constexpr (std::is_arithmetic_v<Number>) {
-        std::iota(lu.rows, lu.rows + n, 0);
-        return eliminate(lu.a, [&](int k) VORM_INLINE_LAMBDA { pivotToRow(lu.a[0], lu.rows, k, n); });
-    } else {
-        for (int r = 0; r < n; ++r) lu.rows[r] = numbered(lu.rows[r], r);
-        return eliminate(lu.a, [&](auto k) VORM_INLINE_LAMBDA { selectPivotRow<k>(lu.a, lu.rows); });
-    }
+    return luFactoriseHere(lu);
 }
 
 template <class T>
@@ -233,62 +103,59 @@ bool luFactorise(Lanes<T>* a, int* rows, int n)
 template bool luFactorise(Lanes<float>* a, int* rows, int n);
 template bool luFactorise(Lanes<double>* a, int* rows, int n);
 
-// Row k of the block is row r of the source in the lanes of is[k][r].
-template <int n, class T>
-void luToSourceOrder(LuBlock<n, Lanes<T>>& lu)
-{
-    decltype(LaneMask<T>::bits) is[n][n];
-    for (int k = 0; k < n; ++k)
-        for (int r = 0; r < n; ++r) is[k][r] = sameNumber(lu.rows[k].v, rowNumber<T>(r).v);
-    for (int c = 0; c < n; ++c) {
-        Lanes<T> column[n];
-        for (int k = 0; k < n; ++k) column[k] = lu.a[k][c];
-        for (int r = 0; r < n; ++r) {
-            auto found = both(is[0][r], column[0].v);
-            for (int k = 1; k < n; ++k) found = either(found, both(is[k][r], column[k].v));
-            lu.a[r][c] = found;
-        }
-    }
-}
-
 // Sums of up to luLanesOrder - 1 products, from zero, whose number of terms is known: loops over so few
-// terms cost as much as the terms. Eight terms go to sums of their own, as sumOfProducts has it.
-template <int terms, class T>
-Lanes<T> sumOf(const Lanes<T>* row, const Lanes<T>* x)
+// terms cost as much as the terms. Eight terms go to sums of their own, as sumOfProducts has it. Several
+// registers of vectors are summed up at once, as every sum waits for its last unknown.
+template <int several, class T>
+struct Sums {
+    Lanes<T> total[several];
+};
+template <int terms, int several, class T>
+Sums<several, T> sumsOf(const Lanes<T>* row, const Lanes<T>* x)
 {
     static_assert(terms < 16);
     constexpr int group = terms >= 8 ? 8 : 0;
-    Lanes<T> total = T(0);
-    if constexpr (group == 8) {
-        Lanes<T> s[8];
-        for (int l = 0; l < 8; ++l) s[l] = Lanes<T>(T(0)) + row[l] * x[l];
-        total = ((s[0] + s[1]) + (s[2] + s[3])) + ((s[4] + s[5]) + (s[6] + s[7]));
+    Sums<several, T> sums;
+    auto& total = sums.total;
+    for (int r = 0; r < several; ++r) {
+        const auto term = [&](int j) VORM_INLINE_LAMBDA { return Lanes<T>(T(0)) + row[j] * x[j * several + r]; };
+        total[r] = T(0);
+        if constexpr (group == 8)
+            total[r] = ((term(0) + term(1)) + (term(2) + term(3))) + ((term(4) + term(5)) + (term(6) + term(7)));
     }
-    unrolled<terms - group>([&](auto j) VORM_INLINE_LAMBDA { total = total + row[group + j] * x[group + j]; });
-    return total;
+    unrolled<terms - group>([&](auto j) VORM_INLINE_LAMBDA {
+        for (int r = 0; r < several; ++r) total[r] = total[r] + row[group + j] * x[(group + j) * several + r];
+    });
+    return sums;
 }
-template <class T, int... terms>
-constexpr auto sumsOf(std::integer_sequence<int, terms...>)
+template <class T, int several, int... terms>
+constexpr auto sumsByTerms(std::integer_sequence<int, terms...>)
 {
-    return std::array{sumOf<terms, T>...};
+    return std::array{sumsOf<terms, several, T>...};
 }
 
-template <class T>
+template <int several, class T>
 void luSubstitute(const Lanes<T>* lu, Lanes<T>* x, int n)
 {
-    static constexpr auto sums = sumsOf<T>(std::make_integer_sequence<int, luLanesOrder>{});
-    for (int i = 1; i < n; ++i) x[i] = x[i] - sums[std::size_t(i)](lu + i * n, x);
-    x[n - 1] = x[n - 1] / lu[n * n - 1];
-    for (int i = n - 2; i >= 0; --i)
-        x[i] = (x[i] - sums[std::size_t(n - 1 - i)](lu + i * n + i + 1, x + i + 1)) / lu[i * n + i];
+    static constexpr auto byTerms = sumsByTerms<T, several>(std::make_integer_sequence<int, luLanesOrder>{});
+    for (int i = 1; i < n; ++i) {
+        const auto sums = byTerms[std::size_t(i)](lu + i * n, x);
+        for (int r = 0; r < several; ++r) x[i * several + r] = x[i * several + r] - sums.total[r];
+    }
+    for (int r = 0; r < several; ++r) x[(n - 1) * several + r] = x[(n - 1) * several + r] / lu[n * n - 1];
+    for (int i = n - 2; i >= 0; --i) {
+        const auto sums = byTerms[std::size_t(n - 1 - i)](lu + i * n + i + 1, x + (i + 1) * several);
+        for (int r = 0; r < several; ++r) x[i * several + r] = (x[i * several + r] - sums.total[r]) / lu[i * n + i];
+    }
 }
-template void luSubstitute(const Lanes<float>* lu, Lanes<float>* x, int n);
-template void luSubstitute(const Lanes<double>* lu, Lanes<double>* x, int n);
+template void luSubstitute<1>(const Lanes<float>* lu, Lanes<float>* x, int n);
+template void luSubstitute<1>(const Lanes<double>* lu, Lanes<double>* x, int n);
+template void luSubstitute<luRegisters>(const Lanes<float>* lu, Lanes<float>* x, int n);
+template void luSubstitute<luRegisters>(const Lanes<double>* lu, Lanes<double>* x, int n);
 
-#define LU_BLOCKS(n, T)                                 \
-    template int luFactorise(LuBlock<n, T>& lu);        \
-    template int luFactorise(LuBlock<n, Lanes<T>>& lu); \
-    template void luToSourceOrder(LuBlock<n, Lanes<T>>& lu);
+#define LU_BLOCKS(n, T)                          \
+    template int luFactorise(LuBlock<n, T>& lu); \
+    template int luFactorise(LuBlock<n, Lanes<T>>& lu);
 #define LU_BLOCKS_OF_TYPE(T) LU_BLOCKS(3, T) LU_BLOCKS(4, T) LU_BLOCKS(5, T) LU_BLOCKS(6, T)
 
 LU_BLOCKS_OF_TYPE(float)

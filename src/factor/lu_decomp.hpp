@@ -285,7 +285,7 @@ VORM_INLINE VormStatus luDecompMaPointers(LuComP<T>* general, LU_DECOMP_MA_PARAM
         return general(srcPointers, srcShift, srcStride0, pivotIndex + std::ptrdiff_t{n} * order, dstPointers, dstShift,
                        dstStride0, order, n);
     };
-    if (inPlanes<T>(srcStride0, dstStride0) && (order > 6 || planesApart(dstPointers, order * order)))
+    if (order <= luLanesOrder && inPlanes(srcs) && storableAsPlanes(dsts, order, order, count))
         return luDecompArray<T>(asPlanes(srcs), asPlanes(dsts), pivotIndex, order, count, single);
     return luDecompArray<T>(srcs, dsts, pivotIndex, order, count, single);
 }

@@ -8,22 +8,21 @@ namespace vorm {
 
 // Orders 3 to 6. --------------------------------------------------------------------------------------
 
-// Factors in logical row order; x holds b in logical order before, the solution after. Terms are subtracted
-// one by one, those first whose unknown is found first. divided(x, i) is x divided by the i-th element of
+// Factors in logical row order; x holds b in logical order before, the solution after. An unknown is subtracted
+// everywhere as soon as it is found. divided(x, i) is x divided by the i-th element of
 // U's diagonal.
 template <int n, class Number, class Divided>
 VORM_INLINE void luSubstitute(const Number (&lu)[n][n], Number (&x)[n], const Divided& divided)
 {
-    for (int i = 1; i < n; ++i)
-        for (int j = 0; j < i; ++j) x[i] = x[i] - lu[i][j] * x[j];
-    for (int i = n - 1; i >= 0; --i) {
-        for (int j = n - 1; j > i; --j) x[i] = x[i] - lu[i][j] * x[j];
-        x[i] = divided(x[i], i);
+    for (int j = 0; j < n - 1; ++j)
+        for (int i = j + 1; i < n; ++i) x[i] = x[i] - lu[i][j] * x[j];
+    for (int j = n - 1; j >= 0; --j) {
+        x[j] = divided(x[j], j);
+        for (int i = 0; i < j; ++i) x[i] = x[i] - lu[i][j] * x[j];
     }
 }
 
 // A vector with its own matrix: true divisions. All of b is read before the first element is written.
-// Objects one by one are the fastest here: lanes would first have to gather rows and b by their pivots.
 template <int n, class T, class M, class B, class X>
 VORM_INLINE void luSolveObject(const M& matrix, const B& b, const X& dst, int object, const int* pivotIndex)
 {
@@ -36,11 +35,15 @@ VORM_INLINE void luSolveObject(const M& matrix, const B& b, const X& dst, int ob
     luSubstitute(lu, x, [&](T value, int i) VORM_INLINE_LAMBDA { return value / lu[i][i]; });
     for (int i = 0; i < n; ++i) dst(object, i) = x[i];
 }
-template <int n, class T, class M, class B, class X>
-VORM_INLINE void luSolvePairs(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int count)
+
+// The addresses of consecutive objects.
+template <class View, class T, int objects>
+VORM_INLINE void objectsAt(const View& view, int first, T* (&to)[objects])
 {
-    for (int object = 0; object < count; ++object)
-        luSolveObject<n, T>(matrix, b, dst, object, pivotIndex + std::ptrdiff_t{object} * n);
+    if constexpr (requires { view.stride0; })
+        for (int l = 0; l < objects; ++l) to[l] = advance(view.object(first), std::ptrdiff_t{l} * view.stride0);
+    else
+        for (int l = 0; l < objects; ++l) to[l] = view.object(first + l);
 }
 
 template <class X, int n, class T>
@@ -49,7 +52,7 @@ VORM_INLINE void storeLanes(const X& dst, int first, const Lanes<T> (&x)[n])
     constexpr int width = Lanes<T>::width;
     if constexpr (isAdjacent<X>) {
         T* to[width];
-        for (int l = 0; l < width; ++l) to[l] = dst.object(first + l);
+        objectsAt(dst, first, to);
         storeRows(to, x);
     } else if constexpr (isInPlanes<X>) {
         for (int i = 0; i < n; ++i) x[i].store(dst.element(i) + first);
@@ -60,18 +63,112 @@ VORM_INLINE void storeLanes(const X& dst, int first, const Lanes<T> (&x)[n])
 
 // Objects in ascending order, a register of them wherever they share no memory.
 template <class T, class X, class Single, class Register>
-VORM_INLINE void luEachVector(const X& dst, int n, int count, const Single& single, const Register& lanesFrom)
+VORM_INLINE void luEachVector(const X& dst, int n, int count, const Single& single, const Register& lanesFrom,
+                              int done = 0)
 {
     constexpr int width = Lanes<T>::width;
-    for (int done = 0; done < count;) {
+    while (done < count) {
         bool apart = count - done >= width;
         if constexpr (isAdjacent<X>) apart = apart && objectsApart(dst, done, 1, n);
         if (apart) {
             lanesFrom(done);
             done += width;
         } else {
-            for (const int end = std::min(done + width, count); done < end; ++done) single(done);
+            for (const int end = done + std::min(width, count - done); done < end; ++done) single(done);
         }
+    }
+}
+
+// A register of objects. Their rows are loaded in logical order; from planes, where those of no two objects lie
+// together, elements are loaded one by one, or few planes as they are and put in order by selecting.
+template <int n, class T, class M, class B, class X>
+VORM_INLINE void luSolveLanes(const M& matrix, const B& b, const X& dst, int first, const int* pivotIndex)
+{
+    constexpr int width = Lanes<T>::width;
+    Lanes<T> lu[n][n], x[n];
+    if constexpr (isInPlanes<M> && width == 4 && n <= 4) {
+        Lanes<T> own[n][n], ownB[n], rows[n];
+        for (int r = 0; r < n; ++r) {
+            for (int c = 0; c < n; ++c) own[r][c] = Lanes<T>::load(matrix.element(r, c) + first);
+            ownB[r] = Lanes<T>::load(b.element(r) + first);
+        }
+        loadRowNumbers(pivotIndex, rows);
+        unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
+            decltype(LaneMask<T>::bits) is[n];
+            for (int r = 0; r < n; ++r) is[r] = sameNumber(rows[k].v, rowNumber<T>(r).v);
+            const auto chosen = [&](auto element) VORM_INLINE_LAMBDA {
+                auto found = both(is[0], element(0).v);
+                for (int r = 1; r < n; ++r) found = either(found, both(is[r], element(r).v));
+                return found;
+            };
+            for (int c = 0; c < n; ++c) lu[k][c] = chosen([&](int r) VORM_INLINE_LAMBDA { return own[r][c]; });
+            x[k] = chosen([&](int r) VORM_INLINE_LAMBDA { return ownB[r]; });
+        });
+    } else {
+        unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
+            int row[width];
+            for (int l = 0; l < width; ++l) row[l] = pivotAt(pivotIndex, l * n + k);
+            if constexpr (isAdjacent<M>) {
+                const T* from[width];
+                for (int l = 0; l < width; ++l) from[l] = rowAt(matrix, first + l, row[l]);
+                loadRows(from, lu[k]);
+            } else {
+                for (int c = 0; c < n; ++c)
+                    lu[k][c] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(matrix(first + l, row[l], c)); });
+            }
+            x[k] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, row[l])); });
+        });
+    }
+    luSubstitute(lu, x, [&](Lanes<T> value, int i) VORM_INLINE_LAMBDA { return value / lu[i][i]; });
+    storeLanes(dst, first, x);
+}
+
+template <int n, class T, class M, class B, class X>
+VORM_INLINE void luSolvePairs(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int count)
+{
+    const auto pivots = [&](int object) VORM_INLINE_LAMBDA { return pivotIndex + std::ptrdiff_t{object} * n; };
+    const auto single = [&](int object)
+                            VORM_INLINE_LAMBDA { luSolveObject<n, T>(matrix, b, dst, object, pivots(object)); };
+    if constexpr (isInPlanes<M> || isAdjacent<M>)
+        luEachVector<T>(dst, n, count, single, [&](int first) VORM_INLINE_LAMBDA {
+            luSolveLanes<n, T>(matrix, b, dst, first, pivots(first));
+        });
+    else
+        for (int object = 0; object < count; ++object) single(object);
+}
+
+// Two registers of objects: so many operations that wait for each other keep the processor busy only together.
+template <class T>
+struct LanesPair {
+    Lanes<T> first, second;
+    friend LanesPair operator-(LanesPair a, LanesPair b) { return {a.first - b.first, a.second - b.second}; }
+    friend LanesPair operator*(LanesPair a, Lanes<T> b) { return {a.first * b, a.second * b}; }
+    friend LanesPair operator*(Lanes<T> a, LanesPair b) { return {a * b.first, a * b.second}; }
+};
+// Compilers leave loops over so much code as loops, whose indices would be addresses.
+template <int n, class T, class Divided>
+VORM_INLINE void luSubstitute(const Lanes<T> (&lu)[n][n], LanesPair<T> (&x)[n], const Divided& divided)
+{
+    unrolled<n>([&](auto j) VORM_INLINE_LAMBDA {
+        unrolled<n - 1 - j>([&](auto i) VORM_INLINE_LAMBDA { x[j + 1 + i] = x[j + 1 + i] - lu[j + 1 + i][j] * x[j]; });
+    });
+    unrolled<n>([&](auto below) VORM_INLINE_LAMBDA {
+        constexpr int j = n - 1 - below;
+        x[j] = divided(x[j], j);
+        unrolled<j>([&](auto i) VORM_INLINE_LAMBDA { x[i] = x[i] - lu[i][j] * x[j]; });
+    });
+}
+
+template <class B, int n, class T>
+VORM_INLINE void loadLanes(const B& b, int first, Lanes<T> (&x)[n])
+{
+    constexpr int width = Lanes<T>::width;
+    if constexpr (isAdjacent<B>) {
+        const T* from[width];
+        objectsAt(b, first, from);
+        loadRows(from, x);
+    } else {
+        gatherVectors(b, first, width, n, reinterpret_cast<T*>(x));
     }
 }
 
@@ -88,32 +185,64 @@ VORM_INLINE void luSolveVectors(const M& matrix, const B& b, const X& dst, const
         for (int j = 0; j < n; ++j) lu[i][j] = T(matrix(0, rows[i], j));
         reciprocals[i] = Lanes<T>(T(1)) / lu[i][i];
     }
-    const auto substitute = [&](const Lanes<T>(&natural)[n], Lanes<T>(&x)[n]) VORM_INLINE_LAMBDA {
-        for (int k = 0; k < n; ++k) x[k] = natural[rows[k]];
-        luSubstitute(lu, x, [&](Lanes<T> value, int i) VORM_INLINE_LAMBDA { return value * reciprocals[i]; });
+    // In registers all coefficients would be too many, and the unknowns evicted for them: the compiler is to take
+    // these for memory that a store might change.
+    constexpr bool paired = width == 2 && n >= 4 && isAdjacent<B>;
+    const auto inMemory = [](auto& array) VORM_INLINE_LAMBDA -> auto&
+    {
+        auto* p = &array;
+        if constexpr (paired || n == 6) __asm__("" : "+r"(p) : : "memory");
+        return *p;
     };
-    luEachVector<T>(
-        dst, n, count,
-        [&](int object) VORM_INLINE_LAMBDA {
-            Lanes<T> natural[n], x[n];
-            for (int i = 0; i < n; ++i) natural[i] = T(b(object, i));
-            substitute(natural, x);
-            for (int i = 0; i < n; ++i) dst(object, i) = firstLane(x[i]);
-        },
-        [&](int first) VORM_INLINE_LAMBDA {
-            Lanes<T> natural[n], x[n];
-            if constexpr (isAdjacent<B>) {
-                const T* from[width];
-                for (int l = 0; l < width; ++l) from[l] = b.object(first + l);
-                loadRows(from, natural);
-            } else if constexpr (isInPlanes<B>) {
-                for (int i = 0; i < n; ++i) natural[i] = Lanes<T>::load(b.element(i) + first);
-            } else {
-                gatherVectors(b, first, width, n, reinterpret_cast<T*>(natural));
-            }
-            substitute(natural, x);
-            storeLanes(dst, first, x);
-        });
+    const auto& coefficients = inMemory(lu);
+    const auto& inverses = inMemory(reciprocals);
+    const auto divided = [&](auto value, int i) VORM_INLINE_LAMBDA { return value * inverses[i]; };
+    const T* planes[n];  // of b in logical order
+    if constexpr (isInPlanes<B>)
+        for (int k = 0; k < n; ++k) planes[k] = b.element(rows[k]);
+    const auto loadPermuted = [&](int first, Lanes<T>(&x)[n]) VORM_INLINE_LAMBDA {
+        if constexpr (isInPlanes<B>) {
+            for (int k = 0; k < n; ++k) x[k] = Lanes<T>::load(planes[k] + first);
+        } else {
+            Lanes<T> natural[n];
+            loadLanes(b, first, natural);
+            for (int k = 0; k < n; ++k) x[k] = natural[rows[k]];
+        }
+    };
+    const auto registers = [&](int first) VORM_INLINE_LAMBDA {
+        Lanes<T> x[n];
+        loadPermuted(first, x);
+        luSubstitute(coefficients, x, divided);
+        storeLanes(dst, first, x);
+    };
+    const auto pairs = [&](int first) VORM_INLINE_LAMBDA {
+        Lanes<T> natural[n], next[n];
+        LanesPair<T> x[n];
+        loadLanes(b, first, natural);
+        loadLanes(b, first + width, next);
+        unrolled<n>([&](auto k) VORM_INLINE_LAMBDA { x[k] = {natural[rows[k]], next[rows[k]]}; });
+        luSubstitute(coefficients, x, divided);
+        unrolled<n>([&](auto k) VORM_INLINE_LAMBDA { natural[k] = x[k].first, next[k] = x[k].second; });
+        storeLanes(dst, first, natural);
+        storeLanes(dst, first + width, next);
+    };
+    const auto apart = [&](int first) VORM_INLINE_LAMBDA {
+        if constexpr (isAdjacent<X>) return objectsApart(dst, first, 1, n);
+        return true;
+    };
+    const auto single = [&](int object) VORM_INLINE_LAMBDA {
+        Lanes<T> x[n];
+        for (int k = 0; k < n; ++k) x[k] = T(b(object, rows[k]));
+        luSubstitute(coefficients, x, divided);
+        for (int i = 0; i < n; ++i) dst(object, i) = firstLane(x[i]);
+    };
+    int done = 0;
+    if constexpr (paired)
+        while (count - done >= 2 * width && apart(done) && apart(done + width)) {
+            pairs(done);
+            done += 2 * width;
+        }
+    luEachVector<T>(dst, n, count, single, registers, done);
 }
 
 // All other orders. -----------------------------------------------------------------------------------
@@ -200,8 +329,10 @@ template <class T, class View>
                 to[(k * n + c) * objects + l] = matrix(first + l, pivotAt(pivotIndex, l * n + k), c);
 }
 
-// Solves with a register of matrices of any order n, in logical row order; x as above.
-template <class T>
+// Solves with a register of matrices of any order n, in logical row order; x as above, of several registers of
+// vectors in turn.
+constexpr int luRegisters = 4;
+template <int several, class T>
 VORM_HIDDEN void luSubstitute(const Lanes<T>* lu, Lanes<T>* x, int n);
 
 template <class X, class T>
@@ -210,8 +341,10 @@ VORM_INLINE void storeLanes(const X& dst, int first, const Lanes<T>* x, int n)
     constexpr int width = Lanes<T>::width;
     if constexpr (isAdjacent<X>) {
         T* to[width];
-        for (int l = 0; l < width; ++l) to[l] = dst.object(first + l);
+        objectsAt(dst, first, to);
         storeRows(to, x, n);
+    } else if constexpr (isInPlanes<X>) {
+        for (int i = 0; i < n; ++i) x[i].store(dst.element(i) + first);
     } else {
         scatterVectors(dst, first, width, n, reinterpret_cast<const T*>(x));
     }
@@ -241,7 +374,7 @@ template <class T, class M, class B, class X>
             gatherPivotRows(matrix, first, width, n, rows, reinterpret_cast<T*>(lu));
         for (int k = 0; k < n; ++k)
             x[k] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, pivotAt(rows, l * n + k))); });
-        luSubstitute(lu, x, n);
+        luSubstitute<1>(lu, x, n);
         storeLanes(dst, first, x, n);
     });
 }
@@ -259,21 +392,39 @@ template <class T, class M, class B, class X>
     Lanes<T> lu[luLanesOrder * luLanesOrder];
     for (int k = 0; k < n; ++k)
         for (int c = 0; c < n; ++c) lu[k * n + c] = T(matrix(0, pivotAt(pivotIndex, k), c));
-    luEachVector<T>(dst, n, count, single, [&](int first) VORM_INLINE_LAMBDA {
-        Lanes<T> natural[luLanesOrder], x[luLanesOrder];
-        if constexpr (isAdjacent<B>) {
-            const T* from[width];
-            for (int l = 0; l < width; ++l) from[l] = b.object(first + l);
-            loadRows(from, natural, n);
-        } else if constexpr (isInPlanes<B>) {
-            for (int i = 0; i < n; ++i) natural[i] = Lanes<T>::load(b.element(i) + first);
-        } else {
-            gatherVectors(b, first, width, n, reinterpret_cast<T*>(natural));
+    const auto solve = [&](int first, auto several) VORM_INLINE_LAMBDA {
+        Lanes<T> natural[luLanesOrder], x[luLanesOrder * several];
+        for (int r = 0; r < several; ++r) {
+            const int object = first + r * width;
+            if constexpr (isAdjacent<B>) {
+                const T* from[width];
+                for (int l = 0; l < width; ++l) from[l] = b.object(object + l);
+                loadRows(from, natural, n);
+            } else if constexpr (isInPlanes<B>) {
+                for (int i = 0; i < n; ++i) natural[i] = Lanes<T>::load(b.element(i) + object);
+            } else {
+                gatherVectors(b, object, width, n, reinterpret_cast<T*>(natural));
+            }
+            for (int k = 0; k < n; ++k) x[k * several + r] = natural[pivotAt(pivotIndex, k)];
         }
-        for (int k = 0; k < n; ++k) x[k] = natural[pivotAt(pivotIndex, k)];
-        luSubstitute(lu, x, n);
-        storeLanes(dst, first, x, n);
-    });
+        luSubstitute<several>(lu, x, n);
+        for (int r = 0; r < several; ++r) {
+            for (int i = 0; i < n; ++i) natural[i] = x[i * several + r];
+            storeLanes(dst, first + r * width, natural, n);
+        }
+    };
+    const auto apart = [&](int first) VORM_INLINE_LAMBDA {
+        if constexpr (isAdjacent<X>)
+            for (int r = 0; r < luRegisters; ++r)
+                if (!objectsApart(dst, first + r * width, 1, n)) return false;
+        return true;
+    };
+    int done = 0;
+    for (; count - done >= luRegisters * width && apart(done); done += luRegisters * width)
+        solve(done, std::integral_constant<int, luRegisters>{});
+    luEachVector<T>(
+        dst, n, count, single, [&](int first) VORM_INLINE_LAMBDA { solve(first, std::integral_constant<int, 1>{}); },
+        done);
 }
 
 }  // namespace vorm

@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 
+#include "frame/planes.hpp"
 #include "frame/shuffles.hpp"
 #include "frame/small_matrix.hpp"
 
@@ -22,11 +23,6 @@ template <class View>
 constexpr InPlanes<View> asPlanes(const View& view)
 {
     return {view};
-}
-template <class T, class... Int>
-constexpr bool inPlanes(Int... stride0s)
-{
-    return (... && (stride0s == int{sizeof(T)}));
 }
 
 // Views whose elements, or those of a row, are contiguous.
@@ -177,19 +173,11 @@ VORM_INLINE bool objectsApart(const View& view, int n, int rows, int len)
     }
 }
 
-// Whether registers of objects stored to the planes of a table never overlap each other.
-template <class T>
-[[gnu::noinline]] bool planesApart(T* const* planes, int elements)
+// Whether an array lies in planes, and registers of objects stored to it never overlap each other.
+template <class View>
+VORM_INLINE bool storableAsPlanes(const View& dst, int rows, int columns, int count)
 {
-    const auto apart = [&](int i, int j) {
-        return reinterpret_cast<const char*>(planes[i]) - reinterpret_cast<const char*>(planes[j]);
-    };
-    int ascending = 1;
-    while (ascending < elements && apart(ascending, ascending - 1) >= 16) ++ascending;
-    for (int i = ascending; i < elements; ++i)
-        for (int j = 0; j < i; ++j)
-            if (std::abs(apart(i, j)) < 16) return false;
-    return true;
+    return inPlanes(dst) && planesApart(dst.pp, rows, columns, int{sizeof(__m128)}, std::int64_t{count} * rows);
 }
 
 }  // namespace vorm
