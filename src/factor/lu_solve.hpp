@@ -36,16 +36,6 @@ VORM_INLINE void luSolveObject(const M& matrix, const B& b, const X& dst, int ob
     for (int i = 0; i < n; ++i) dst(object, i) = x[i];
 }
 
-// The addresses of consecutive objects.
-template <class View, class T, int objects>
-VORM_INLINE void objectsAt(const View& view, int first, T* (&to)[objects])
-{
-    if constexpr (requires { view.stride0; })
-        for (int l = 0; l < objects; ++l) to[l] = advance(view.object(first), std::ptrdiff_t{l} * view.stride0);
-    else
-        for (int l = 0; l < objects; ++l) to[l] = view.object(first + l);
-}
-
 template <class X, int n, class T>
 VORM_INLINE void storeLanes(const X& dst, int first, const Lanes<T> (&x)[n])
 {

@@ -35,6 +35,16 @@ constexpr bool isAdjacent<VectorArray<T, Adjacent>> = true;
 template <class T>
 constexpr bool isAdjacent<VectorList<T, Adjacent>> = true;
 
+// The addresses of consecutive objects.
+template <class View, class T, int objects>
+VORM_INLINE void objectsAt(const View& view, int first, T* (&to)[objects])
+{
+    if constexpr (requires { view.stride0; })
+        for (int l = 0; l < objects; ++l) to[l] = advance(view.object(first), std::ptrdiff_t{l} * view.stride0);
+    else
+        for (int l = 0; l < objects; ++l) to[l] = view.object(first + l);
+}
+
 // n elements from each of several addresses, one address for each lane. --------------------------------
 
 template <int n>

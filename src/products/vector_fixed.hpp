@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "frame/object_lanes.hpp"
 #include "frame/operands.hpp"
 #include "frame/shuffles.hpp"
 #include "frame/unrolled.hpp"
@@ -364,53 +365,22 @@ VORM_INLINE int packedThrees(const A& a, const float* x, float* y, int count)
     return object;
 }
 
-// Four vectors of five or six floats, element by element in registers of four objects.
-template <int n, class View>
-VORM_INLINE void loadFour(const View& view, int object, Lanes<float> (&v)[n])
-{
-    const float* p[4];
-    Lanes<float> block[4];
-    for (int o = 0; o < 4; ++o) p[o] = view.object(object + o), block[o] = Lanes<float>::load(p[o]);
-    transpose(block);
-    for (int k = 0; k < 4; ++k) v[k] = block[k];
-    if constexpr (n == 5) {
-        v[4] = lanes<float>([&](int o) VORM_INLINE_LAMBDA { return float(elementAt(p[o] + 4, 0)); });
-    } else {
-        const __m128 low = loadPairs(p[0] + 4, p[1] + 4).v;   // a4 a5 b4 b5
-        const __m128 high = loadPairs(p[2] + 4, p[3] + 4).v;  // c4 c5 d4 d5
-        v[4] = _mm_shuffle_ps(low, high, 0x88);
-        v[5] = _mm_shuffle_ps(low, high, 0xDD);
-    }
-}
-template <int n, class View>
-VORM_INLINE void storeFour(const View& view, int object, const Lanes<float> (&v)[n])
-{
-    Lanes<float> block[4] = {v[0], v[1], v[2], v[3]}, pairs[2];
-    transpose(block);
-    if constexpr (n == 6) {
-        pairs[0] = _mm_unpacklo_ps(v[4].v, v[5].v);  // a4 a5 b4 b5
-        pairs[1] = _mm_unpackhi_ps(v[4].v, v[5].v);  // c4 c5 d4 d5
-    }
-    unrolled<4>([&](auto o) VORM_INLINE_LAMBDA {
-        float* const to = view.object(object + o);
-        block[o].store(to);
-        if constexpr (n == 5) elementAt(to + 4, 0) = lane<o>(v[4]);
-        if constexpr (n == 6) storeHalf<o % 2>(to + 4, pairs[o / 2]);
-    });
-}
-
+// Four objects at a time, element by element in registers of four.
 template <int n, Start start, class A, class X, class D>
 VORM_INLINE int productsOfFour(const A& a, const X& x, const D& y, int count)
 {
     const SpreadMatrix<float, n> matrix(a);
     int object = 0;
     for (; count - object >= 4; object += 4) {
+        const float* from[4];
+        float* to[4];
+        objectsAt(x, object, from), objectsAt(y, object, to);
         Lanes<float> vectors[n], results[n];
-        loadFour(x, object, vectors);
+        loadRows(from, vectors);
         unrolled<n>([&](auto i) VORM_INLINE_LAMBDA {
             results[i] = leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA { return matrix.v[i][k] * vectors[k]; });
         });
-        storeFour(y, object, results);
+        storeRows(to, results);
     }
     return object;
 }
