@@ -9,8 +9,7 @@ namespace vorm {
 // Orders 3 to 6. --------------------------------------------------------------------------------------
 
 // Factors in logical row order; x holds b in logical order before, the solution after. An unknown is subtracted
-// everywhere as soon as it is found. divided(x, i) is x divided by the i-th element of
-// U's diagonal.
+// everywhere as soon as it is found. divided(x, i) is x divided by the i-th element of U's diagonal.
 template <int n, class Number, class Divided>
 VORM_INLINE void luSubstitute(const Number (&lu)[n][n], Number (&x)[n], const Divided& divided)
 {
