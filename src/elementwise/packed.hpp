@@ -88,11 +88,13 @@ struct Block<T, Len, View> {  // the constants of the block's objects, spread ov
     {
         constexpr int width = Lanes<T>::width;
         constexpr auto object = [](int k) { return (width * j + k) / Len; };
-        if constexpr (width == 4)
-            return _mm_shuffle_ps(constants.v, constants.v,
-                                  object(0) | object(1) << 2 | object(2) << 4 | object(3) << 6);
-        else
-            return _mm_shuffle_pd(constants.v, constants.v, object(0) | object(1) << 1);
+        if constexpr (width == 4) {
+            constexpr int order = object(0) | object(1) << 2 | object(2) << 4 | object(3) << 6;
+            return _mm_shuffle_ps(constants.v, constants.v, order);
+        } else {
+            constexpr int order = object(0) | object(1) << 1;
+            return _mm_shuffle_pd(constants.v, constants.v, order);
+        }
     }
 };
 

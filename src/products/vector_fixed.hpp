@@ -354,10 +354,10 @@ VORM_INLINE int packedThrees(const A& a, const float* x, float* y, int count)
         unrolled<3>([&](auto j) VORM_INLINE_LAMBDA {
             constexpr int begin = 4 * j, first = begin / 3;  // the lanes belong to this object and the next one
             constexpr auto from = [](int l) { return (begin + l) / 3 == first ? 0 : 3; };
+            constexpr int order = from(0) | from(1) << 2 | from(2) << 4 | from(3) << 6;
             result[j] = leftToRight<3, start>([&](auto k) VORM_INLINE_LAMBDA {
                 const __m128 elements = Lanes<float>::load(x + 3 * first + k).v;
-                return rows[j][k] * Lanes<float>(_mm_shuffle_ps(elements, elements,
-                                                                from(0) | from(1) << 2 | from(2) << 4 | from(3) << 6));
+                return rows[j][k] * Lanes<float>(_mm_shuffle_ps(elements, elements, order));
             });
         });
         for (int j = 0; j < 3; ++j) result[j].store(y + 4 * j);
