@@ -327,7 +327,8 @@ TYPED_TEST(MatrixProducts, SingleOfEverySize)
                         if (this->HasFatalFailure()) return;
                     }
     for (const Kind kind : {mm, mt, tm, tt})
-        this->checkRandom({kind, Shape::single, Layout::contiguous, 23, 29, 31, 1, Against::pageBehind, 0});
+        for (const auto& [m, n, k] : {std::array{23, 29, 31}, std::array{12, 24, 8}})
+            this->checkRandom({kind, Shape::single, Layout::contiguous, m, n, k, 1, Against::pageBehind, 0});
 }
 
 TYPED_TEST(MatrixProducts, ArraysInEveryLayout)
@@ -352,7 +353,7 @@ TYPED_TEST(MatrixProducts, StartOfTheSums)
     for (const Kind kind : {mm, mt, tm, tt})
         for (const Shape shape : {Shape::single, Shape::firstArray, Shape::secondArray, Shape::bothArrays})
             for (const Layout layout : allLayouts)
-                for (int n = 2; n <= 7; ++n) {
+                for (int n = 2; n <= 8; ++n) {
                     const Problem p{kind, shape, layout, n, n, n, 5, Against::pageBehind, 0};
                     if (shape == Shape::single && isList(layout)) continue;
                     int calls = 0;

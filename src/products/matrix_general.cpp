@@ -6,13 +6,22 @@
 
 namespace vorm {
 
+// Eight terms and whole tiles only: a product in which calls and loops cost as much as the sums.
 template <class Kind, class T>
-void generalProduct(const T* pSrc1, int src1Stride1, const T* pSrc2, int src2Stride1, T* pDst, int dstStride1,
-                    Lengths lengths)
+VormStatus eightTerms(MM_PARAMS(T))
+{
+    const Lengths lengths = Kind::lengths(src1Width, src1Height, src2Width, src2Height);
+    fullTilesHere<T>(Kind::first(Matrix{pSrc1, src1Stride1, adjacent}), Matrix{pSrc2, src2Stride1, adjacent},
+                     Matrix{pDst, dstStride1, adjacent}, lengths.m, lengths.n, std::integral_constant<int, 8>{});
+    return StatusOk;
+}
+
+template <class Kind, class T>
+VormStatus anyLengths(MM_PARAMS(T))
 {
     const Matrix stored1{pSrc1, src1Stride1, adjacent}, stored2{pSrc2, src2Stride1, adjacent};
     const Matrix dst{pDst, dstStride1, adjacent};
-    const auto [m, n, terms] = lengths;
+    const auto [m, n, terms] = Kind::lengths(src1Width, src1Height, src2Width, src2Height);
     const int tiled = m & ~3, left = m & 3;
 
     if constexpr (Kind::transposed1 && Kind::transposed2) {
@@ -48,6 +57,7 @@ void generalProduct(const T* pSrc1, int src1Stride1, const T* pSrc2, int src2Str
         if (left == 2) strips<T, Sums::evenAndOdd, 2>(a, stored2, dst, tiled, m, 0, n, terms);
         if (left == 3) strips<T, Sums::running, 3>(a, stored2, dst, tiled, m, 0, n, terms);
     }
+    return StatusOk;
 }
 
 VORM_EACH_GENERAL_PRODUCT();

@@ -73,8 +73,10 @@ VORM_INLINE VormStatus contiguousProducts(const A& src1, const B& src2, const D&
     case 6: fixedProductsOfAll<T, 6>(a, b, dst, count); break;
     default:
         for (int n = 0; n < count; ++n)
-            generalProduct<Kind>(src1.object(n), src1.stride1, src2.object(n), src2.stride1, dst.object(n), dst.stride1,
-                                 lengths);
+            generalProduct<Kind>(src1.object(n), src1.stride1, int{sizeof(T)}, Kind::width1(lengths),
+                                 Kind::height1(lengths), src2.object(n), src2.stride1, int{sizeof(T)},
+                                 Kind::width2(lengths), Kind::height2(lengths), dst.object(n), dst.stride1,
+                                 int{sizeof(T)});
     }
     return StatusOk;
 }

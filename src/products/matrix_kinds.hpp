@@ -29,6 +29,11 @@ struct Kind {
         return {transposed1 ? src1Width : src1Height, transposed2 ? src2Height : src2Width,
                 transposed1 ? src1Height : src1Width};
     }
+    // And back.
+    static constexpr int width1(Lengths l) { return transposed1 ? l.m : l.k; }
+    static constexpr int height1(Lengths l) { return transposed1 ? l.k : l.m; }
+    static constexpr int width2(Lengths l) { return transposed2 ? l.k : l.n; }
+    static constexpr int height2(Lengths l) { return transposed2 ? l.n : l.k; }
 
     // The stored operands as the product reads them: A(i, k) and B(k, j).
     template <class Stored>

@@ -108,32 +108,41 @@ VORM_INLINE void addTerm(Lanes<T> (&sum)[all], const Terms& terms, const B& b, i
     });
 }
 
-// height rows, registers side by side; some of their lanes are in use.
-template <class T, Sums sums, int height, int registers, int some, class A, class B, class D>
-VORM_INLINE void tileHere(const A& a, const B& b, const D& dst, int terms)
+// height rows, registers side by side; some of their lanes are in use. A known number of terms, a multiple
+// of four as an integral_constant, makes straight-line code.
+template <class T, Sums sums, int height, int registers, int some, class A, class B, class D, class Terms>
+VORM_INLINE void tileHere(const A& a, const B& b, const D& dst, Terms terms)
 {
     constexpr int width = Lanes<T>::width, all = height * registers;
     Lanes<T> sum[all];
     unrolled<all>([&](auto s) VORM_INLINE_LAMBDA { sum[s] = T(0); });
-    int k = 0;
-    if constexpr (sums == Sums::running) {
-        for (; width == 4 && k + width <= terms; k += width) {
+    const auto one = [&](int k) VORM_INLINE_LAMBDA { addTerm<0, registers, some>(sum, TermOf<T, A>{a, k}, b, k); };
+    const auto four = [&](int k) VORM_INLINE_LAMBDA {
+        if constexpr (width == 4) {
             const TermsOf<T, height, A> ofA(a, k);
-            addTerm<0, registers, some>(sum, ofA, b, k);
-            addTerm<1, registers, some>(sum, ofA, b, k + 1);
-            addTerm<2 % width, registers, some>(sum, ofA, b, k + 2);
-            addTerm<3 % width, registers, some>(sum, ofA, b, k + 3);
+            unrolled<4>([&](auto ahead)
+                            VORM_INLINE_LAMBDA { addTerm<ahead, registers, some>(sum, ofA, b, k + ahead); });
+        } else {
+            unrolled<4>([&](auto ahead) VORM_INLINE_LAMBDA { one(k + ahead); });
         }
+    };
+    int k = 0;
+    if constexpr (!std::is_integral_v<Terms>) {
+        static_assert(sums == Sums::running && Terms::value % 4 == 0);
+        unrolled<Terms::value / 4>([&](auto q) VORM_INLINE_LAMBDA { four(4 * q); });
+    } else if constexpr (sums == Sums::running) {
+        for (; width == 4 && k + width <= terms; k += width) four(k);
     } else {
         Lanes<T> odd[all];
         unrolled<all>([&](auto s) VORM_INLINE_LAMBDA { odd[s] = T(0); });
         for (; k + 2 <= terms; k += 2) {
-            addTerm<0, registers, some>(sum, TermOf<T, A>{a, k}, b, k);
+            one(k);
             addTerm<0, registers, some>(odd, TermOf<T, A>{a, k + 1}, b, k + 1);
         }
         unrolled<all>([&](auto s) VORM_INLINE_LAMBDA { sum[s] = sum[s] + odd[s]; });
     }
-    for (; k < terms; ++k) addTerm<0, registers, some>(sum, TermOf<T, A>{a, k}, b, k);
+    if constexpr (std::is_integral_v<Terms>)
+        for (; k < terms; ++k) one(k);
     unrolled<all>([&](auto s)
                       VORM_INLINE_LAMBDA { storeAcross<T, some>(dst, s / registers, s % registers * width, sum[s]); });
 }
@@ -146,13 +155,18 @@ template <class T, Sums sums, int height, int registers, int some, class A, clas
 }
 
 // The bulk of a product: a multiple of four rows, and of two registers of columns.
-template <class T, class A, class B, class D>
-[[gnu::noinline]] void fullTiles(const A a, const B b, const D dst, int rows, int columns, int terms)
+template <class T, class A, class B, class D, class Terms>
+VORM_INLINE void fullTilesHere(const A& a, const B& b, const D& dst, int rows, int columns, Terms terms)
 {
     constexpr int breadth = 2 * Lanes<T>::width;
     for (int r = 0; r < rows; r += 4)
         for (int c = 0; c < columns; c += breadth)
             tileHere<T, Sums::running, 4, 2, Lanes<T>::width>(from(a, r, 0), from(b, 0, c), from(dst, r, c), terms);
+}
+template <class T, class A, class B, class D>
+[[gnu::noinline]] void fullTiles(const A a, const B b, const D dst, int rows, int columns, int terms)
+{
+    fullTilesHere<T>(a, b, dst, rows, columns, terms);
 }
 
 // Strips of tiles: height rows each from row r up to toRow, columns c up to toColumn.

@@ -6,13 +6,8 @@
 #include "products/layers.hpp"
 #include "products/matrix_kernels.hpp"
 
-// The operands by layout, in the order and with the names of the exported prototypes.
-#define MM_PARAMS(T)                                                                                                  \
-    const T *pSrc1, int src1Stride1, int src1Stride2, int src1Width, int src1Height, const T *pSrc2, int src2Stride1, \
-        int src2Stride2, int src2Width, int src2Height, T *pDst, int dstStride1, int dstStride2
-#define MM_ARGS                                                                                                     \
-    pSrc1, src1Stride1, src1Stride2, src1Width, src1Height, pSrc2, src2Stride1, src2Stride2, src2Width, src2Height, \
-        pDst, dstStride1, dstStride2
+// The operands of the pointer layout, in the order and with the names of the exported prototypes; those
+// of the standard layout are in matrix_general.hpp.
 #define MM_PARAMS_P(T)                                                                                           \
     const T *const *ppSrc1, int src1Shift, int src1Width, int src1Height, const T *const *ppSrc2, int src2Shift, \
         int src2Width, int src2Height, T *const *ppDst, int dstShift
@@ -53,12 +48,33 @@ VORM_INLINE VormStatus mmCheckedP(MmLayerP<T>* kernel, MM_PARAMS_P(T))
 
 // Kernels. ----------------------------------------------------------------------------------------
 
+// A function of its own for each order, so that none pays for the registers and memory of another.
+template <class Kind, int n, Order order, class T>
+[[gnu::noinline]] VormStatus mmFixed(MM_PARAMS(T))
+{
+    products<T, n, order>(Kind::first(Matrix{pSrc1, src1Stride1, adjacent}),
+                          Kind::second(Matrix{pSrc2, src2Stride1, adjacent}), Matrix{pDst, dstStride1, adjacent}, 0, 1);
+    return StatusOk;
+}
+
+template <class Kind, Bodies bodies, class T>
+[[gnu::noinline]] VormStatus mmSquare(MM_PARAMS(T))
+{
+    constexpr auto six = bodies == Bodies::upTo5 ? Order::asInTiles : Order::leftToRight;
+    if (src1Width == 3) return mmFixed<Kind, 3, Order::leftToRight>(MM_ARGS);
+    if (src1Width == 4) return mmFixed<Kind, 4, Order::leftToRight>(MM_ARGS);
+    if (src1Width == 5) return mmFixed<Kind, 5, Order::leftToRight>(MM_ARGS);
+    return mmFixed<Kind, 6, six>(MM_ARGS);
+}
+
 template <class Kind, Bodies bodies = Bodies::upTo6, class T>
 VORM_INLINE VormStatus mmContiguous(MM_PARAMS(T))
 {
-    return contiguousProducts<Kind, bodies, T>(Matrix{pSrc1, src1Stride1, adjacent},
-                                               Matrix{pSrc2, src2Stride1, adjacent}, Matrix{pDst, dstStride1, adjacent},
-                                               Kind::lengths(src1Width, src1Height, src2Width, src2Height), 1);
+    const auto [m, n, k] = Kind::lengths(src1Width, src1Height, src2Width, src2Height);
+    int other = (m ^ k) | (n ^ k) | ((k - 3) & ~3);
+    __asm__("" : "+r"(other));  // opaque, as in Kind::fits
+    if (other != 0) return generalProduct<Kind>(MM_ARGS);
+    return mmSquare<Kind, bodies>(MM_ARGS);
 }
 
 template <class Kind, class T>
