@@ -293,29 +293,31 @@ struct Columns {
     }
 };
 
-// Four columns of floats. The first two products of a sum may change places: so two elements of the
-// vector are loaded twice over, 0 1 0 1, and exchanged, 1 0 1 0, where spreading them takes two shuffles.
-struct FourColumns {
-    Lanes<float> asLoaded, exchanged, third, fourth;
+// The first four rows of a matrix of floats. The first two products of a sum may change places: so two
+// elements of the vector are loaded twice over, 0 1 0 1, and exchanged, 1 0 1 0, where spreading them takes
+// two shuffles.
+template <int n>
+struct FourRows {
+    Lanes<float> columns[n];
     template <class A>
-    VORM_INLINE explicit FourColumns(const A& a)
+    VORM_INLINE explicit FourRows(const A& a)
     {
-        const auto column = [&](auto k) VORM_INLINE_LAMBDA {
-            return lanes<float>([&](int r) VORM_INLINE_LAMBDA { return float(a(0, r, k(r))); });
-        };
-        asLoaded = column([](int r) { return r % 2; }), exchanged = column([](int r) { return 1 - r % 2; });
-        third = column([](int) { return 2; }), fourth = column([](int) { return 3; });
+        for (int k = 0; k < n; ++k)
+            columns[k] = lanes<float>([&](int r) VORM_INLINE_LAMBDA { return float(a(0, r, k < 2 ? k ^ r % 2 : k)); });
     }
+    struct Vector {
+        Lanes<float> firstTwo, lastFour;
+        VORM_INLINE explicit Vector(const float* x) : firstTwo(loadTwice(x)), lastFour(Lanes<float>::load(x + n - 4)) {}
+    };
     template <Start start>
-    VORM_INLINE Lanes<float> times(const float* x) const
+    VORM_INLINE Lanes<float> times(const Vector& x) const
     {
-        const Lanes<float> low = loadTwice(x), high = loadTwice(x + 2);
-        const Lanes<float> other = _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(low.v), 0xB1));
-        Lanes<float> sum = asLoaded * low;
+        const Lanes<float> other = _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(x.firstTwo.v), 0xB1));
+        Lanes<float> sum = columns[0] * x.firstTwo;
         if constexpr (start == Start::zero) sum = Lanes<float>(0.0f) + sum;
-        sum = sum + exchanged * other;
-        sum = sum + third * splat<0>(high);
-        return sum + fourth * splat<1>(high);
+        sum = sum + columns[1] * other;
+        unrolled<n - 2>([&](auto k) VORM_INLINE_LAMBDA { sum = sum + columns[k + 2] * splat<k + 6 - n>(x.lastFour); });
+        return sum;
     }
 };
 
@@ -365,6 +367,38 @@ VORM_INLINE int packedThrees(const A& a, const float* x, float* y, int count)
     return object;
 }
 
+// Five rows of floats: the last one with four vectors at once, whose elements are picked from the
+// registers the other rows need them in.
+template <Start start, class A, class X, class D>
+VORM_INLINE int productsOfFive(const A& a, const X& x, const D& y, int count)
+{
+    const FourRows<5> four(a);
+    Lanes<float> last[5];
+    for (int k = 0; k < 5; ++k) last[k] = float(a(0, 4, k));
+    int object = 0;
+    for (; count - object >= 4; object += 4) {
+        const float* from[4];
+        float* to[4];
+        objectsAt(x, object, from), objectsAt(y, object, to);
+        // Elements 0 1 0 1 and 1 2 3 4 of each vector.
+        const FourRows<5>::Vector v0(from[0]), v1(from[1]), v2(from[2]), v3(from[3]);
+        const __m128 begin01 = _mm_unpacklo_ps(v0.firstTwo.v, v1.firstTwo.v),
+                     begin23 = _mm_unpacklo_ps(v2.firstTwo.v, v3.firstTwo.v),
+                     middle01 = _mm_shuffle_ps(v0.lastFour.v, v1.lastFour.v, 0x55),
+                     middle23 = _mm_shuffle_ps(v2.lastFour.v, v3.lastFour.v, 0x55),
+                     end01 = _mm_unpackhi_ps(v0.lastFour.v, v1.lastFour.v),
+                     end23 = _mm_unpackhi_ps(v2.lastFour.v, v3.lastFour.v);
+        const Lanes<float> elements[5] = {_mm_movelh_ps(begin01, begin23), _mm_movehl_ps(begin23, begin01),
+                                          _mm_shuffle_ps(middle01, middle23, 0x88), _mm_movelh_ps(end01, end23),
+                                          _mm_movehl_ps(end23, end01)};
+        four.times<start>(v0).store(to[0]), four.times<start>(v1).store(to[1]);
+        four.times<start>(v2).store(to[2]), four.times<start>(v3).store(to[3]);
+        const auto sums = leftToRight<5, start>([&](auto k) VORM_INLINE_LAMBDA { return last[k] * elements[k]; });
+        unrolled<4>([&](auto l) VORM_INLINE_LAMBDA { elementAt(to[l] + 4, 0) = lane<l>(sums); });
+    }
+    return object;
+}
+
 // Four objects at a time, element by element in registers of four.
 template <int n, Start start, class A, class X, class D>
 VORM_INLINE int productsOfFour(const A& a, const X& x, const D& y, int count)
@@ -400,12 +434,15 @@ VORM_INLINE bool isPackedArray(const View&, int)
 template <class T, int n, Start start, class A, class X, class D>
 requires(sizeof(T) == sizeof(float)) VORM_INLINE int productsOfCommon(const A& a, const X& x, const D& y, int count)
 {
-    if constexpr (n >= 5) {
+    if constexpr (n == 6) {
         return productsOfFour<n, start>(a, x, y, count);
+    } else if constexpr (n == 5) {
+        return productsOfFive<start>(a, x, y, count);
     } else if constexpr (n == 4) {
-        const FourColumns columns(a);
-        eachVector<4>(x, y, 0, count,
-                      [&](const T* from, T* to) VORM_INLINE_LAMBDA { columns.times<start>(from).store(to); });
+        const FourRows<4> rows(a);
+        eachVector<4>(x, y, 0, count, [&](const T* from, T* to) VORM_INLINE_LAMBDA {
+            rows.times<start>(FourRows<4>::Vector(from)).store(to);
+        });
         return count;
     } else {
         int object = 0;
