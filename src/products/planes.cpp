@@ -18,10 +18,21 @@ constexpr int tileColumns = n == 4   ? 4
                             : n == 5 ? 2
                                      : 3;
 
+// Covers n rows of one column. A tile of all rows reads every plane at once, which is best in a cache; no
+// memory follows so many streams, where one of two rows costs some loads more.
+template <class T, int n, class A, class B, class D>
+void coverColumn(const A& a, const B& b, const D& d, int steps, bool cached)
+{
+    if (cached || n == 3) return planeTile<T, n, n, 1>(a, b, d, steps);
+    for (int i = 0; i + 2 <= n; i += 2) planeTile<T, n, 2, 1>(a.from(i, 0), b, d.from(i, 0), steps);
+    if constexpr (n % 2 != 0) planeTile<T, n, 1, 1>(a.from(n - 1, 0), b, d.from(n - 1, 0), steps);
+}
+
 // Covers n rows and some columns with tiles of full size; what is left of the columns one by one.
 template <class T, int n, class A, class B, class D>
-void cover(const A& a, const B& b, const D& d, int columns, int steps)
+void cover(const A& a, const B& b, const D& d, int columns, int steps, bool cached)
 {
+    if (columns == 1) return coverColumn<T, n>(a, b, d, steps, cached);
     constexpr int rows = tileRows<n>, width = tileColumns<n>;
     int j = 0;
     for (; j + width <= columns; j += width)
@@ -69,13 +80,11 @@ public:
         : planes_(a.isCommon ? b : a), held_(a.isCommon ? a : b), d_(d), matrixIsHeld_(a.isCommon)
     {
     }
+    // With a matrix all rows at once, even where there are registers for some only: each plane is read once.
     void objects(std::ptrdiff_t begin, int steps) const
     {
-        constexpr int rows = n == 3 ? 3 : 2;  // as many as there are registers for
-        int i = 0;
-        if (matrixIsHeld_)
-            for (; i + rows <= n; i += rows) someRows<rows>(i, begin, steps);
-        for (; i < n; ++i) someRows<1>(i, begin, steps);
+        if (matrixIsHeld_) return someRows<n>(0, begin, steps);
+        for (int i = 0; i < n; ++i) someRows<1>(i, begin, steps);
     }
 
 private:
@@ -111,6 +120,7 @@ void products(const PlaneTable<const T>& a, const PlaneTable<const T>& b, const 
 {
     constexpr int width = Lanes<T>::width, registerBytes = 16;
     const int atOnce = objectsAtOnce<T>(run, count);
+    const bool cached = atOnce == count;
     const auto eachRound = [&](const auto& round) {
         for (std::ptrdiff_t first = 0; first < count; first += atOnce)
             round(first * int{sizeof(T)}, static_cast<int>(std::min<std::ptrdiff_t>(atOnce, count - first)) / width);
@@ -137,7 +147,7 @@ void products(const PlaneTable<const T>& a, const PlaneTable<const T>& b, const 
                 return EvenPlanes<const T>{spread.pointers()[0], breadth * registerBytes, registerBytes, 0};
             };
             cover<T, n>(source(a, distanceA, spreadA, n), source(b, distanceB, spreadB, columns), planes(d, distanceD),
-                        columns, steps);
+                        columns, steps, cached);
         } else {
             const auto planes = [&]<class Element>(const PlaneTable<Element>& table) {
                 return ListedPlanes<Element>{table.pp, table.row, table.column, table.shift + begin, registerBytes};
@@ -146,7 +156,7 @@ void products(const PlaneTable<const T>& a, const PlaneTable<const T>& b, const 
                 if (!table.isCommon) return planes(table);
                 return ListedPlanes<const T>{spread.pointers(), breadth, 1, 0, 0};
             };
-            cover<T, n>(source(a, spreadA, n), source(b, spreadB, columns), planes(d), columns, steps);
+            cover<T, n>(source(a, spreadA, n), source(b, spreadB, columns), planes(d), columns, steps, cached);
         }
     });
 }

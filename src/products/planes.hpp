@@ -17,7 +17,7 @@ template <class T>
 VORM_INLINE int objectsAtOnce(Run run, int count)
 {
     constexpr int e = sizeof(T);
-    return run == Run::whole ? count : std::min(count, (run == Run::vectors ? 16384 : 2048) / e);
+    return run == Run::whole ? count : std::min(count, (run == Run::vectors ? 32768 : 2048) / e);
 }
 
 // Whether the planes of D that are written at once lie apart.
