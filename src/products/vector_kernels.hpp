@@ -29,7 +29,7 @@ template <class Form, class T, class A, class X, class D>
 VORM_INLINE VormStatus contiguousProduct(const A& src1, const X& x, const D& y, int width, int height)
 {
     const bool done = withOrder(width, height, [&](auto n) VORM_INLINE_LAMBDA {
-        productsByObject<T, n, Start::firstProduct>(Form::used(src1), x, y, 1);
+        productsByObject<T, n, Start::firstProduct>(Form::used(src1), x, y, 0, 1);
     });
     if (done) return StatusOk;
     if constexpr (Form::isTurned)
