@@ -25,7 +25,7 @@ TEST(VectorSums, EveryPlacement)
                     c.src1.padObject = c.src2.padObject = c.dst.padObject = c.src1.slot = c.src2.slot = c.dst.slot = 0;
                 if (chance(random, 20)) c.src1.slot = c.src2.slot = c.dst.slot = 16;
                 c.src1.overlapping = chance(random, 5);  // sources may overlap as they like
-                c.inPlace = chance(random, 20) && !c.src1.overlapping;
+                c.inPlace = chance(random, 20) && c.src1.overlapping == 0;
                 checkCaseOfType(f, c, random);
                 ++placements;
                 if (HasFatalFailure()) FAIL() << "seed " << seed << ", placement " << placements;
@@ -45,7 +45,7 @@ TEST(VectorSums, OverlappingDestinationsInAscendingOrder)
             for (int planes : {0, 1}) {
                 Case c{.len = len, .count = 11};
                 c.dst = {.padObject = -pick(random, 1, 10), .planes = planes == 1};  // planes that share memory
-                c.dst.overlapping = !c.dst.planes;
+                c.dst.overlapping = c.dst.planes ? 0 : pick(random, 1, 3);
                 if (f.layout != "P") c.dst.padObject = 0;
                 c.src1.planes = c.src2.planes = c.dst.planes;
                 checkCaseOfType(f, c, random);

@@ -99,7 +99,7 @@ struct Lie {
     int padRow = 0, padObject = 0, slot = 0;  // elements behind rows and objects; objects at multiples of slot bytes
     bool planes = false;                      // pointer layout: a plane for each element, objects side by side
     bool shuffled = false;                    // the order of the list's objects or of the table's planes
-    bool overlapping = false;                 // objects one element apart
+    int overlapping = 0;                      // objects so few elements apart, 0 for a place of their own
     bool atFront = false;                     // against the page before
     int misaligned = 0;                       // bytes between the operand and its page
     int shift = 0;
@@ -134,7 +134,7 @@ Placed<T> place(Random& random, const Lie& lie, std::shared_ptr<Room> room = nul
     objectBytes += e * lie.padObject;
     if (lie.slot) objectBytes = (objectBytes + lie.slot - 1) / lie.slot * lie.slot;
     const bool planes = lie.layout == "P" && lie.planes && lie.count > 0;
-    p.stride0 = planes || lie.overlapping ? int(e) : int(objectBytes);
+    p.stride0 = planes ? int(e) : lie.overlapping ? int(e) * lie.overlapping : int(objectBytes);
     p.shift = lie.shift;
 
     std::vector<int> order(std::size_t(planes ? stored : objects));

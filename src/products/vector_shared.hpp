@@ -148,10 +148,13 @@ VORM_INLINE int productsOfFive(const A& a, const X& x, const D& y, int count)
         const Lanes<float> elements[5] = {_mm_movelh_ps(begin01, begin23), _mm_movehl_ps(begin23, begin01),
                                           _mm_shuffle_ps(middle01, middle23, 0x88), _mm_movelh_ps(end01, end23),
                                           _mm_movehl_ps(end23, end01)};
-        four.times<start>(v0).store(to[0]), four.times<start>(v1).store(to[1]);
-        four.times<start>(v2).store(to[2]), four.times<start>(v3).store(to[3]);
         const auto sums = leftToRight<5, start>([&](auto k) VORM_INLINE_LAMBDA { return last[k] * elements[k]; });
-        unrolled<4>([&](auto l) VORM_INLINE_LAMBDA { elementAt(to[l] + 4, 0) = lane<l>(sums); });
+        const auto store = [&](const auto& v, auto l) VORM_INLINE_LAMBDA {
+            four.times<start>(v).store(to[l]);
+            elementAt(to[l] + 4, 0) = lane<l>(sums);
+        };
+        store(v0, std::integral_constant<int, 0>{}), store(v1, std::integral_constant<int, 1>{});
+        store(v2, std::integral_constant<int, 2>{}), store(v3, std::integral_constant<int, 3>{});
     }
     return object;
 }
