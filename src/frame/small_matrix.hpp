@@ -55,20 +55,27 @@ struct SmallMatrix {
         }
     }
 
+    // Part p of some rows of a transposed matrix, a register of them: from row width * across on.
+    template <int p, int across, class Stored>
+    VORM_INLINE static void loadBlock(const Transposed<Stored>& view, int object, Lanes<T> (&rows)[width])
+    {
+        if constexpr (across == full && rest == 1) {
+            rows[0] = load<n - 1, p>(view, object);
+        } else {
+            unrolled<width>([&](auto l)
+                                VORM_INLINE_LAMBDA { rows[l] = load<column(p, l), across>(view.stored, object); });
+            transpose(rows);
+        }
+    }
+
     // Part p of all rows.
     template <int p, class View>
     VORM_INLINE static void loadAll(const View& view, int object, Lanes<T> (&rows)[n])
     {
         if constexpr (isTransposed<View>) {
             unrolled<parts>([&](auto across) VORM_INLINE_LAMBDA {
-                if constexpr (across == full && rest == 1) {
-                    rows[n - 1] = load<n - 1, p>(view, object);
-                    return;
-                }
                 Lanes<T> block[width];
-                unrolled<width>([&](auto l)
-                                    VORM_INLINE_LAMBDA { block[l] = load<column(p, l), across>(view.stored, object); });
-                transpose(block);
+                loadBlock<p, across>(view, object, block);
                 for (int l = 0; l < width && width * across + l < n; ++l) rows[width * across + l] = block[l];
             });
         } else {

@@ -81,25 +81,25 @@ struct FactorsInRows {
 template <int n, class Stored>
 struct FactorsInColumns {
     using Small = SmallMatrix<float, n>;
-    Lanes<float> columns[Small::parts][n];
-    VORM_INLINE FactorsInColumns(const Stored& stored, int object)
-    {
-        unrolled<Small::parts>([&](auto p)
-                                   VORM_INLINE_LAMBDA { Small::template loadAll<p>(stored, object, columns[p]); });
-    }
+    const Stored& stored;
+    int object;
 
     template <int i, int k>
     VORM_INLINE Lanes<float> get() const
     {
-        return splat<i % 4>(columns[i / 4][k]);
+        if constexpr (i / 4 == Small::full && Small::rest == 1)
+            return float(stored(object, k, i));
+        else
+            return splat<i % 4>(Small::template load<k, i / 4>(stored, object));
     }
     template <int g, int k>
     VORM_INLINE Lanes<float> group() const
     {
+        const auto column = Small::template load<k, g * groupRows<float, n> / 4>(stored, object);
         if constexpr (Small::rest == 1)
-            return columns[g][k];
+            return column;
         else
-            return _mm_shuffle_ps(columns[g / 2][k].v, columns[g / 2][k].v, g % 2 ? 0xFA : 0x50);
+            return _mm_shuffle_ps(column.v, column.v, g % 2 ? 0xFA : 0x50);
     }
 };
 
@@ -134,6 +134,7 @@ struct FactorsPrepared {
 
 template <class T, int n, class View>
 struct Factors {
+    static constexpr bool isCommon = false;
     View view;
     VORM_INLINE auto operator()(int object) const
     {
@@ -146,127 +147,172 @@ struct Factors {
 template <int n, class Stored>
 requires adjacentRows<Stored>
 struct Factors<float, n, Transposed<Stored>> {
+    static constexpr bool isCommon = false;
     Transposed<Stored> view;
-    VORM_INLINE auto operator()(int object) const { return FactorsInColumns<n, Stored>(view.stored, object); }
+    VORM_INLINE auto operator()(int object) const { return FactorsInColumns<n, Stored>{view.stored, object}; }
 };
 template <class T, int n, class View>
 struct CommonFactors {
+    static constexpr bool isCommon = true;
     View view;
     FactorsPrepared<T, n> prepared;
     VORM_INLINE explicit CommonFactors(const View& view_) : view(view_), prepared(view_) {}
     VORM_INLINE const FactorsPrepared<T, n>& operator()(int) const { return prepared; }
 };
 
-// Parts of the rows of B: v[p][k] is part p of row k.
-template <class T, int n>
-struct RowParts {
-    static constexpr int parts = SmallMatrix<T, n>::parts;
-    Lanes<T> v[parts][n];
-    template <int from, int to, class View>
-    VORM_INLINE static RowParts load(const View& view, int object)
+// The rows of B: get<p, k> is part p of row k. Those of a transposed matrix are made several at a time,
+// when the first of them is asked for.
+template <class T, int n, class View>
+struct RowsOfObject {
+    using Small = SmallMatrix<T, n>;
+    const View& view;
+    int object;
+    Lanes<T> block[Small::parts][Small::width];
+
+    template <int p, int k>
+    VORM_INLINE Lanes<T> get()
     {
-        RowParts rows;
-        unrolled<to - from>([&](auto p) VORM_INLINE_LAMBDA {
-            SmallMatrix<T, n>::template loadAll<from + p>(view, object, rows.v[from + p]);
-        });
-        return rows;
+        if constexpr (isTransposed<View>) {
+            if constexpr (k % Small::width == 0) Small::template loadBlock<p, k / Small::width>(view, object, block[p]);
+            return block[p][k % Small::width];
+        } else {
+            return Small::template load<k, p>(view, object);
+        }
     }
 };
 template <class T, int n, class View>
 struct Rows {
+    static constexpr bool isCommon = false;
     View view;
-    template <int from, int to>
-    VORM_INLINE RowParts<T, n> load(int object) const
-    {
-        return RowParts<T, n>::template load<from, to>(view, object);
-    }
+    VORM_INLINE RowsOfObject<T, n, View> operator()(int object) const { return {view, object, {}}; }
 };
 template <class T, int n, class View>
 struct CommonRows {
+    static constexpr bool isCommon = true;
     View view;
-    RowParts<T, n> all;
-    VORM_INLINE explicit CommonRows(const View& view_)
-        : view(view_), all(RowParts<T, n>::template load<0, RowParts<T, n>::parts>(view, 0))
+    Lanes<T> v[SmallMatrix<T, n>::parts][n];
+    VORM_INLINE explicit CommonRows(const View& view_) : view(view_)
     {
+        unrolled<SmallMatrix<T, n>::parts>(
+            [&](auto p) VORM_INLINE_LAMBDA { SmallMatrix<T, n>::template loadAll<p>(view, 0, v[p]); });
     }
-    template <int, int>
-    VORM_INLINE const RowParts<T, n>& load(int) const
+    VORM_INLINE const CommonRows& operator()(int) const { return *this; }
+    template <int p, int k>
+    VORM_INLINE Lanes<T> get() const
     {
-        return all;
+        return v[p][k];
     }
 };
 
 // ------------------------------------------------------------------------------------------------------
 
-// The sum of term(0) to term(n - 1) for an element in row i.
-template <Order order, int n, int i, class Term>
-VORM_INLINE auto sumOf(const Term& term)
-{
-    using Number = decltype(term(std::integral_constant<int, 0>{}));
-    constexpr bool evenAndOdd = order == Order::asInTiles && i >= (n & ~3) && n % 4 != 3;
-    Number sum[2];
-    unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
-        if constexpr (evenAndOdd && n % 2 != 0 && k == n - 1) sum[0] = sum[0] + sum[1];
-        constexpr int s = evenAndOdd && (n % 2 == 0 || k < n - 1) ? k % 2 : 0;
-        if constexpr (k > (evenAndOdd ? 1 : 0))
-            sum[s] = sum[s] + term(k);
-        else if constexpr (order == Order::asInTiles)
-            sum[s] = Number{} + term(k);
-        else
-            sum[s] = term(k);
-    });
-    if constexpr (evenAndOdd && n % 2 == 0) sum[0] = sum[0] + sum[1];
-    return sum[0];
-}
+VORM_INLINE void pin(Lanes<float>& a) { __asm__("" : "+x"(a.v)); }
+VORM_INLINE void pin(Lanes<double>& a) { __asm__("" : "+x"(a.v)); }
+VORM_INLINE void pin(float& a) { __asm__("" : "+x"(a)); }
+VORM_INLINE void pin(double& a) { __asm__("" : "+x"(a)); }
 
-// The parts of a row, as one number.
-template <class T, int count>
-struct Parts {
-    Lanes<T> v[count];
-    VORM_INLINE friend Parts operator+(Parts a, const Parts& b)
+// The sums of a tile grow side by side, so that no addition waits for the one before it. g++ would rather
+// add up one after the other and spill the rest, which does no harm where everything fits.
+template <class T, int n, bool commonA>
+constexpr bool pinnedSums = sizeof(T) == sizeof(double) || n > 4 || !commonA;
+template <class Number, int n, Order order, int row, int count, bool pinned>
+struct Sums {
+    static constexpr bool fromZero = order == Order::asInTiles;
+    static constexpr int each = fromZero && row >= (n & ~3) && n % 4 != 3 ? 2 : 1;
+    static_assert(each == 1 || n % 2 == 0);
+    Number v[each][std::max(count, 1)];
+    template <int k>
+    VORM_INLINE void add(int s, Number term)
     {
-        for (int p = 0; p < count; ++p) a.v[p] = a.v[p] + b.v[p];
-        return a;
+        Number& sum = v[k % each][s];
+        sum = k >= each ? sum + term : fromZero ? Number(0) + term : term;
+        if constexpr (pinned) pin(sum);
     }
+    VORM_INLINE Number total(int s) const { return each == 1 ? v[0][s] : v[0][s] + v[each - 1][s]; }
 };
 
-template <class T, int n, Order order, bool commonA, class A, class B, class D>
+// Some rows of D from row on, some parts of them.
+template <class T, int n, Order order, int row, int rows, int part, int parts, class A, class B, class D>
+VORM_INLINE void tile(const A& factors, const B& rowsOfB, const D& dst, int object)
+{
+    using Small = SmallMatrix<T, n>;
+    constexpr bool hasSingles = Small::rest == 1 && part + parts > Small::full;  // one number each
+    constexpr int whole = parts - hasSingles;
+    const auto& a = factors(object);
+    auto&& b = rowsOfB(object);
+    constexpr bool pinned = pinnedSums<T, n, A::isCommon>;
+    Sums<Lanes<T>, n, order, row, rows * whole, pinned> sums;
+    Sums<T, n, order, row, hasSingles ? rows : 0, pinned> singles;
+    unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
+        Lanes<T> ofB[parts];
+        unrolled<parts>([&](auto p) VORM_INLINE_LAMBDA { ofB[p] = b.template get<part + p, k>(); });
+        unrolled<rows>([&](auto i) VORM_INLINE_LAMBDA {
+            const Lanes<T> factor = a.template get<row + i, k>();
+            for (int p = 0; p < whole; ++p) sums.template add<k>(i * whole + p, factor * ofB[p]);
+            if constexpr (hasSingles) singles.template add<k>(i, firstLane(factor) * firstLane(ofB[whole]));
+        });
+    });
+    unrolled<rows>([&](auto i) VORM_INLINE_LAMBDA {
+        unrolled<whole>([&](auto p) VORM_INLINE_LAMBDA {
+            Small::template store<row + i, part + p>(dst, object, sums.total(i * whole + p));
+        });
+        if constexpr (hasSingles) dst(object, row + i, n - 1) = singles.total(i);
+    });
+}
+
+// Some groups of rests.
+template <class T, int n, Order order, int group, int count, class A, class B, class D>
+VORM_INLINE void groupTile(const A& factors, const B& rowsOfB, const D& dst, int object)
+{
+    using Small = SmallMatrix<T, n>;
+    constexpr int row = group * groupRows<T, n>;
+    const auto& a = factors(object);
+    auto&& b = rowsOfB(object);
+    Sums<Lanes<T>, n, order, row, count, pinnedSums<T, n, A::isCommon>> sums;
+    unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
+        const Lanes<T> ofB = b.template get<Small::full, k>();
+        unrolled<count>([&](auto g)
+                            VORM_INLINE_LAMBDA { sums.template add<k>(g, a.template group<group + g, k>() * ofB); });
+    });
+    unrolled<count * groupRows<T, n>>([&](auto i) VORM_INLINE_LAMBDA {
+        const auto rests = sums.total(i / groupRows<T, n>);
+        Small::template store<row + i, Small::full>(dst, object, Small::template restOf<i % groupRows<T, n>>(rests));
+    });
+}
+
+// The fastest tiles: so many rows and parts, with room for some operands beside the sums.
+template <class T, int n, bool commonB>
+constexpr int tileRows = sizeof(T) == sizeof(float) ? n
+                         : n == 6                   ? 3
+                         : n == 5 && commonB        ? 2
+                                                    : n;
+template <class T, int n, bool commonA>
+constexpr int tileParts = sizeof(T) == sizeof(float) ? 1
+                          : n == 6                   ? 3
+                          : commonA                  ? 1
+                                                     : 2;
+
+template <class T, int n, Order order, class A, class B, class D>
 VORM_INLINE void product(const A& factors, const B& rows, const D& dst, int object)
 {
     using Small = SmallMatrix<T, n>;
-    constexpr int full = Small::full, parts = grouped<T, n, commonA> ? full : Small::parts;
-    // Five rows of doubles are too many for the registers as a whole, and better held without the rests.
-    constexpr int atOnce = full > 1 && Small::rest ? full : parts;
-    unrolled<(parts + atOnce - 1) / atOnce>([&](auto stage) VORM_INLINE_LAMBDA {
-        constexpr int from = stage * atOnce, to = std::min(from + atOnce, parts);
-        const auto& a = factors(object);
-        const auto& b = rows.template load<from, to>(object);
-        unrolled<n>([&](auto i) VORM_INLINE_LAMBDA {
-            const auto row = sumOf<order, n, i>([&](auto k) VORM_INLINE_LAMBDA {
-                const Lanes<T> factor = a.template get<i, k>();
-                Parts<T, to - from> term;
-                for (int p = from; p < to; ++p) term.v[p - from] = factor * b.v[p][k];
-                return term;
-            });
-            unrolled<to - from>([&](auto p)
-                                    VORM_INLINE_LAMBDA { Small::template store<i, from + p>(dst, object, row.v[p]); });
+    constexpr int inGroups = groups<T, n, A::isCommon>, parts = inGroups != 0 ? Small::full : Small::parts;
+    // The rows behind a multiple of four have an order of their own in tiles of the general path.
+    constexpr int height = order == Order::asInTiles ? 4 : tileRows<T, n, B::isCommon>,
+                  breadth = tileParts<T, n, A::isCommon>;
+    unrolled<(parts + breadth - 1) / breadth>([&](auto across) VORM_INLINE_LAMBDA {
+        constexpr int p = across * breadth;
+        unrolled<(n + height - 1) / height>([&](auto down) VORM_INLINE_LAMBDA {
+            constexpr int i = down * height;
+            tile<T, n, order, i, std::min(height, n - i), p, std::min(breadth, parts - p)>(factors, rows, dst, object);
         });
     });
-    if constexpr (grouped<T, n, commonA> != 0) {
-        const auto& a = factors(object);
-        const auto& b = rows.template load<full, full + 1>(object);
-        unrolled<groups<T, n, commonA>>([&](auto g) VORM_INLINE_LAMBDA {
-            constexpr int first = g * groupRows<T, n>;
-            const auto rests = sumOf<order, n, first>(
-                [&](auto k) VORM_INLINE_LAMBDA { return a.template group<g, k>() * b.v[full][k]; });
-            unrolled<groupRows<T, n>>([&](auto i) VORM_INLINE_LAMBDA {
-                Small::template store<first + i, full>(dst, object, Small::template restOf<i>(rests));
-            });
-        });
-        if constexpr (groups<T, n, commonA> * groupRows<T, n> < n)
-            dst(object, n - 1, n - 1) = sumOf<order, n, n - 1>([&](auto k) VORM_INLINE_LAMBDA {
-                return T(factors.view(object, n - 1, k)) * T(rows.view(object, k, n - 1));
-            });
+    if constexpr (inGroups != 0) {
+        constexpr int first = order == Order::asInTiles ? 4 / groupRows<T, n> : inGroups;
+        groupTile<T, n, order, 0, first>(factors, rows, dst, object);
+        groupTile<T, n, order, first, inGroups - first>(factors, rows, dst, object);
+        if constexpr (inGroups * groupRows<T, n> < n)
+            tile<T, n, order, n - 1, 1, Small::full, 1>(factors, rows, dst, object);
     }
 }
 
@@ -275,7 +321,7 @@ VORM_INLINE void products(const A& a, const B& b, const D& dst, int first, int e
 {
     const std::conditional_t<A::isCommon, CommonFactors<T, n, A>, Factors<T, n, A>> factors{a};
     const std::conditional_t<B::isCommon, CommonRows<T, n, B>, Rows<T, n, B>> rows{b};
-    for (int object = first; object < end; ++object) product<T, n, order, A::isCommon>(factors, rows, dst, object);
+    for (int object = first; object < end; ++object) product<T, n, order>(factors, rows, dst, object);
 }
 
 }  // namespace vorm

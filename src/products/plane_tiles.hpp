@@ -9,12 +9,12 @@
 
 namespace vorm {
 
-// Planes that lie at even distances, in bytes. Step is the distance to the next objects.
+// Planes that lie at even distances, in bytes.
 template <class T>
 struct EvenPlanes {
     T* p;
-    std::ptrdiff_t row, column, step;
-    EvenPlanes from(int r, int c) const { return {advance(p, r * row + c * column), row, column, step}; }
+    std::ptrdiff_t row, column;
+    EvenPlanes from(int r, int c) const { return {advance(p, r * row + c * column), row, column}; }
 };
 
 // Planes anywhere: a table of pointers, and how far behind them the elements lie, in bytes.
@@ -22,9 +22,9 @@ template <class T>
 struct ListedPlanes {
     T* const* pp;
     std::ptrdiff_t row, column;  // in the table
-    std::ptrdiff_t shift, step;
+    std::ptrdiff_t shift;
     T* at(int r, int c) const { return advance(pp[r * row + c * column], shift); }
-    ListedPlanes from(int r, int c) const { return {pp + r * row + c * column, row, column, shift, step}; }
+    ListedPlanes from(int r, int c) const { return {pp + r * row + c * column, row, column, shift}; }
 };
 
 // sums = sums + one term each, or the first term.
@@ -62,7 +62,7 @@ template <class T, int terms, int rows, int columns>
             ofD = advance(ofD, d.row);
             __asm__("" : "+r"(ofD));
         }
-        a.p = advance(a.p, a.step), b.p = advance(b.p, b.step), d.p = advance(d.p, d.step);
+        a.p = advance(a.p, 16), b.p = advance(b.p, 16), d.p = advance(d.p, 16);
     }
 }
 
@@ -78,25 +78,27 @@ template <class T, int terms, int rows, int columns>
     }
     for (int i = 0; i < rows; ++i)
         for (int j = 0; j < columns; ++j) ofD[i][j] = d.at(i, j);
-    for (std::ptrdiff_t step = 0; step < steps; ++step) {
+    const std::ptrdiff_t end = steps * std::ptrdiff_t{16};
+    for (std::ptrdiff_t at = 0; at < end; at += 16) {
         Lanes<T> sums[rows][columns];
         unrolled<terms>([&](auto k) VORM_INLINE_LAMBDA {
             addTerms<k == 0>(
-                sums, [&](int i) VORM_INLINE_LAMBDA { return advance(ofA[i][k], step * a.step); },
-                [&](int j) VORM_INLINE_LAMBDA { return advance(ofB[k][j], step * b.step); });
+                sums, [&](int i) VORM_INLINE_LAMBDA { return advance(ofA[i][k], at); },
+                [&](int j) VORM_INLINE_LAMBDA { return advance(ofB[k][j], at); });
         });
         for (int i = 0; i < rows; ++i)
-            for (int j = 0; j < columns; ++j) sums[i][j].store(advance(ofD[i][j], step * d.step));
+            for (int j = 0; j < columns; ++j) sums[i][j].store(advance(ofD[i][j], at));
     }
 }
 
 // d(i) is the sum over k of held(i, k) times plane k, for some rows i: what all objects share stays in
-// registers, and so do the few addresses.
+// registers as far as they suffice, and so do the few addresses. The rest is operands in memory that are
+// aligned, as the planes are not: no loads of their own.
 template <class T, int terms, int rows>
-[[gnu::noinline]] void heldTile(const Lanes<T> (&held)[rows][terms], const T* const (&planes)[terms],
-                                T* const (&d)[rows], int steps)
+[[gnu::noinline]] void heldTile(const Lanes<T> (*held)[terms], const T* const (&planes)[terms], T* const (&d)[rows],
+                                int steps)
 {
-    // In locals, since for all a compiler knows a store might change what the references refer to.
+    // In locals, since for all a compiler knows a store might change what the pointers refer to.
     Lanes<T> factors[rows][terms];
     const T* from[terms];
     T* to[rows];

@@ -40,27 +40,6 @@ void cover(const A& a, const B& b, const D& d, int columns, int steps, bool cach
     for (; j < columns; ++j) planeTile<T, n, n, 1>(a, b.from(0, j), d.from(0, j), steps);
 }
 
-// The elements of an operand that all objects share, each in all lanes of a register.
-template <class T, int n>
-class Spread {
-public:
-    Spread(const PlaneTable<const T>& table, int columns)
-    {
-        if (!table.isCommon) return;
-        for (int r = 0; r < n; ++r)
-            for (int c = 0; c < columns; ++c) {
-                const T* const p = advance(table.pp[r * table.row + c * table.column], table.shift);
-                Lanes<T>(elementAt(p, 0)).store(elements_[r * columns + c]);
-                pointers_[r * columns + c] = elements_[r * columns + c];
-            }
-    }
-    const T* const* pointers() const { return pointers_; }
-
-private:
-    T elements_[n * n][Lanes<T>::width];
-    const T* pointers_[n * n];
-};
-
 // The distance from one pointer of a table to the next, if it is the same for all: bytes.
 template <class T>
 bool evenDistance(const PlaneTable<T>& table, int elements, std::ptrdiff_t& distance)
@@ -72,91 +51,92 @@ bool evenDistance(const PlaneTable<T>& table, int elements, std::ptrdiff_t& dist
     return true;
 }
 
-// One matrix for all vectors, or one vector for all matrices.
+// Products where all objects share an operand, some lines of which stay in registers: rows of A or columns
+// of B. Each line of the other operand, a column or a row, meets all of them while it is in the cache.
 template <class T, int n>
 class HeldProduct {
 public:
-    HeldProduct(const PlaneTable<const T>& a, const PlaneTable<const T>& b, const PlaneTable<T>& d)
-        : planes_(a.isCommon ? b : a), held_(a.isCommon ? a : b), d_(d), matrixIsHeld_(a.isCommon)
+    HeldProduct(const PlaneTable<const T>& a, const PlaneTable<const T>& b, const PlaneTable<T>& d, int columns)
+        : planes_(a.isCommon ? transposed(b) : a),
+          d_(a.isCommon ? d : transposed(d)),
+          heldLines_(a.isCommon ? n : columns),
+          lines_(a.isCommon ? columns : n)
     {
+        const PlaneTable<const T> held = a.isCommon ? a : transposed(b);
+        for (int i = 0; i < heldLines_; ++i)
+            for (int k = 0; k < n; ++k) held_[i][k] = T(elementAt(address(held, i, k, 0), 0));
     }
-    // With a matrix all rows at once, even where there are registers for some only: each plane is read once.
     void objects(std::ptrdiff_t begin, int steps) const
     {
-        if (matrixIsHeld_) return someRows<n>(0, begin, steps);
-        for (int i = 0; i < n; ++i) someRows<1>(i, begin, steps);
+        constexpr int atOnce = n < 6 ? n : 3;
+        if (lines_ == 1 && heldLines_ == n) return someLines<n>(0, 0, begin, steps);  // reads each plane once
+        for (int j = 0; j < lines_; ++j) {
+            int i = 0;
+            for (; i + atOnce <= heldLines_; i += atOnce) someLines<atOnce>(i, j, begin, steps);
+            for (; i < heldLines_; ++i) someLines<1>(i, j, begin, steps);
+        }
     }
 
 private:
-    template <int rows>
-    void someRows(int i, std::ptrdiff_t begin, int steps) const
+    template <class Element>
+    static PlaneTable<Element> transposed(PlaneTable<Element> table)
     {
-        Lanes<T> held[rows][n];
-        const T* planes[n];
-        T* d[rows];
-        for (int k = 0; k < n; ++k) {
-            planes[k] = address(planes_, matrixIsHeld_ ? 0 : i, k, begin);
-            for (int r = 0; r < rows; ++r)
-                held[r][k] = T(elementAt(address(held_, matrixIsHeld_ ? i + r : 0, k, 0), 0));
-        }
-        for (int r = 0; r < rows; ++r) d[r] = address(d_, 0, i + r, begin);
-        heldTile<T, n, rows>(held, planes, d, steps);
+        std::swap(table.row, table.column);
+        return table;
     }
-    // Element (r, c) of a matrix, element c of a vector.
+    template <int some>
+    void someLines(int i, int j, std::ptrdiff_t begin, int steps) const
+    {
+        const T* planes[n];
+        T* d[some];
+        for (int k = 0; k < n; ++k) planes[k] = address(planes_, j, k, begin);
+        for (int r = 0; r < some; ++r) d[r] = address(d_, i + r, j, begin);
+        heldTile<T, n, some>(&held_[i], planes, d, steps);
+    }
     template <class Element>
     static Element* address(const PlaneTable<Element>& table, int r, int c, std::ptrdiff_t begin)
     {
-        return advance(table.pp[table.column == 0 ? c : r * table.row + c * table.column], table.shift + begin);
+        return advance(table.pp[r * table.row + c * table.column], table.shift + begin);
     }
 
-    const PlaneTable<const T>&planes_, &held_;
-    const PlaneTable<T>& d_;
-    bool matrixIsHeld_;
+    Lanes<T> held_[n][n];
+    PlaneTable<const T> planes_;
+    PlaneTable<T> d_;
+    int heldLines_, lines_;
 };
 
 template <class T, int n>
 void products(const PlaneTable<const T>& a, const PlaneTable<const T>& b, const PlaneTable<T>& d, int columns, Run run,
               int count)
 {
-    constexpr int width = Lanes<T>::width, registerBytes = 16;
+    constexpr int width = Lanes<T>::width;
     const int atOnce = objectsAtOnce<T>(run, count);
     const bool cached = atOnce == count;
     const auto eachRound = [&](const auto& round) {
         for (std::ptrdiff_t first = 0; first < count; first += atOnce)
             round(first * int{sizeof(T)}, static_cast<int>(std::min<std::ptrdiff_t>(atOnce, count - first)) / width);
     };
-    if (columns == 1 && (a.isCommon || b.isCommon)) {
-        const HeldProduct<T, n> product(a, b, d);
+    if (a.isCommon || b.isCommon) {
+        const HeldProduct<T, n> product(a, b, d, columns);
         eachRound([&](std::ptrdiff_t begin, int steps) { product.objects(begin, steps); });
         return;
     }
 
-    const Spread<T, n> spreadA(a, n), spreadB(b, columns);
-    std::ptrdiff_t distanceA = registerBytes, distanceB = registerBytes, distanceD;
-    bool even = evenDistance(d, n * columns, distanceD);
-    if (!a.isCommon) even = even && evenDistance(a, n * n, distanceA);
-    if (!b.isCommon) even = even && evenDistance(b, n * columns, distanceB);
+    std::ptrdiff_t distanceA, distanceB, distanceD;
+    const bool even = evenDistance(a, n * n, distanceA) && evenDistance(b, n * columns, distanceB) &&
+                      evenDistance(d, n * columns, distanceD);
     eachRound([&](std::ptrdiff_t begin, int steps) {
         if (even) {
             const auto planes = [&]<class Element>(const PlaneTable<Element>& table, std::ptrdiff_t distance) {
                 return EvenPlanes<Element>{advance(table.pp[0], table.shift + begin), distance * table.row,
-                                           distance * table.column, registerBytes};
+                                           distance * table.column};
             };
-            const auto source = [&](const auto& table, std::ptrdiff_t distance, const auto& spread, int breadth) {
-                if (!table.isCommon) return planes(table, distance);
-                return EvenPlanes<const T>{spread.pointers()[0], breadth * registerBytes, registerBytes, 0};
-            };
-            cover<T, n>(source(a, distanceA, spreadA, n), source(b, distanceB, spreadB, columns), planes(d, distanceD),
-                        columns, steps, cached);
+            cover<T, n>(planes(a, distanceA), planes(b, distanceB), planes(d, distanceD), columns, steps, cached);
         } else {
             const auto planes = [&]<class Element>(const PlaneTable<Element>& table) {
-                return ListedPlanes<Element>{table.pp, table.row, table.column, table.shift + begin, registerBytes};
+                return ListedPlanes<Element>{table.pp, table.row, table.column, table.shift + begin};
             };
-            const auto source = [&](const auto& table, const auto& spread, int breadth) {
-                if (!table.isCommon) return planes(table);
-                return ListedPlanes<const T>{spread.pointers(), breadth, 1, 0, 0};
-            };
-            cover<T, n>(source(a, spreadA, n), source(b, spreadB, columns), planes(d), columns, steps, cached);
+            cover<T, n>(planes(a), planes(b), planes(d), columns, steps, cached);
         }
     });
 }

@@ -12,16 +12,12 @@ VormStatus n8_vormMul_mm4x4_32f(const float* pSrc1, const float* pSrc2, float* p
 {
     if (anyNull(pSrc1, pSrc2, pDst)) return StatusNullPointer;
 
-    // Both operands are in registers before the first store: the destination may overlap them.
+    // All of a tile is read before its first store: the destination may overlap the operands.
     constexpr int stride1 = 4 * sizeof(float);
-    const CommonRows<float, 4, Matrix<const float, Adjacent>> a({pSrc1, stride1, adjacent});
-    const CommonRows<float, 4, Matrix<const float, Adjacent>> b({pSrc2, stride1, adjacent});
-    const Matrix dst{pDst, stride1, adjacent};
-    unrolled<4>([&](auto i) VORM_INLINE_LAMBDA {
-        SmallMatrix<float, 4>::store<i, 0>(dst, 0, sumOf<Order::leftToRight, 4, i>([&](auto k) VORM_INLINE_LAMBDA {
-                                               return splat<k>(a.all.v[0][i]) * b.all.v[0][k];
-                                           }));
-    });
+    using Operand = Matrix<const float, Adjacent>;
+    const Factors<float, 4, Operand> a{{pSrc1, stride1, adjacent}};
+    const Rows<float, 4, Operand> b{{pSrc2, stride1, adjacent}};
+    tile<float, 4, Order::leftToRight, 0, 4, 0, 1>(a, b, Matrix{pDst, stride1, adjacent}, 0);
     return StatusOk;
 }
 }
