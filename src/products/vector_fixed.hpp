@@ -112,8 +112,8 @@ VORM_INLINE void productsByObject(const Transposed<Stored>& a, const X& x, const
         weightedRows<T, n, start>(a.stored.object(object), a.stored.stride1, vectors(object), y.object(object));
 }
 
-// Packed matrices of an odd order and one vector: rows that follow one another, of whichever matrices, fill
-// whole registers. Each register of elements holds the same one of as many rows as there are lanes.
+// Packed matrices of an odd order: rows that follow one another, of whichever matrices, fill whole registers.
+// Each register of elements holds the same one of as many rows as there are lanes.
 VORM_INLINE void loadConsecutiveRows(const float* p, Lanes<float> (&elements)[3])
 {
     const __m128 r0 = _mm_loadu_ps(p), r1 = _mm_loadu_ps(p + 4), r2 = _mm_loadu_ps(p + 8);
@@ -132,28 +132,36 @@ VORM_INLINE void loadConsecutiveRows(const double* p, Lanes<double> (&elements)[
         elements[k] = _mm_shuffle_pd(r[k / 2], r[(n + k) / 2], k % 2 | (n + k) % 2 * 2);
     });
 }
-template <class T, int n>
-constexpr bool rowsAreRegisters = n == 3 || (n == 5 && sizeof(T) == sizeof(double));
+// Doubles with a vector for each object would need more loads than they save.
+template <class T, int n, class X>
+constexpr bool rowsFillRegisters = sizeof(T) == sizeof(float) ? n == 3 : n % 2 != 0 && X::isCommon;
 
 template <class T, int n, Start start, class X, class U>
 VORM_INLINE int packedRows(const MatrixArray<U, Adjacent>& a, const X& x, const VectorArray<T, Adjacent>& y, int count)
 {
     constexpr int width = Lanes<T>::width, row = n * int{sizeof(T)};
     int object = 0;
-    if constexpr (X::isCommon && rowsAreRegisters<T, n>) {
+    if constexpr (rowsFillRegisters<T, n, X>) {
         if (((a.stride1 ^ row) | (a.stride0 ^ n * row) | (y.stride0 ^ row)) != 0) return 0;
-        Lanes<T> vector[n];
-        for (int k = 0; k < n; ++k) vector[k] = T(x(0, k));
-        const T* from = a.p;
+        if (!X::isCommon && !isPackedArray(x, n)) return 0;
+        const T *from = a.p, *vectors = x.object(0);
         T* to = y.p;
-        for (; count - object >= width; object += width, from += n * n * width, to += n * width)
-            unrolled<n>([&](auto b) VORM_INLINE_LAMBDA {
+        Lanes<T> common[n];
+        if constexpr (X::isCommon)
+            for (int k = 0; k < n; ++k) common[k] = T(x(0, k));
+        for (; count - object >= width; object += width) {
+            unrolled<n>([&](auto j) VORM_INLINE_LAMBDA {
                 Lanes<T> elements[n];
-                loadConsecutiveRows(from + b * width * n, elements);
+                loadConsecutiveRows(from + j * width * n, elements);
                 leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA {
-                    return elements[k] * vector[k];
-                }).store(to + b * width);
+                    if constexpr (X::isCommon)
+                        return elements[k] * common[k];
+                    else
+                        return elements[k] * elementOfThrees<j, k>(vectors);
+                }).store(to + j * width);
             });
+            from += n * n * width, vectors += X::isCommon ? 0 : n * width, to += n * width;
+        }
     }
     return object;
 }

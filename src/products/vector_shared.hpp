@@ -98,8 +98,7 @@ VORM_INLINE void eachVector(const VectorArray<const T, Adjacent>& x, const Vecto
     for (; object < count; ++object, from = advance(from, xStep), to = advance(to, yStep)) body(from, to);
 }
 
-// Four packed vectors of three floats at a time, whose results fill three registers: lane l of register
-// j is element (4 j + l) % 3 of object (4 j + l) / 3.
+// Four packed vectors of three floats at a time, whose results fill three registers.
 template <Start start, class A>
 VORM_INLINE int packedThrees(const A& a, const float* x, float* y, int count)
 {
@@ -111,13 +110,8 @@ VORM_INLINE int packedThrees(const A& a, const float* x, float* y, int count)
     for (; count - object >= 4; object += 4, x += 12, y += 12) {
         Lanes<float> result[3];
         unrolled<3>([&](auto j) VORM_INLINE_LAMBDA {
-            constexpr int begin = 4 * j, first = begin / 3;  // the lanes belong to this object and the next one
-            constexpr auto from = [](int l) { return (begin + l) / 3 == first ? 0 : 3; };
-            constexpr int order = from(0) | from(1) << 2 | from(2) << 4 | from(3) << 6;
-            result[j] = leftToRight<3, start>([&](auto k) VORM_INLINE_LAMBDA {
-                const __m128 elements = Lanes<float>::load(x + 3 * first + k).v;
-                return rows[j][k] * Lanes<float>(_mm_shuffle_ps(elements, elements, order));
-            });
+            result[j] =
+                leftToRight<3, start>([&](auto k) VORM_INLINE_LAMBDA { return rows[j][k] * elementOfThrees<j, k>(x); });
         });
         for (int j = 0; j < 3; ++j) result[j].store(y + 4 * j);
     }

@@ -131,6 +131,18 @@ struct InLine {
     }
 };
 
+// Packed vectors of three floats: lane l of register j of the results belongs to object (4 j + l) / 3. Element k
+// of each lane's object.
+template <int j, int k>
+VORM_INLINE Lanes<float> elementOfThrees(const float* x)
+{
+    constexpr int begin = 4 * j, first = begin / 3;  // the lanes belong to this object and the next one
+    constexpr auto from = [](int l) { return (begin + l) / 3 == first ? 0 : 3; };
+    constexpr int order = from(0) | from(1) << 2 | from(2) << 4 | from(3) << 6;
+    const __m128 elements = Lanes<float>::load(x + 3 * first + k).v;
+    return _mm_shuffle_ps(elements, elements, order);
+}
+
 // Row r of a contiguous matrix of three floats per row, as a whole register whose last lane is undefined.
 // The element behind any row but the last one lies within the matrix, and so does the one before the last.
 template <int r>
