@@ -64,6 +64,8 @@ struct FactorsInRows {
     {
         if constexpr (k < 4)
             return splat<k>(Small::template load<i, 0>(view, object));
+        else if constexpr (Small::rest == 2)
+            return splat<k % 4>(Small::template load<i, 1>(view, object));
         else
             return float(view(object, i, k));
     }
@@ -316,11 +318,13 @@ VORM_INLINE void product(const A& factors, const B& rows, const D& dst, int obje
     }
 }
 
+// A matrix that all of several objects share is prepared for them.
 template <class T, int n, Order order = Order::leftToRight, class A, class B, class D>
 VORM_INLINE void products(const A& a, const B& b, const D& dst, int first, int end)
 {
-    const std::conditional_t<A::isCommon, CommonFactors<T, n, A>, Factors<T, n, A>> factors{a};
-    const std::conditional_t<B::isCommon, CommonRows<T, n, B>, Rows<T, n, B>> rows{b};
+    constexpr bool several = !D::isCommon;
+    const std::conditional_t<A::isCommon && several, CommonFactors<T, n, A>, Factors<T, n, A>> factors{a};
+    const std::conditional_t<B::isCommon && several, CommonRows<T, n, B>, Rows<T, n, B>> rows{b};
     for (int object = first; object < end; ++object) product<T, n, order>(factors, rows, dst, object);
 }
 
