@@ -2,8 +2,9 @@
 // k of A(i, k) times row k of B.
 //
 // Where rows of floats end in a rest of one or two elements, the rests of several rows, a group, fill a
-// register of their own: lane l is column l % rest of row l / rest of the group. Doubles gain by it where
-// all objects share A, so that its elements are gathered but once.
+// register of their own: lane l is column l % rest of row l / rest of the group. Where rests are single
+// numbers that pays only if the elements of A need no gathering: where all objects share A, or it is
+// transposed, or B is, whose columns would have to be gathered otherwise.
 //
 // Operands are loaded where a part of the body begins that uses them: no compiler moves a load over a
 // store by itself, and there are not registers enough to hold everything.
@@ -17,12 +18,10 @@ namespace vorm {
 // matrix_tiles.hpp).
 enum class Order { leftToRight, asInTiles };
 
-template <class T, int n, bool commonA>
-constexpr int grouped = sizeof(T) == sizeof(float) || commonA ? SmallMatrix<T, n>::rest : 0;
 template <class T, int n>
 constexpr int groupRows = Lanes<T>::width / std::max(SmallMatrix<T, n>::rest, 1);
-template <class T, int n, bool commonA>
-constexpr int groups = grouped<T, n, commonA> ? n / groupRows<T, n> : 0;
+template <class T, int n>
+constexpr int groups = n / groupRows<T, n>;
 
 // The elements of A: get<i, k> is A(i, k) in all lanes, group<g, k> has those of a group's rows, each
 // in the lanes of its row. -----------------------------------------------------------------------------
@@ -64,6 +63,8 @@ struct FactorsInRows {
     {
         if constexpr (k < 4)
             return splat<k>(Small::template load<i, 0>(view, object));
+        else if constexpr (Small::rest == 2)
+            return splat<k % 4>(Small::template load<i, 1>(view, object));
         else
             return float(view(object, i, k));
     }
@@ -106,15 +107,15 @@ struct FactorsInColumns {
 // Prepared once for all objects.
 template <class T, int n>
 struct FactorsPrepared {
-    Lanes<T> all[n][n], inGroups[std::max(groups<T, n, true>, 1)][n];
+    Lanes<T> all[n][n], inGroups[std::max(groups<T, n>, 1)][n];
     template <class View>
     VORM_INLINE explicit FactorsPrepared(const View& view)
     {
         const FactorsInMemory<T, n, View> factors{view, 0};
         unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
             unrolled<n>([&](auto i) VORM_INLINE_LAMBDA { all[i][k] = factors.template get<i, k>(); });
-            unrolled<groups<T, n, true>>([&](auto g)
-                                             VORM_INLINE_LAMBDA { inGroups[g][k] = factors.template group<g, k>(); });
+            unrolled<SmallMatrix<T, n>::rest ? groups<T, n> : 0>(
+                [&](auto g) VORM_INLINE_LAMBDA { inGroups[g][k] = factors.template group<g, k>(); });
         });
     }
 
@@ -134,7 +135,7 @@ struct FactorsPrepared {
 
 template <class T, int n, class View>
 struct Factors {
-    static constexpr bool isCommon = false;
+    static constexpr bool isCommon = false, inRows = true;
     View view;
     VORM_INLINE auto operator()(int object) const
     {
@@ -147,13 +148,13 @@ struct Factors {
 template <int n, class Stored>
 requires adjacentRows<Stored>
 struct Factors<float, n, Transposed<Stored>> {
-    static constexpr bool isCommon = false;
+    static constexpr bool isCommon = false, inRows = false;
     Transposed<Stored> view;
     VORM_INLINE auto operator()(int object) const { return FactorsInColumns<n, Stored>{view.stored, object}; }
 };
 template <class T, int n, class View>
 struct CommonFactors {
-    static constexpr bool isCommon = true;
+    static constexpr bool isCommon = true, inRows = false;
     View view;
     FactorsPrepared<T, n> prepared;
     VORM_INLINE explicit CommonFactors(const View& view_) : view(view_), prepared(view_) {}
@@ -182,13 +183,13 @@ struct RowsOfObject {
 };
 template <class T, int n, class View>
 struct Rows {
-    static constexpr bool isCommon = false;
+    static constexpr bool isCommon = false, inRows = !isTransposed<View>;
     View view;
     VORM_INLINE RowsOfObject<T, n, View> operator()(int object) const { return {view, object, {}}; }
 };
 template <class T, int n, class View>
 struct CommonRows {
-    static constexpr bool isCommon = true;
+    static constexpr bool isCommon = true, inRows = true;
     View view;
     Lanes<T> v[SmallMatrix<T, n>::parts][n];
     VORM_INLINE explicit CommonRows(const View& view_) : view(view_)
@@ -280,26 +281,28 @@ VORM_INLINE void groupTile(const A& factors, const B& rowsOfB, const D& dst, int
     });
 }
 
-// The fastest tiles: so many rows and parts, with room for some operands beside the sums.
-template <class T, int n, bool commonB>
-constexpr int tileRows = sizeof(T) == sizeof(float) ? n
-                         : n == 6                   ? 3
-                         : n == 5 && commonB        ? 2
-                                                    : n;
-template <class T, int n, bool commonA>
-constexpr int tileParts = sizeof(T) == sizeof(float) ? 1
-                          : n == 6                   ? 3
-                          : commonA                  ? 1
-                                                     : 2;
+// Whether rests are computed in groups, and the fastest tiles otherwise: so many rows and parts, with room
+// for some operands beside the sums.
+template <class T, int n, class A, class B>
+struct TileShape {
+    static constexpr int rest = SmallMatrix<T, n>::rest;
+    static constexpr bool isFloat = sizeof(T) == sizeof(float);
+    static constexpr bool grouping = rest && (A::isCommon || (isFloat && !(rest == 1 && A::inRows && B::inRows)));
+    static constexpr int rows = n == 6 && !isFloat                  ? 3
+                                : n == 5 && !isFloat && B::isCommon ? 2
+                                : n == 5 && isFloat && !grouping    ? 4
+                                                                    : n;
+    static constexpr int parts = n == 6 && !isFloat ? 3 : A::isCommon || grouping ? 1 : 2;
+};
 
 template <class T, int n, Order order, class A, class B, class D>
 VORM_INLINE void product(const A& factors, const B& rows, const D& dst, int object)
 {
     using Small = SmallMatrix<T, n>;
-    constexpr int inGroups = groups<T, n, A::isCommon>, parts = inGroups != 0 ? Small::full : Small::parts;
+    using Shape = TileShape<T, n, A, B>;
+    constexpr int parts = Shape::grouping ? Small::full : Small::parts, breadth = Shape::parts;
     // The rows behind a multiple of four have an order of their own in tiles of the general path.
-    constexpr int height = order == Order::asInTiles ? 4 : tileRows<T, n, B::isCommon>,
-                  breadth = tileParts<T, n, A::isCommon>;
+    constexpr int height = order == Order::asInTiles ? 4 : Shape::rows;
     unrolled<(parts + breadth - 1) / breadth>([&](auto across) VORM_INLINE_LAMBDA {
         constexpr int p = across * breadth;
         unrolled<(n + height - 1) / height>([&](auto down) VORM_INLINE_LAMBDA {
@@ -307,8 +310,8 @@ VORM_INLINE void product(const A& factors, const B& rows, const D& dst, int obje
             tile<T, n, order, i, std::min(height, n - i), p, std::min(breadth, parts - p)>(factors, rows, dst, object);
         });
     });
-    if constexpr (inGroups != 0) {
-        constexpr int first = order == Order::asInTiles ? 4 / groupRows<T, n> : inGroups;
+    if constexpr (Shape::grouping) {
+        constexpr int inGroups = groups<T, n>, first = order == Order::asInTiles ? 4 / groupRows<T, n> : inGroups;
         groupTile<T, n, order, 0, first>(factors, rows, dst, object);
         groupTile<T, n, order, first, inGroups - first>(factors, rows, dst, object);
         if constexpr (inGroups * groupRows<T, n> < n)
@@ -316,11 +319,13 @@ VORM_INLINE void product(const A& factors, const B& rows, const D& dst, int obje
     }
 }
 
+// A matrix that all of several objects share is prepared for them.
 template <class T, int n, Order order = Order::leftToRight, class A, class B, class D>
 VORM_INLINE void products(const A& a, const B& b, const D& dst, int first, int end)
 {
-    const std::conditional_t<A::isCommon, CommonFactors<T, n, A>, Factors<T, n, A>> factors{a};
-    const std::conditional_t<B::isCommon, CommonRows<T, n, B>, Rows<T, n, B>> rows{b};
+    constexpr bool several = !D::isCommon;
+    const std::conditional_t<A::isCommon && several, CommonFactors<T, n, A>, Factors<T, n, A>> factors{a};
+    const std::conditional_t<B::isCommon && several, CommonRows<T, n, B>, Rows<T, n, B>> rows{b};
     for (int object = first; object < end; ++object) product<T, n, order>(factors, rows, dst, object);
 }
 
