@@ -38,6 +38,8 @@ inline __m128 either(__m128 a, __m128 b) { return _mm_or_ps(a, b); }
 inline __m128d either(__m128d a, __m128d b) { return _mm_or_pd(a, b); }
 inline __m128 differing(__m128 a, __m128 b) { return _mm_xor_ps(a, b); }
 inline __m128d differing(__m128d a, __m128d b) { return _mm_xor_pd(a, b); }
+inline __m128 without(__m128 a, __m128 b) { return _mm_andnot_ps(b, a); }
+inline __m128d without(__m128d a, __m128d b) { return _mm_andnot_pd(b, a); }
 inline __m128i bitsOf(__m128 a) { return _mm_castps_si128(a); }
 inline __m128i bitsOf(__m128d a) { return _mm_castpd_si128(a); }
 
@@ -70,46 +72,74 @@ inline __m128d sameNumber(__m128d a, __m128d b)  // in the lower halves
 inline __m128 largerOf(Lanes<float> magnitude, Lanes<float> largest) { return _mm_max_ps(magnitude.v, largest.v); }
 inline __m128d largerOf(Lanes<double> magnitude, Lanes<double> largest) { return _mm_max_pd(magnitude.v, largest.v); }
 
-// Finds the pivot of column k, the first of the largest magnitudes from row k on, and returns what lets row
-// k and the pivot row change places: a function of the elements' place in each row.
+// The pivot of a column, the first of its largest magnitudes from row k on: its magnitude, and what lets row k and
+// the pivot row change places.
+template <int k, int n, class Number>
+struct Pivot;
+
+template <int k, int n>
+struct PivotRow {
+    int row = k;
+    // element(i) is what is to move of row i.
+    template <class Element>
+    VORM_INLINE void exchange(const Element& element) const
+    {
+        std::swap(element(k), element(row));
+    }
+};
 template <int k, int n, class T>
-VORM_INLINE auto exchangeWithPivot(const T (&a)[n][n])
-{
-    int p = k;
-    for (int i = k + 1; i < n; ++i)
-        if (abs(a[i][k]) > abs(a[p][k])) p = i;
-    return [p](auto element) VORM_INLINE_LAMBDA { std::swap(element(k), element(p)); };
-}
+    requires std::is_arithmetic_v<T>
+struct Pivot<k, n, T> : PivotRow<k, n> {
+    T magnitude;
+    template <class Column>
+    VORM_INLINE explicit Pivot(const Column& column) : magnitude(abs(column(k)))
+    {
+        for (int i = k + 1; i < n; ++i)
+            if (const T other = abs(column(i)); other > magnitude) magnitude = other, this->row = i;
+    }
+    VORM_INLINE T reciprocal(T pivot) const { return 1 / pivot; }
+};
+
 // Lane by lane, without a branch or an address that depends on the pivots: every row is looked at, and
 // changes places in the lanes whose pivot it is.
 template <int k, int n, class T>
-VORM_INLINE auto exchangeWithPivot(const Lanes<T> (&a)[n][n])
-{
+struct Pivot<k, n, Lanes<T>> {
     using Bits = decltype(LaneMask<T>::bits);
     Bits is[n];
-    Lanes<T> largest = abs(a[k][k]);
-    for (int i = k + 1; i < n; ++i) {
-        const Lanes<T> magnitude = abs(a[i][k]);
-        is[i] = (magnitude > largest).bits;
-        largest = largerOf(magnitude, largest);
+    Lanes<T> magnitude;
+    template <class Column>
+    VORM_INLINE explicit Pivot(const Column& column) : magnitude(abs(column(k)))
+    {
+        for (int i = k + 1; i < n; ++i) {
+            const Lanes<T> other = abs(column(i));
+            is[i] = (other > magnitude).bits;
+            magnitude = largerOf(other, magnitude);
+        }
+        Bits later = is[n - 1];  // the last one to displace the largest is the pivot
+        for (int i = n - 2; i > k; --i) {
+            const Bits own = is[i];
+            is[i] = without(own, later);
+            later = either(later, own);
+        }
     }
-    Bits later = is[n - 1];  // the last one to displace the largest is the pivot
-    for (int i = n - 2; i > k; --i) {
-        const Bits own = is[i];
-        is[i] = both(own, differing(own, later));
-        later = either(later, own);
-    }
-    return [is](auto element) VORM_INLINE_LAMBDA {
+    template <class Element>
+    VORM_INLINE void exchange(const Element& element) const
+    {
         const auto top = element(k).v;
         auto changes = differing(top, top);
         for (int i = k + 1; i < n; ++i) {
             const auto change = both(is[i], differing(top, element(i).v));
             element(i) = differing(element(i).v, change);
-            changes = either(changes, change);
+            changes = i == k + 1 ? change : either(changes, change);
         }
         element(k) = differing(top, changes);
-    };
-}
+    }
+    // The division need not wait for the exchange: the sign is all that the magnitude lacks.
+    VORM_INLINE Lanes<T> reciprocal(Lanes<T> pivot) const
+    {
+        return differing((Lanes<T>(T(1)) / magnitude).v, both(pivot.v, Lanes<T>(-T(0)).v));
+    }
+};
 
 // Factorises a block in place, until a pivot is singular in any of its objects. Returns how many rows
 // have passed; these are final. Multipliers are products with a reciprocal, only the last one is a quotient.
@@ -120,23 +150,23 @@ VORM_INLINE int luFactoriseHere(LuBlock<n, Number>& lu)
     auto& a = lu.a;
     for (int r = 0; r < n; ++r) lu.rows[r] = numbered(lu.rows[r], r);
     int passed = 0;
-    const auto passes = [&](int k) VORM_INLINE_LAMBDA {
-        if (any(abs(a[k][k]) < tinyFor(a[k][k]))) return false;
+    const auto passes = [&](Number magnitude) VORM_INLINE_LAMBDA {
+        if (any(magnitude < tinyFor(magnitude))) return false;
         ++passed;
         return true;
     };
     const auto step = [&](auto k) VORM_INLINE_LAMBDA {
-        const auto exchange = exchangeWithPivot<k>(a);
+        const Pivot<k, n, Number> pivot([&](int i) VORM_INLINE_LAMBDA { return a[i][k]; });
         const auto exchangeColumn = [&](int c) VORM_INLINE_LAMBDA {
-            exchange([&](int i) VORM_INLINE_LAMBDA -> Number& { return a[i][c]; });
+            pivot.exchange([&](int i) VORM_INLINE_LAMBDA -> Number& { return a[i][c]; });
         };
-        exchange([&](int i) VORM_INLINE_LAMBDA -> auto& { return lu.rows[i]; });
+        pivot.exchange([&](int i) VORM_INLINE_LAMBDA -> auto& { return lu.rows[i]; });
         exchangeColumn(k);
-        if (!passes(k)) return false;
+        if (!passes(pivot.magnitude)) return false;
         for (int c = 0; c < k; ++c) exchangeColumn(c);
         Number factors[n];
         if constexpr (k < n - 2) {
-            const Number reciprocal = Number(1) / a[k][k];
+            const Number reciprocal = pivot.reciprocal(a[k][k]);
             for (int i = k + 1; i < n; ++i) factors[i] = a[i][k] * reciprocal;
         } else {
             factors[n - 1] = a[n - 1][k] / a[k][k];
@@ -150,7 +180,7 @@ VORM_INLINE int luFactoriseHere(LuBlock<n, Number>& lu)
     };
     [&]<int... k>(std::integer_sequence<int, k...>) VORM_INLINE_LAMBDA
     {
-        (void)((... && step(std::integral_constant<int, k>{})) && passes(n - 1));
+        (void)((... && step(std::integral_constant<int, k>{})) && passes(abs(a[n - 1][n - 1])));
     }
     (std::make_integer_sequence<int, n - 1>{});
     return passed;
