@@ -238,45 +238,88 @@ VORM_INLINE VormStatus luGeneral(const Src& src, const Dst& dst, int object, int
     return abs(T(row(order - 1)(order - 1))) <= luEpsilon<T> ? StatusSingular : StatusOk;
 }
 
-// Orders up to this run in lanes in arrays.
+// Arrays of orders up to this run several objects at a time, as many as a register has lanes, in a buffer: object by
+// object, in rows of whole registers.
 constexpr int luLanesOrder = 16;
-
-// Factorises a register of matrices of any order n in place, with n row numbers for each; or finds that
-// one of them is singular.
 template <class T>
-VORM_HIDDEN bool luFactorise(Lanes<T>* a, int* rows, int n);
+constexpr int luRegistersOf(int n)
+{
+    return (n + Lanes<T>::width - 1) / Lanes<T>::width;
+}
+template <class T>
+using LuBuffer = Lanes<T>[luLanesOrder * luLanesOrder];
+
+template <class T, class Src>
+VORM_INLINE void luLoad(const Src& src, int first, int n, Lanes<T>* to)
+{
+    constexpr int width = Lanes<T>::width;
+    const int registers = luRegistersOf<T>(n), whole = n / width, rest = n % width;
+    if constexpr (isAdjacent<Src>) {
+        for (int l = 0; l < width; ++l)
+            for (int r = 0; r < n; ++r, to += registers) {
+                const T* const from = rowAt(src, first + l, r);
+                for (int i = 0; i < whole; ++i) to[i] = Lanes<T>::load(from + i * width);
+                if (rest > 0) to[whole] = loadFirst(from + whole * width, rest);
+            }
+    } else if constexpr (isInPlanes<Src>) {
+        for (int r = 0; r < n; ++r)
+            for (int i = 0; i < registers; ++i) {
+                Lanes<T> block[width];
+                for (int c = 0; c < width; ++c)
+                    block[c] = i < whole || c < rest ? Lanes<T>::load(src.element(r, i * width + c) + first) : T(0);
+                transpose(block);
+                for (int l = 0; l < width; ++l) to[(l * n + r) * registers + i] = block[l];
+            }
+    } else {
+        auto* const elements = reinterpret_cast<T*>(to);
+        for (int l = 0; l < width; ++l)
+            for (int r = 0; r < n; ++r)
+                for (int c = 0; c < registers * width; ++c)
+                    elements[(l * n + r) * registers * width + c] = c < n ? T(src(first + l, r, c)) : 0;
+    }
+}
+template <class T, class Dst>
+VORM_INLINE void luStore(const Dst& dst, int first, int n, const Lanes<T>* from)
+{
+    constexpr int width = Lanes<T>::width;
+    const int registers = luRegistersOf<T>(n), whole = n / width, rest = n % width;
+    if constexpr (isAdjacent<Dst>) {
+        for (int l = 0; l < width; ++l)
+            for (int r = 0; r < n; ++r, from += registers) {
+                T* const to = rowAt(dst, first + l, r);
+                for (int i = 0; i < whole; ++i) from[i].store(to + i * width);
+                if (rest > 0) storeFirst(to + whole * width, from[whole], rest);
+            }
+    } else if constexpr (isInPlanes<Dst>) {
+        for (int r = 0; r < n; ++r)
+            for (int i = 0; i < registers; ++i) {
+                Lanes<T> block[width];
+                for (int l = 0; l < width; ++l) block[l] = from[(l * n + r) * registers + i];
+                transpose(block);
+                for (int c = 0; c < width; ++c)
+                    if (i < whole || c < rest) block[c].store(dst.element(r, i * width + c) + first);
+            }
+    } else {
+        const auto* const elements = reinterpret_cast<const T*>(from);
+        for (int l = 0; l < width; ++l)
+            for (int r = 0; r < n; ++r)
+                for (int c = 0; c < n; ++c) dst(first + l, r, c) = elements[(l * n + r) * registers * width + c];
+    }
+}
+
+// Factorises a buffer in place, with n row numbers for each object; or finds that one of them is singular.
+template <class T>
+VORM_HIDDEN bool luFactorise(Lanes<T>* a, int* order, int n);
 
 template <class T, class Src, class Dst>
 [[gnu::noinline]] bool luLanesGeneral(const Src& src, const Dst& dst, int first, int n, int* pivotIndex)
 {
-    constexpr int width = Lanes<T>::width;
-    Lanes<T> a[luLanesOrder * luLanesOrder];
-    int rows[luLanesOrder * width];
-    if constexpr (isAdjacent<Src>) {
-        for (int r = 0; r < n; ++r) {
-            const T* from[width];
-            for (int l = 0; l < width; ++l) from[l] = rowAt(src, first + l, r);
-            loadRows(from, a + r * n, n);
-        }
-    } else if constexpr (isInPlanes<Src>) {
-        for (int r = 0; r < n; ++r)
-            for (int c = 0; c < n; ++c) a[r * n + c] = Lanes<T>::load(src.element(r, c) + first);
-    } else {
-        gatherMatrices(src, first, width, n, reinterpret_cast<T*>(a));
-    }
-    if (!luFactorise(a, rows, n)) return false;
-
-    if constexpr (isAdjacent<Dst>) {
-        for (int k = 0; k < n; ++k) {
-            T* to[width];
-            for (int l = 0; l < width; ++l) to[l] = rowAt(dst, first + l, rows[l * n + k]);
-            storeRows(to, a + k * n, n);
-        }
-    } else {
-        scatterPivotRows(dst, first, width, n, n, rows, reinterpret_cast<const T*>(a));
-    }
-    // Last, as a load that spans several of the stores just made would wait for all of them.
-    std::memcpy(static_cast<void*>(pivotIndex), rows, std::size_t(n) * width * sizeof(int));
+    LuBuffer<T> a;
+    int order[luLanesOrder * Lanes<T>::width];
+    luLoad(src, first, n, a);
+    if (!luFactorise(a, order, n)) return false;
+    luStore(dst, first, n, a);
+    std::memcpy(static_cast<void*>(pivotIndex), order, std::size_t(n) * Lanes<T>::width * sizeof(int));
     return true;
 }
 

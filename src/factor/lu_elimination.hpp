@@ -72,6 +72,13 @@ inline __m128d sameNumber(__m128d a, __m128d b)  // in the lower halves
 inline __m128 largerOf(Lanes<float> magnitude, Lanes<float> largest) { return _mm_max_ps(magnitude.v, largest.v); }
 inline __m128d largerOf(Lanes<double> magnitude, Lanes<double> largest) { return _mm_max_pd(magnitude.v, largest.v); }
 
+// 1 / pivot, whose division need not wait for the pivot: the sign is all that the magnitude lacks.
+template <class T>
+VORM_INLINE Lanes<T> reciprocalOf(Lanes<T> pivot, Lanes<T> magnitude)
+{
+    return differing((Lanes<T>(T(1)) / magnitude).v, both(pivot.v, Lanes<T>(-T(0)).v));
+}
+
 // The pivot of a column, the first of its largest magnitudes from row k on: its magnitude, and what lets row k and
 // the pivot row change places.
 template <int k, int n, class Number>
@@ -134,11 +141,7 @@ struct Pivot<k, n, Lanes<T>> {
         }
         element(k) = differing(top, changes);
     }
-    // The division need not wait for the exchange: the sign is all that the magnitude lacks.
-    VORM_INLINE Lanes<T> reciprocal(Lanes<T> pivot) const
-    {
-        return differing((Lanes<T>(T(1)) / magnitude).v, both(pivot.v, Lanes<T>(-T(0)).v));
-    }
+    VORM_INLINE Lanes<T> reciprocal(Lanes<T> pivot) const { return reciprocalOf(pivot, magnitude); }
 };
 
 // Factorises a block in place, until a pivot is singular in any of its objects. Returns how many rows
