@@ -68,6 +68,62 @@ VORM_INLINE void luEachVector(const X& dst, int n, int count, const Single& sing
     }
 }
 
+// Order 3, where a substitution is so little work that its loads are most of it: object by object, as the addresses of
+// all the rows would be more than there are registers for them.
+template <class M, class B, class Load>
+VORM_INLINE void eachPivotRow(const M& matrix, const B& b, int first, const int* pivotIndex, const Load& load)
+{
+    using T = std::remove_const_t<std::remove_pointer_t<decltype(b.object(0))>>;
+    unrolled<Lanes<T>::width>([&](auto l) VORM_INLINE_LAMBDA {
+        const T* const object = matrix.object(first + l);
+        const T* const vector = b.object(first + l);
+        unrolled<3>([&](auto k) VORM_INLINE_LAMBDA {
+            const std::ptrdiff_t row = pivotAt(pivotIndex, l * 3 + k);
+            load(l, k, advance(object, row * matrix.stride1), advance(vector, row * std::ptrdiff_t{sizeof(T)}));
+        });
+    });
+}
+template <class M, class B>
+VORM_INLINE void loadPivoted(const M& matrix, const B& b, int first, const int* pivotIndex, Lanes<float> (&lu)[3][3],
+                             Lanes<float> (&x)[3])
+{
+    __m128 front[3][2], back[3][2], values[3][2];
+    eachPivotRow(matrix, b, first, pivotIndex, [&](auto l, auto k, const float* row, const float* element)
+                                                   VORM_INLINE_LAMBDA {
+        __m128 &low = front[k][l / 2], &high = back[k][l / 2], &value = values[k][l / 2];
+        if constexpr (l % 2 == 0) {
+            low = loadFirst<2>(row).v, high = loadFirst<2>(row + 1).v, value = loadFirst<1>(element).v;
+        } else {
+            low = _mm_loadh_pi(low, reinterpret_cast<const __m64*>(row));
+            high = _mm_loadh_pi(high, reinterpret_cast<const __m64*>(row + 1));
+            value = _mm_unpacklo_ps(value, loadFirst<1>(element).v);
+        }
+    });
+    unrolled<3>([&](auto k) VORM_INLINE_LAMBDA {
+        lu[k][0] = _mm_shuffle_ps(front[k][0], front[k][1], _MM_SHUFFLE(2, 0, 2, 0));
+        lu[k][1] = _mm_shuffle_ps(front[k][0], front[k][1], _MM_SHUFFLE(3, 1, 3, 1));
+        lu[k][2] = _mm_shuffle_ps(back[k][0], back[k][1], _MM_SHUFFLE(3, 1, 3, 1));
+        x[k] = _mm_movelh_ps(values[k][0], values[k][1]);
+    });
+}
+template <class M, class B>
+VORM_INLINE void loadPivoted(const M& matrix, const B& b, int first, const int* pivotIndex, Lanes<double> (&lu)[3][3],
+                             Lanes<double> (&x)[3])
+{
+    __m128d front[3], back[3], values[3];
+    eachPivotRow(matrix, b, first, pivotIndex, [&](auto l, auto k, const double* row, const double* element)
+                                                   VORM_INLINE_LAMBDA {
+        if constexpr (l == 0) {
+            front[k] = Lanes<double>::load(row).v;
+            back[k] = loadFirst<1>(row + 2).v, values[k] = loadFirst<1>(element).v;
+        } else {
+            const __m128d next = Lanes<double>::load(row).v;
+            lu[k][0] = _mm_unpacklo_pd(front[k], next), lu[k][1] = _mm_unpackhi_pd(front[k], next);
+            lu[k][2] = _mm_loadh_pd(back[k], row + 2), x[k] = _mm_loadh_pd(values[k], element);
+        }
+    });
+}
+
 // A register of objects. Their rows are loaded in logical order; from planes, where those of no two objects lie
 // together, elements are loaded one by one, or few planes as they are and put in order by selecting.
 template <int n, class T, class M, class B, class X>
@@ -93,6 +149,8 @@ VORM_INLINE void luSolveLanes(const M& matrix, const B& b, const X& dst, int fir
             for (int c = 0; c < n; ++c) lu[k][c] = chosen([&](int r) VORM_INLINE_LAMBDA { return own[r][c]; });
             x[k] = chosen([&](int r) VORM_INLINE_LAMBDA { return ownB[r]; });
         });
+    } else if constexpr (isAdjacent<M> && isAdjacent<B> && n == 3) {
+        loadPivoted(matrix, b, first, pivotIndex, lu, x);
     } else {
         unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
             int row[width];
