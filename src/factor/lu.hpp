@@ -108,10 +108,11 @@ VORM_INLINE bool luLanes(const Src& src, const Dst& dst, int first, int* pivotIn
         });
     } else if constexpr (isInPlanes<Dst>) {
         if constexpr (width == 2) {
+            const std::ptrdiff_t offset = dst.shift + first * std::ptrdiff_t{sizeof(T)};
             unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
                 unrolled<width>([&](auto l) VORM_INLINE_LAMBDA {
-                    const int row = pivotAt(pivotIndex, l * n + k);
-                    for (int c = 0; c < n; ++c) dst(first + l, row, c) = lane<l>(lu.a[k][c]);
+                    T* const* const planes = dst.pp + pivotAt(pivotIndex, l * n + k) * std::ptrdiff_t{n};
+                    for (int c = 0; c < n; ++c) elementAt(planes[c] + l, offset) = lane<l>(lu.a[k][c]);
                 });
             });
         } else {

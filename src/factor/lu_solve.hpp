@@ -131,23 +131,38 @@ VORM_INLINE void luSolveLanes(const M& matrix, const B& b, const X& dst, int fir
 {
     constexpr int width = Lanes<T>::width;
     Lanes<T> lu[n][n], x[n];
-    if constexpr (isInPlanes<M> && width == 4 && n <= 4) {
-        Lanes<T> own[n][n], ownB[n], rows[n];
-        for (int r = 0; r < n; ++r) {
-            for (int c = 0; c < n; ++c) own[r][c] = Lanes<T>::load(matrix.element(r, c) + first);
-            ownB[r] = Lanes<T>::load(b.element(r) + first);
-        }
-        loadRowNumbers(pivotIndex, rows);
+    if constexpr (isInPlanes<M> && width == 4) {
+        // Through a buffer, object by object in rows of whole registers, the last with b if it has room.
+        constexpr int registers = luRegistersOf<T>(n);
+        constexpr bool joined = n % width != 0;
+        Lanes<T> rows[width][n][registers];
+        unrolled<n * registers>([&](auto step) VORM_INLINE_LAMBDA {
+            constexpr int r = step / registers, i = step % registers;
+            Lanes<T> block[width];
+            for (int c = 0; c < width; ++c) {
+                const int column = i * width + c;
+                block[c] = column < n    ? Lanes<T>::load(matrix.element(r, column) + first)
+                           : column == n ? Lanes<T>::load(b.element(r) + first)
+                                         : Lanes<T>(T(0));
+            }
+            transpose(block);
+            for (int l = 0; l < width; ++l) rows[l][r][i] = block[l];
+        });
         unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
-            decltype(LaneMask<T>::bits) is[n];
-            for (int r = 0; r < n; ++r) is[r] = sameNumber(rows[k].v, rowNumber<T>(r).v);
-            const auto chosen = [&](auto element) VORM_INLINE_LAMBDA {
-                auto found = both(is[0], element(0).v);
-                for (int r = 1; r < n; ++r) found = either(found, both(is[r], element(r).v));
-                return found;
-            };
-            for (int c = 0; c < n; ++c) lu[k][c] = chosen([&](int r) VORM_INLINE_LAMBDA { return own[r][c]; });
-            x[k] = chosen([&](int r) VORM_INLINE_LAMBDA { return ownB[r]; });
+            const Lanes<T>* own[width];
+            for (int l = 0; l < width; ++l) own[l] = rows[l][pivotAt(pivotIndex, l * n + k)];
+            for (int i = 0; i < registers; ++i) {
+                Lanes<T> block[width];
+                for (int l = 0; l < width; ++l) block[l] = own[l][i];
+                transpose(block);
+                for (int c = 0; c < width; ++c) {
+                    const int column = i * width + c;
+                    if (column < n) lu[k][column] = block[c];
+                    if (column == n) x[k] = block[c];
+                }
+            }
+            if constexpr (!joined)
+                x[k] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, pivotAt(pivotIndex, l * n + k))); });
         });
     } else if constexpr (isAdjacent<M> && isAdjacent<B> && n == 3) {
         loadPivoted(matrix, b, first, pivotIndex, lu, x);
@@ -160,10 +175,18 @@ VORM_INLINE void luSolveLanes(const M& matrix, const B& b, const X& dst, int fir
                 for (int l = 0; l < width; ++l) from[l] = rowAt(matrix, first + l, row[l]);
                 loadRows(from, lu[k]);
             } else {
+                const T* const* planes[width];
+                for (int l = 0; l < width; ++l) planes[l] = matrix.pp + row[l] * std::ptrdiff_t{n};
+                const std::ptrdiff_t offset = matrix.shift + first * std::ptrdiff_t{sizeof(T)};
                 for (int c = 0; c < n; ++c)
-                    lu[k][c] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(matrix(first + l, row[l], c)); });
+                    lu[k][c] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return elementAt(planes[l][c] + l, offset); });
             }
-            x[k] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, row[l])); });
+            if constexpr (isInPlanes<B>) {
+                const std::ptrdiff_t offset = b.shift + first * std::ptrdiff_t{sizeof(T)};
+                x[k] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return elementAt(b.pp[row[l]] + l, offset); });
+            } else {
+                x[k] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, row[l])); });
+            }
         });
     }
     luSubstitute(lu, x, [&](Lanes<T> value, int i) VORM_INLINE_LAMBDA { return value / lu[i][i]; });
@@ -366,16 +389,6 @@ VORM_INLINE void luSolveGeneral(const M& matrix, const B& b, const X& dst, int o
     }
 }
 
-// Rows anywhere, of a block of objects, in the order of the pivots.
-template <class T, class View>
-[[gnu::noinline]] void gatherPivotRows(const View& matrix, int first, int objects, int n, const int* pivotIndex, T* to)
-{
-    for (int l = 0; l < objects; ++l)
-        for (int k = 0; k < n; ++k)
-            for (int c = 0; c < n; ++c)
-                to[(k * n + c) * objects + l] = matrix(first + l, pivotAt(pivotIndex, l * n + k), c);
-}
-
 // Solves with a register of matrices of any order n, in logical row order; x as above, of several registers of
 // vectors in turn.
 constexpr int luRegisters = 4;
@@ -409,16 +422,21 @@ template <class T, class M, class B, class X>
         return;
     }
     luEachVector<T>(dst, n, count, single, [&](int first) VORM_INLINE_LAMBDA {
-        Lanes<T> lu[luLanesOrder * luLanesOrder], x[luLanesOrder];
+        LuBuffer<T> lu, buffer;
+        Lanes<T> x[luLanesOrder];
         const int* const rows = pivots(first);
-        if constexpr (isAdjacent<M>)
-            for (int k = 0; k < n; ++k) {
-                const T* from[width];
-                for (int l = 0; l < width; ++l) from[l] = rowAt(matrix, first + l, pivotAt(rows, l * n + k));
-                loadRows(from, lu + k * n, n);
+        if constexpr (!isAdjacent<M>) luLoad(matrix, first, n, buffer);
+        for (int k = 0; k < n; ++k) {
+            const T* from[width];
+            for (int l = 0; l < width; ++l) {
+                const int row = pivotAt(rows, l * n + k);
+                if constexpr (isAdjacent<M>)
+                    from[l] = rowAt(matrix, first + l, row);
+                else
+                    from[l] = reinterpret_cast<const T*>(buffer + (l * n + row) * luRegistersOf<T>(n));
             }
-        else
-            gatherPivotRows(matrix, first, width, n, rows, reinterpret_cast<T*>(lu));
+            loadRows(from, lu + k * n, n);
+        }
         for (int k = 0; k < n; ++k)
             x[k] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, pivotAt(rows, l * n + k))); });
         luSubstitute<1>(lu, x, n);
