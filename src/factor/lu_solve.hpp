@@ -257,7 +257,7 @@ VORM_INLINE void luSolveVectors(const M& matrix, const B& b, const X& dst, const
     }
     // In registers all coefficients would be too many, and the unknowns evicted for them: the compiler is to take
     // these for memory that a store might change.
-    constexpr bool paired = width == 2 && n >= 4 && isAdjacent<B>;
+    constexpr bool paired = isAdjacent<B> || isInPlanes<B>;
     const auto inMemory = [](auto& array) VORM_INLINE_LAMBDA -> auto&
     {
         auto* p = &array;
@@ -288,9 +288,14 @@ VORM_INLINE void luSolveVectors(const M& matrix, const B& b, const X& dst, const
     const auto pairs = [&](int first) VORM_INLINE_LAMBDA {
         Lanes<T> natural[n], next[n];
         LanesPair<T> x[n];
-        loadLanes(b, first, natural);
-        loadLanes(b, first + width, next);
-        unrolled<n>([&](auto k) VORM_INLINE_LAMBDA { x[k] = {natural[rows[k]], next[rows[k]]}; });
+        if constexpr (isInPlanes<B>) {
+            for (int k = 0; k < n; ++k)
+                x[k] = {Lanes<T>::load(planes[k] + first), Lanes<T>::load(planes[k] + first + width)};
+        } else {
+            loadLanes(b, first, natural);
+            loadLanes(b, first + width, next);
+            unrolled<n>([&](auto k) VORM_INLINE_LAMBDA { x[k] = {natural[rows[k]], next[rows[k]]}; });
+        }
         luSubstitute(coefficients, x, divided);
         unrolled<n>([&](auto k) VORM_INLINE_LAMBDA { natural[k] = x[k].first, next[k] = x[k].second; });
         storeLanes(dst, first, natural);
