@@ -22,7 +22,7 @@ VORM_INLINE int pivotAt(const int* pivotIndex, std::ptrdiff_t k)
 
 // luFactoriseHere, compiled once, in lu_blocks.cpp. Only of the orders 3 and 4 the call and the way through memory
 // cost more than what the compiler loses in a larger function.
-template <int n, class Number>
+template <bool rowsStay, int n, class Number>
 VORM_HIDDEN int luFactorise(LuBlock<n, Number>& lu);
 
 // Row numbers in lanes, those of a register of objects.
@@ -72,7 +72,7 @@ VORM_INLINE VormStatus luObject(const Src& src, const Dst& dst, int object, int*
 {
     LuBlock<n, T> lu;
     gatherMatrices(src, object, 1, n, lu.a[0]);
-    const int passed = luFactorise(lu);
+    const int passed = luFactorise<false>(lu);
     std::memcpy(static_cast<void*>(pivotIndex), lu.rows, sizeof lu.rows);
     scatterPivotRows(dst, object, 1, n, passed, pivotIndex, lu.a[0]);
     return passed == n ? StatusOk : StatusSingular;
@@ -83,6 +83,8 @@ template <int n, class T, class Src, class Dst>
 VORM_INLINE bool luLanes(const Src& src, const Dst& dst, int first, int* pivotIndex)
 {
     constexpr int width = Lanes<T>::width;
+    // Two lanes of even orders are rather stored one by one, where their rows belong.
+    constexpr bool rowsStay = isInPlanes<Dst> && (width == 4 || n % 2 == 1);
     LuBlock<n, Lanes<T>> lu;
     if constexpr (isAdjacent<Src>) {
         unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
@@ -97,7 +99,7 @@ VORM_INLINE bool luLanes(const Src& src, const Dst& dst, int first, int* pivotIn
     } else {
         gatherMatrices(src, first, width, n, reinterpret_cast<T*>(lu.a));
     }
-    if ((n <= 4 && (isAdjacent<Src> || isInPlanes<Src>) ? luFactoriseHere(lu) : luFactorise(lu)) < n) return false;
+    if ((n <= 4 && (isAdjacent<Src> || isInPlanes<Src>) ? luFactoriseHere<rowsStay>(lu) : luFactorise<rowsStay>(lu)) < n) return false;
 
     storeRowNumbers(lu.rows, pivotIndex);
     if constexpr (isAdjacent<Dst>) {
@@ -106,27 +108,18 @@ VORM_INLINE bool luLanes(const Src& src, const Dst& dst, int first, int* pivotIn
             for (int l = 0; l < width; ++l) to[l] = rowAt(dst, first + l, pivotAt(pivotIndex, l * n + k));
             storeRows(to, lu.a[k]);
         });
+    } else if constexpr (rowsStay) {
+        unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
+            for (int c = 0; c < n; ++c) lu.a[r][c].store(dst.element(r, c) + first);
+        });
     } else if constexpr (isInPlanes<Dst>) {
-        if constexpr (width == 2) {
-            const std::ptrdiff_t offset = dst.shift + first * std::ptrdiff_t{sizeof(T)};
-            unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
-                unrolled<width>([&](auto l) VORM_INLINE_LAMBDA {
-                    T* const* const planes = dst.pp + pivotAt(pivotIndex, l * n + k) * std::ptrdiff_t{n};
-                    for (int c = 0; c < n; ++c) elementAt(planes[c] + l, offset) = lane<l>(lu.a[k][c]);
-                });
+        const std::ptrdiff_t offset = dst.shift + first * std::ptrdiff_t{sizeof(T)};
+        unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
+            unrolled<width>([&](auto l) VORM_INLINE_LAMBDA {
+                T* const* const planes = dst.pp + pivotAt(pivotIndex, l * n + k) * std::ptrdiff_t{n};
+                for (int c = 0; c < n; ++c) elementAt(planes[c] + l, offset) = lane<l>(lu.a[k][c]);
             });
-        } else {
-            // Row k of the block is row r of the source in the lanes of is[k].
-            unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
-                decltype(LaneMask<T>::bits) is[n];
-                for (int k = 0; k < n; ++k) is[k] = sameNumber(lu.rows[k].v, rowNumber<T>(r).v);
-                for (int c = 0; c < n; ++c) {
-                    auto found = both(is[0], lu.a[0][c].v);
-                    for (int k = 1; k < n; ++k) found = either(found, both(is[k], lu.a[k][c].v));
-                    Lanes<T>(found).store(dst.element(r, c) + first);
-                }
-            });
-        }
+        });
     } else {
         scatterPivotRows(dst, first, width, n, n, pivotIndex, reinterpret_cast<const T*>(lu.a));
     }

@@ -59,10 +59,10 @@ struct PivotSearch {
 
 }  // namespace
 
-template <int n, class Number>
+template <bool rowsStay, int n, class Number>
 int luFactorise(LuBlock<n, Number>& lu)
 {
-    return luFactoriseHere(lu);
+    return luFactoriseHere<rowsStay>(lu);
 }
 
 // The row numbers of one object, four bits each: in memory a load of one would often overtake the exchange before it.
@@ -214,12 +214,16 @@ template void luSubstitute<1>(const Lanes<double>* lu, Lanes<double>* x, int n);
 template void luSubstitute<luRegisters>(const Lanes<float>* lu, Lanes<float>* x, int n);
 template void luSubstitute<luRegisters>(const Lanes<double>* lu, Lanes<double>* x, int n);
 
-#define LU_BLOCKS(n, T)                          \
-    template int luFactorise(LuBlock<n, T>& lu); \
-    template int luFactorise(LuBlock<n, Lanes<T>>& lu);
+#define LU_BLOCKS(n, T)                                 \
+    template int luFactorise<false>(LuBlock<n, T>& lu); \
+    template int luFactorise<false>(LuBlock<n, Lanes<T>>& lu);
 #define LU_BLOCKS_OF_TYPE(T) LU_BLOCKS(3, T) LU_BLOCKS(4, T) LU_BLOCKS(5, T) LU_BLOCKS(6, T)
 
 LU_BLOCKS_OF_TYPE(float)
 LU_BLOCKS_OF_TYPE(double)
+
+template int luFactorise<true>(LuBlock<5, Lanes<float>>& lu);
+template int luFactorise<true>(LuBlock<5, Lanes<double>>& lu);
+template int luFactorise<true>(LuBlock<6, Lanes<float>>& lu);
 
 }  // namespace vorm

@@ -79,46 +79,40 @@ VORM_INLINE Lanes<T> reciprocalOf(Lanes<T> pivot, Lanes<T> magnitude)
     return differing((Lanes<T>(T(1)) / magnitude).v, both(pivot.v, Lanes<T>(-T(0)).v));
 }
 
-// The pivot of a column, the first of its largest magnitudes from row k on: its magnitude, and what lets row k and
-// the pivot row change places.
-template <int k, int n, class Number>
-struct Pivot;
-
-template <int k, int n>
-struct PivotRow {
-    int row = k;
-    // element(i) is what is to move of row i.
-    template <class Element>
+// The pivots of step k, the first of the largest magnitudes of a column from row k on: finds them and lets row k and
+// the pivot row change places. element(i) is what is to move of row i.
+template <int n, class Number>
+struct Pivot {
+    int row = 0;
+    Number magnitude;
+    template <int k, class Element>
+    VORM_INLINE void find(const Element& element)
+    {
+        row = k, magnitude = abs(element(k));
+        for (int i = k + 1; i < n; ++i)
+            if (const Number other = abs(element(i)); other > magnitude) magnitude = other, row = i;
+    }
+    template <int k, class Element>
     VORM_INLINE void exchange(const Element& element) const
     {
         std::swap(element(k), element(row));
     }
-};
-template <int k, int n, class T>
-    requires std::is_arithmetic_v<T>
-struct Pivot<k, n, T> : PivotRow<k, n> {
-    T magnitude;
-    template <class Column>
-    VORM_INLINE explicit Pivot(const Column& column) : magnitude(abs(column(k)))
-    {
-        for (int i = k + 1; i < n; ++i)
-            if (const T other = abs(column(i)); other > magnitude) magnitude = other, this->row = i;
-    }
-    VORM_INLINE T reciprocal(T pivot) const { return 1 / pivot; }
+    VORM_INLINE Number reciprocal(Number pivot) const { return 1 / pivot; }
 };
 
 // Lane by lane, without a branch or an address that depends on the pivots: every row is looked at, and
 // changes places in the lanes whose pivot it is.
-template <int k, int n, class T>
-struct Pivot<k, n, Lanes<T>> {
+template <int n, class T>
+struct Pivot<n, Lanes<T>> {
     using Bits = decltype(LaneMask<T>::bits);
     Bits is[n];
     Lanes<T> magnitude;
-    template <class Column>
-    VORM_INLINE explicit Pivot(const Column& column) : magnitude(abs(column(k)))
+    template <int k, class Element>
+    VORM_INLINE void find(const Element& element)
     {
+        magnitude = abs(element(k));
         for (int i = k + 1; i < n; ++i) {
-            const Lanes<T> other = abs(column(i));
+            const Lanes<T> other = abs(element(i));
             is[i] = (other > magnitude).bits;
             magnitude = largerOf(other, magnitude);
         }
@@ -129,7 +123,7 @@ struct Pivot<k, n, Lanes<T>> {
             later = either(later, own);
         }
     }
-    template <class Element>
+    template <int k, class Element>
     VORM_INLINE void exchange(const Element& element) const
     {
         const auto top = element(k).v;
@@ -147,26 +141,36 @@ struct Pivot<k, n, Lanes<T>> {
 // Factorises a block in place, until a pivot is singular in any of its objects. Returns how many rows
 // have passed; these are final. Multipliers are products with a reciprocal, only the last one is a quotient.
 // A column is exchanged and eliminated at a time, while the masks and multipliers stay in registers.
-template <int n, class Number>
+// With rowsStay a block that passes has its rows where they were: multipliers are left out of later exchanges, and
+// every column goes back through those it took part in.
+template <bool rowsStay, int n, class Number>
 VORM_INLINE int luFactoriseHere(LuBlock<n, Number>& lu)
 {
     auto& a = lu.a;
     for (int r = 0; r < n; ++r) lu.rows[r] = numbered(lu.rows[r], r);
+    Pivot<n, Number> pivots[n - 1];
     int passed = 0;
     const auto passes = [&](Number magnitude) VORM_INLINE_LAMBDA {
         if (any(magnitude < tinyFor(magnitude))) return false;
         ++passed;
         return true;
     };
+    const auto exchangeColumn = [&](auto k, int c) VORM_INLINE_LAMBDA {
+        pivots[k].template exchange<k>([&](int i) VORM_INLINE_LAMBDA -> Number& { return a[i][c]; });
+    };
+    const auto restoreColumn = [&](auto last, int c) VORM_INLINE_LAMBDA {
+        unrolled<last + 1>([&](auto done) VORM_INLINE_LAMBDA {
+            exchangeColumn(std::integral_constant<int, last - done>{}, c);
+        });
+    };
     const auto step = [&](auto k) VORM_INLINE_LAMBDA {
-        const Pivot<k, n, Number> pivot([&](int i) VORM_INLINE_LAMBDA { return a[i][k]; });
-        const auto exchangeColumn = [&](int c) VORM_INLINE_LAMBDA {
-            pivot.exchange([&](int i) VORM_INLINE_LAMBDA -> Number& { return a[i][c]; });
-        };
-        pivot.exchange([&](int i) VORM_INLINE_LAMBDA -> auto& { return lu.rows[i]; });
-        exchangeColumn(k);
+        auto& pivot = pivots[k];
+        pivot.template find<k>([&](int i) VORM_INLINE_LAMBDA { return a[i][k]; });
+        pivot.template exchange<k>([&](int i) VORM_INLINE_LAMBDA -> auto& { return lu.rows[i]; });
+        exchangeColumn(k, k);
         if (!passes(pivot.magnitude)) return false;
-        for (int c = 0; c < k; ++c) exchangeColumn(c);
+        if constexpr (!rowsStay)
+            for (int c = 0; c < k; ++c) exchangeColumn(k, c);
         Number factors[n];
         if constexpr (k < n - 2) {
             const Number reciprocal = pivot.reciprocal(a[k][k]);
@@ -175,17 +179,19 @@ VORM_INLINE int luFactoriseHere(LuBlock<n, Number>& lu)
             factors[n - 1] = a[n - 1][k] / a[k][k];
         }
         for (int i = k + 1; i < n; ++i) a[i][k] = factors[i];
+        if constexpr (rowsStay) restoreColumn(k, k);
         for (int c = k + 1; c < n; ++c) {
-            exchangeColumn(c);
+            exchangeColumn(k, c);
             for (int i = k + 1; i < n; ++i) a[i][c] = a[i][c] - a[k][c] * factors[i];
         }
         return true;
     };
-    [&]<int... k>(std::integer_sequence<int, k...>) VORM_INLINE_LAMBDA
+    const bool whole = [&]<int... k>(std::integer_sequence<int, k...>) VORM_INLINE_LAMBDA
     {
-        (void)((... && step(std::integral_constant<int, k>{})) && passes(abs(a[n - 1][n - 1])));
+        return (... && step(std::integral_constant<int, k>{})) && passes(abs(a[n - 1][n - 1]));
     }
     (std::make_integer_sequence<int, n - 1>{});
+    if (rowsStay && whole) restoreColumn(std::integral_constant<int, n - 2>{}, n - 1);
     return passed;
 }
 
