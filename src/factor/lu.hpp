@@ -27,19 +27,6 @@ VORM_HIDDEN int luFactorise(LuBlock<n, Number>& lu);
 
 // Row numbers in lanes, those of a register of objects.
 template <int n>
-VORM_INLINE void loadRowNumbers(const int* pivotIndex, Lanes<float> (&rows)[n])
-{
-    const auto* const p = reinterpret_cast<const float*>(pivotIndex);
-    loadRows({p, p + n, p + 2 * n, p + 3 * n}, rows);
-}
-template <int n>
-VORM_INLINE void loadRowNumbers(const int* pivotIndex, Lanes<double> (&rows)[n])
-{
-    for (int k = 0; k < n; ++k)
-        rows[k] = _mm_castsi128_pd(_mm_unpacklo_epi64(_mm_cvtsi32_si128(pivotAt(pivotIndex, k)),
-                                                      _mm_cvtsi32_si128(pivotAt(pivotIndex, n + k))));
-}
-template <int n>
 VORM_INLINE void storeRowNumbers(const Lanes<float> (&rows)[n], int* pivotIndex)
 {
     auto* const p = reinterpret_cast<float*>(pivotIndex);
@@ -99,7 +86,9 @@ VORM_INLINE bool luLanes(const Src& src, const Dst& dst, int first, int* pivotIn
     } else {
         gatherMatrices(src, first, width, n, reinterpret_cast<T*>(lu.a));
     }
-    if ((n <= 4 && (isAdjacent<Src> || isInPlanes<Src>) ? luFactoriseHere<rowsStay>(lu) : luFactorise<rowsStay>(lu)) < n) return false;
+    if ((n <= 4 && (isAdjacent<Src> || isInPlanes<Src>) ? luFactoriseHere<rowsStay>(lu) : luFactorise<rowsStay>(lu)) <
+        n)
+        return false;
 
     storeRowNumbers(lu.rows, pivotIndex);
     if constexpr (isAdjacent<Dst>) {

@@ -30,9 +30,8 @@ VORM_INLINE Lanes<double> withFactor(Lanes<double> x, Lanes<double> f, Lanes<dou
 template <int k>
 VORM_INLINE Lanes<float> lanesOf(const Lanes<float> (&x)[4])
 {
-    const auto pair = [](Lanes<float> a, Lanes<float> b) VORM_INLINE_LAMBDA {
-        return k < 2 ? _mm_unpacklo_ps(a.v, b.v) : _mm_unpackhi_ps(a.v, b.v);
-    };
+    const auto pair = [](Lanes<float> a, Lanes<float> b)
+                          VORM_INLINE_LAMBDA { return k < 2 ? _mm_unpacklo_ps(a.v, b.v) : _mm_unpackhi_ps(a.v, b.v); };
     const __m128 low = pair(x[0], x[1]), high = pair(x[2], x[3]);
     return k % 2 == 0 ? _mm_movelh_ps(low, high) : _mm_movehl_ps(high, low);
 }
@@ -214,9 +213,9 @@ template void luSubstitute<1>(const Lanes<double>* lu, Lanes<double>* x, int n);
 template void luSubstitute<luRegisters>(const Lanes<float>* lu, Lanes<float>* x, int n);
 template void luSubstitute<luRegisters>(const Lanes<double>* lu, Lanes<double>* x, int n);
 
-#define LU_BLOCKS(n, T)                                 \
-    template int luFactorise<false>(LuBlock<n, T>& lu); \
-    template int luFactorise<false>(LuBlock<n, Lanes<T>>& lu);
+#define LU_BLOCKS(n, T)                                  \
+    template int luFactorise<false>(LuBlock<n, T> & lu); \
+    template int luFactorise<false>(LuBlock<n, Lanes<T>> & lu);
 #define LU_BLOCKS_OF_TYPE(T) LU_BLOCKS(3, T) LU_BLOCKS(4, T) LU_BLOCKS(5, T) LU_BLOCKS(6, T)
 
 LU_BLOCKS_OF_TYPE(float)

@@ -58,15 +58,6 @@ VORM_INLINE Lanes<T> numbered(Lanes<T>, int r)
     return rowNumber<T>(r);
 }
 VORM_INLINE int numbered(int, int r) { return r; }
-inline __m128 sameNumber(__m128 a, __m128 b)
-{
-    return _mm_castsi128_ps(_mm_cmpeq_epi32(_mm_castps_si128(a), _mm_castps_si128(b)));
-}
-inline __m128d sameNumber(__m128d a, __m128d b)  // in the lower halves
-{
-    const __m128i same = _mm_cmpeq_epi32(_mm_castpd_si128(a), _mm_castpd_si128(b));
-    return _mm_castsi128_pd(_mm_shuffle_epi32(same, _MM_SHUFFLE(2, 2, 0, 0)));
-}
 
 // Larger, or what was the largest unless it is less: a NaN displaces nothing, and nothing displaces it.
 inline __m128 largerOf(Lanes<float> magnitude, Lanes<float> largest) { return _mm_max_ps(magnitude.v, largest.v); }
@@ -159,24 +150,31 @@ VORM_INLINE int luFactoriseHere(LuBlock<n, Number>& lu)
         pivots[k].template exchange<k>([&](int i) VORM_INLINE_LAMBDA -> Number& { return a[i][c]; });
     };
     const auto restoreColumn = [&](auto last, int c) VORM_INLINE_LAMBDA {
-        unrolled<last + 1>([&](auto done) VORM_INLINE_LAMBDA {
-            exchangeColumn(std::integral_constant<int, last - done>{}, c);
-        });
+        unrolled<last + 1>([&](auto done)
+                               VORM_INLINE_LAMBDA { exchangeColumn(std::integral_constant<int, last - done>{}, c); });
     };
     const auto step = [&](auto k) VORM_INLINE_LAMBDA {
         auto& pivot = pivots[k];
         pivot.template find<k>([&](int i) VORM_INLINE_LAMBDA { return a[i][k]; });
-        pivot.template exchange<k>([&](int i) VORM_INLINE_LAMBDA -> auto& { return lu.rows[i]; });
+        // While the division, which takes longest, is under way.
+        const auto exchangeRest = [&]() VORM_INLINE_LAMBDA {
+            pivot.template exchange<k>([&](int i) VORM_INLINE_LAMBDA -> auto& { return lu.rows[i]; });
+            if constexpr (!rowsStay)
+                for (int c = 0; c < k; ++c) exchangeColumn(k, c);
+        };
         exchangeColumn(k, k);
-        if (!passes(pivot.magnitude)) return false;
-        if constexpr (!rowsStay)
-            for (int c = 0; c < k; ++c) exchangeColumn(k, c);
         Number factors[n];
+        if (!passes(pivot.magnitude)) {
+            exchangeRest();
+            return false;
+        }
         if constexpr (k < n - 2) {
             const Number reciprocal = pivot.reciprocal(a[k][k]);
+            exchangeRest();
             for (int i = k + 1; i < n; ++i) factors[i] = a[i][k] * reciprocal;
         } else {
             factors[n - 1] = a[n - 1][k] / a[k][k];
+            exchangeRest();
         }
         for (int i = k + 1; i < n; ++i) a[i][k] = factors[i];
         if constexpr (rowsStay) restoreColumn(k, k);

@@ -88,17 +88,17 @@ VORM_INLINE void loadPivoted(const M& matrix, const B& b, int first, const int* 
                              Lanes<float> (&x)[3])
 {
     __m128 front[3][2], back[3][2], values[3][2];
-    eachPivotRow(matrix, b, first, pivotIndex, [&](auto l, auto k, const float* row, const float* element)
-                                                   VORM_INLINE_LAMBDA {
-        __m128 &low = front[k][l / 2], &high = back[k][l / 2], &value = values[k][l / 2];
-        if constexpr (l % 2 == 0) {
-            low = loadFirst<2>(row).v, high = loadFirst<2>(row + 1).v, value = loadFirst<1>(element).v;
-        } else {
-            low = _mm_loadh_pi(low, reinterpret_cast<const __m64*>(row));
-            high = _mm_loadh_pi(high, reinterpret_cast<const __m64*>(row + 1));
-            value = _mm_unpacklo_ps(value, loadFirst<1>(element).v);
-        }
-    });
+    eachPivotRow(matrix, b, first, pivotIndex,
+                 [&](auto l, auto k, const float* row, const float* element) VORM_INLINE_LAMBDA {
+                     __m128 &low = front[k][l / 2], &high = back[k][l / 2], &value = values[k][l / 2];
+                     if constexpr (l % 2 == 0) {
+                         low = loadFirst<2>(row).v, high = loadFirst<2>(row + 1).v, value = loadFirst<1>(element).v;
+                     } else {
+                         low = _mm_loadh_pi(low, reinterpret_cast<const __m64*>(row));
+                         high = _mm_loadh_pi(high, reinterpret_cast<const __m64*>(row + 1));
+                         value = _mm_unpacklo_ps(value, loadFirst<1>(element).v);
+                     }
+                 });
     unrolled<3>([&](auto k) VORM_INLINE_LAMBDA {
         lu[k][0] = _mm_shuffle_ps(front[k][0], front[k][1], _MM_SHUFFLE(2, 0, 2, 0));
         lu[k][1] = _mm_shuffle_ps(front[k][0], front[k][1], _MM_SHUFFLE(3, 1, 3, 1));
@@ -111,17 +111,17 @@ VORM_INLINE void loadPivoted(const M& matrix, const B& b, int first, const int* 
                              Lanes<double> (&x)[3])
 {
     __m128d front[3], back[3], values[3];
-    eachPivotRow(matrix, b, first, pivotIndex, [&](auto l, auto k, const double* row, const double* element)
-                                                   VORM_INLINE_LAMBDA {
-        if constexpr (l == 0) {
-            front[k] = Lanes<double>::load(row).v;
-            back[k] = loadFirst<1>(row + 2).v, values[k] = loadFirst<1>(element).v;
-        } else {
-            const __m128d next = Lanes<double>::load(row).v;
-            lu[k][0] = _mm_unpacklo_pd(front[k], next), lu[k][1] = _mm_unpackhi_pd(front[k], next);
-            lu[k][2] = _mm_loadh_pd(back[k], row + 2), x[k] = _mm_loadh_pd(values[k], element);
-        }
-    });
+    eachPivotRow(matrix, b, first, pivotIndex,
+                 [&](auto l, auto k, const double* row, const double* element) VORM_INLINE_LAMBDA {
+                     if constexpr (l == 0) {
+                         front[k] = Lanes<double>::load(row).v;
+                         back[k] = loadFirst<1>(row + 2).v, values[k] = loadFirst<1>(element).v;
+                     } else {
+                         const __m128d next = Lanes<double>::load(row).v;
+                         lu[k][0] = _mm_unpacklo_pd(front[k], next), lu[k][1] = _mm_unpackhi_pd(front[k], next);
+                         lu[k][2] = _mm_loadh_pd(back[k], row + 2), x[k] = _mm_loadh_pd(values[k], element);
+                     }
+                 });
 }
 
 // A register of objects. Their rows are loaded in logical order; from planes, where those of no two objects lie
@@ -162,7 +162,8 @@ VORM_INLINE void luSolveLanes(const M& matrix, const B& b, const X& dst, int fir
                 }
             }
             if constexpr (!joined)
-                x[k] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, pivotAt(pivotIndex, l * n + k))); });
+                x[k] =
+                    lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, pivotAt(pivotIndex, l * n + k))); });
         });
     } else if constexpr (isAdjacent<M> && isAdjacent<B> && n == 3) {
         loadPivoted(matrix, b, first, pivotIndex, lu, x);
