@@ -132,8 +132,10 @@ VORM_INLINE VormStatus luArray(const Dst& dst, int order, int count, const Block
     }
     return StatusOk;
 }
+// Each order in a function of its own, with views of its own: in one for all of them most of what the loops need would
+// lie in memory.
 template <int n, class T, class Src, class Dst>
-VORM_INLINE VormStatus luObjects(const Src& src, const Dst& dst, int* pivotIndex, int count)
+[[gnu::noinline]] VormStatus luObjects(const Src src, const Dst dst, int* pivotIndex, int count)
 {
     const auto pivots = [&](int object) VORM_INLINE_LAMBDA { return pivotIndex + std::ptrdiff_t{object} * n; };
     return luArray<T>(

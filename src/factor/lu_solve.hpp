@@ -194,8 +194,9 @@ VORM_INLINE void luSolveLanes(const M& matrix, const B& b, const X& dst, int fir
     storeLanes(dst, first, x);
 }
 
+// A function of its own, as luObjects is.
 template <int n, class T, class M, class B, class X>
-VORM_INLINE void luSolvePairs(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int count)
+[[gnu::noinline]] void luSolvePairs(const M matrix, const B b, const X dst, const int* pivotIndex, int count)
 {
     const auto pivots = [&](int object) VORM_INLINE_LAMBDA { return pivotIndex + std::ptrdiff_t{object} * n; };
     const auto single = [&](int object)
@@ -244,9 +245,9 @@ VORM_INLINE void loadLanes(const B& b, int first, Lanes<T> (&x)[n])
 }
 
 // All vectors with one matrix: reciprocals of the diagonal, once per call. Single vectors run in lanes
-// too, all of them the same.
+// too, all of them the same. A function of its own, as luObjects is.
 template <int n, class T, class M, class B, class X>
-VORM_INLINE void luSolveVectors(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int count)
+[[gnu::noinline]] void luSolveVectors(const M matrix, const B b, const X dst, const int* pivotIndex, int count)
 {
     constexpr int width = Lanes<T>::width;
     Lanes<T> lu[n][n], reciprocals[n];
