@@ -1,7 +1,7 @@
 // Elimination and substitution of one matrix or of a register of them: each body once, for all layouts.
 
 #include <array>
-#include <numeric>
+#include <cstdint>
 
 #include "factor/lu.hpp"
 #include "factor/lu_elimination.hpp"
@@ -55,14 +55,6 @@ struct PivotSearch {
         largest = largerOf(magnitude, largest);
     }
 };
-
-}  // namespace
-
-template <bool rowsStay, int n, class Number>
-int luFactorise(LuBlock<n, Number>& lu)
-{
-    return luFactoriseHere<rowsStay>(lu);
-}
 
 // The row numbers of one object, four bits each: in memory a load of one would often overtake the exchange before it.
 class RowOrder {
@@ -139,6 +131,14 @@ bool luFactoriseRows(Lanes<T>* a, int* order, int n)
     for (int l = 0; l < width; ++l)
         for (int k = 0; k < n; ++k) order[l * n + k] = static_cast<int>(rows[l][k]);
     return true;
+}
+
+}  // namespace
+
+template <bool rowsStay, int n, class Number>
+int luFactorise(LuBlock<n, Number>& lu)
+{
+    return luFactoriseHere<rowsStay>(lu);
 }
 
 template <class T>
