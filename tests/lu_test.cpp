@@ -283,7 +283,7 @@ TEST_F(Lu, EveryPlacement)
     int placements = 0;
     ASSERT_EQ(members(false).size(), 26u);
     for (const Function* f : members(false))
-        for (int order : {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 12, 17, 26, 40})
+        for (int order : {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 14, 16, 17, 26, 40})
             for (int repeat = 0; repeat < (isUnrolled(order) ? 200 : order < 12 ? 40 : 10); ++repeat) {
                 Case c{.order = order, .count = f->isArray() ? pick(random, 1, chance(random, 20) ? 40 : 14) : 1};
                 for (Lie* lie : {&c.src, &c.src2, &c.dst}) *lie = someLie(random, "", 1, 1, 1);

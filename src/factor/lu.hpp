@@ -22,23 +22,10 @@ VORM_INLINE int pivotAt(const int* pivotIndex, std::ptrdiff_t k)
 
 // luFactoriseHere, compiled once, in lu_blocks.cpp. Only of the orders 3 and 4 the call and the way through memory
 // cost more than what the compiler loses in a larger function.
-template <int n, class Number>
+template <bool rowsStay, int n, class Number>
 VORM_HIDDEN int luFactorise(LuBlock<n, Number>& lu);
 
 // Row numbers in lanes, those of a register of objects.
-template <int n>
-VORM_INLINE void loadRowNumbers(const int* pivotIndex, Lanes<float> (&rows)[n])
-{
-    const auto* const p = reinterpret_cast<const float*>(pivotIndex);
-    loadRows({p, p + n, p + 2 * n, p + 3 * n}, rows);
-}
-template <int n>
-VORM_INLINE void loadRowNumbers(const int* pivotIndex, Lanes<double> (&rows)[n])
-{
-    for (int k = 0; k < n; ++k)
-        rows[k] = _mm_castsi128_pd(_mm_unpacklo_epi64(_mm_cvtsi32_si128(pivotAt(pivotIndex, k)),
-                                                      _mm_cvtsi32_si128(pivotAt(pivotIndex, n + k))));
-}
 template <int n>
 VORM_INLINE void storeRowNumbers(const Lanes<float> (&rows)[n], int* pivotIndex)
 {
@@ -72,7 +59,7 @@ VORM_INLINE VormStatus luObject(const Src& src, const Dst& dst, int object, int*
 {
     LuBlock<n, T> lu;
     gatherMatrices(src, object, 1, n, lu.a[0]);
-    const int passed = luFactorise(lu);
+    const int passed = luFactorise<false>(lu);
     std::memcpy(static_cast<void*>(pivotIndex), lu.rows, sizeof lu.rows);
     scatterPivotRows(dst, object, 1, n, passed, pivotIndex, lu.a[0]);
     return passed == n ? StatusOk : StatusSingular;
@@ -83,6 +70,8 @@ template <int n, class T, class Src, class Dst>
 VORM_INLINE bool luLanes(const Src& src, const Dst& dst, int first, int* pivotIndex)
 {
     constexpr int width = Lanes<T>::width;
+    // Two lanes of even orders are rather stored one by one, where their rows belong.
+    constexpr bool rowsStay = isInPlanes<Dst> && (width == 4 || n % 2 == 1);
     LuBlock<n, Lanes<T>> lu;
     if constexpr (isAdjacent<Src>) {
         unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
@@ -97,7 +86,9 @@ VORM_INLINE bool luLanes(const Src& src, const Dst& dst, int first, int* pivotIn
     } else {
         gatherMatrices(src, first, width, n, reinterpret_cast<T*>(lu.a));
     }
-    if ((n <= 4 && (isAdjacent<Src> || isInPlanes<Src>) ? luFactoriseHere(lu) : luFactorise(lu)) < n) return false;
+    if ((n <= 4 && (isAdjacent<Src> || isInPlanes<Src>) ? luFactoriseHere<rowsStay>(lu) : luFactorise<rowsStay>(lu)) <
+        n)
+        return false;
 
     storeRowNumbers(lu.rows, pivotIndex);
     if constexpr (isAdjacent<Dst>) {
@@ -106,26 +97,18 @@ VORM_INLINE bool luLanes(const Src& src, const Dst& dst, int first, int* pivotIn
             for (int l = 0; l < width; ++l) to[l] = rowAt(dst, first + l, pivotAt(pivotIndex, l * n + k));
             storeRows(to, lu.a[k]);
         });
+    } else if constexpr (rowsStay) {
+        unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
+            for (int c = 0; c < n; ++c) lu.a[r][c].store(dst.element(r, c) + first);
+        });
     } else if constexpr (isInPlanes<Dst>) {
-        if constexpr (width == 2) {
-            unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
-                unrolled<width>([&](auto l) VORM_INLINE_LAMBDA {
-                    const int row = pivotAt(pivotIndex, l * n + k);
-                    for (int c = 0; c < n; ++c) dst(first + l, row, c) = lane<l>(lu.a[k][c]);
-                });
+        const std::ptrdiff_t offset = dst.shift + first * std::ptrdiff_t{sizeof(T)};
+        unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
+            unrolled<width>([&](auto l) VORM_INLINE_LAMBDA {
+                T* const* const planes = dst.pp + pivotAt(pivotIndex, l * n + k) * std::ptrdiff_t{n};
+                for (int c = 0; c < n; ++c) elementAt(planes[c] + l, offset) = lane<l>(lu.a[k][c]);
             });
-        } else {
-            // Row k of the block is row r of the source in the lanes of is[k].
-            unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
-                decltype(LaneMask<T>::bits) is[n];
-                for (int k = 0; k < n; ++k) is[k] = sameNumber(lu.rows[k].v, rowNumber<T>(r).v);
-                for (int c = 0; c < n; ++c) {
-                    auto found = both(is[0], lu.a[0][c].v);
-                    for (int k = 1; k < n; ++k) found = either(found, both(is[k], lu.a[k][c].v));
-                    Lanes<T>(found).store(dst.element(r, c) + first);
-                }
-            });
-        }
+        });
     } else {
         scatterPivotRows(dst, first, width, n, n, pivotIndex, reinterpret_cast<const T*>(lu.a));
     }
@@ -149,8 +132,10 @@ VORM_INLINE VormStatus luArray(const Dst& dst, int order, int count, const Block
     }
     return StatusOk;
 }
+// Each order in a function of its own, with views of its own: in one for all of them most of what the loops need would
+// lie in memory.
 template <int n, class T, class Src, class Dst>
-VORM_INLINE VormStatus luObjects(const Src& src, const Dst& dst, int* pivotIndex, int count)
+[[gnu::noinline]] VormStatus luObjects(const Src src, const Dst dst, int* pivotIndex, int count)
 {
     const auto pivots = [&](int object) VORM_INLINE_LAMBDA { return pivotIndex + std::ptrdiff_t{object} * n; };
     return luArray<T>(
@@ -238,45 +223,88 @@ VORM_INLINE VormStatus luGeneral(const Src& src, const Dst& dst, int object, int
     return abs(T(row(order - 1)(order - 1))) <= luEpsilon<T> ? StatusSingular : StatusOk;
 }
 
-// Orders up to this run in lanes in arrays.
+// Arrays of orders up to this run several objects at a time, as many as a register has lanes, in a buffer: object by
+// object, in rows of whole registers.
 constexpr int luLanesOrder = 16;
-
-// Factorises a register of matrices of any order n in place, with n row numbers for each; or finds that
-// one of them is singular.
 template <class T>
-VORM_HIDDEN bool luFactorise(Lanes<T>* a, int* rows, int n);
+constexpr int luRegistersOf(int n)
+{
+    return (n + Lanes<T>::width - 1) / Lanes<T>::width;
+}
+template <class T>
+using LuBuffer = Lanes<T>[luLanesOrder * luLanesOrder];
+
+template <class T, class Src>
+VORM_INLINE void luLoad(const Src& src, int first, int n, Lanes<T>* to)
+{
+    constexpr int width = Lanes<T>::width;
+    const int registers = luRegistersOf<T>(n), whole = n / width, rest = n % width;
+    if constexpr (isAdjacent<Src>) {
+        for (int l = 0; l < width; ++l)
+            for (int r = 0; r < n; ++r, to += registers) {
+                const T* const from = rowAt(src, first + l, r);
+                for (int i = 0; i < whole; ++i) to[i] = Lanes<T>::load(from + i * width);
+                if (rest > 0) to[whole] = loadFirst(from + whole * width, rest);
+            }
+    } else if constexpr (isInPlanes<Src>) {
+        for (int r = 0; r < n; ++r)
+            for (int i = 0; i < registers; ++i) {
+                Lanes<T> block[width];
+                for (int c = 0; c < width; ++c)
+                    block[c] = i < whole || c < rest ? Lanes<T>::load(src.element(r, i * width + c) + first) : T(0);
+                transpose(block);
+                for (int l = 0; l < width; ++l) to[(l * n + r) * registers + i] = block[l];
+            }
+    } else {
+        auto* const elements = reinterpret_cast<T*>(to);
+        for (int l = 0; l < width; ++l)
+            for (int r = 0; r < n; ++r)
+                for (int c = 0; c < registers * width; ++c)
+                    elements[(l * n + r) * registers * width + c] = c < n ? T(src(first + l, r, c)) : 0;
+    }
+}
+template <class T, class Dst>
+VORM_INLINE void luStore(const Dst& dst, int first, int n, const Lanes<T>* from)
+{
+    constexpr int width = Lanes<T>::width;
+    const int registers = luRegistersOf<T>(n), whole = n / width, rest = n % width;
+    if constexpr (isAdjacent<Dst>) {
+        for (int l = 0; l < width; ++l)
+            for (int r = 0; r < n; ++r, from += registers) {
+                T* const to = rowAt(dst, first + l, r);
+                for (int i = 0; i < whole; ++i) from[i].store(to + i * width);
+                if (rest > 0) storeFirst(to + whole * width, from[whole], rest);
+            }
+    } else if constexpr (isInPlanes<Dst>) {
+        for (int r = 0; r < n; ++r)
+            for (int i = 0; i < registers; ++i) {
+                Lanes<T> block[width];
+                for (int l = 0; l < width; ++l) block[l] = from[(l * n + r) * registers + i];
+                transpose(block);
+                for (int c = 0; c < width; ++c)
+                    if (i < whole || c < rest) block[c].store(dst.element(r, i * width + c) + first);
+            }
+    } else {
+        const auto* const elements = reinterpret_cast<const T*>(from);
+        for (int l = 0; l < width; ++l)
+            for (int r = 0; r < n; ++r)
+                for (int c = 0; c < n; ++c) dst(first + l, r, c) = elements[(l * n + r) * registers * width + c];
+    }
+}
+
+// Factorises a buffer in place, with n row numbers for each object; or finds that one of them is singular.
+template <class T>
+VORM_HIDDEN bool luFactorise(Lanes<T>* a, int* order, int n);
 
 template <class T, class Src, class Dst>
 [[gnu::noinline]] bool luLanesGeneral(const Src& src, const Dst& dst, int first, int n, int* pivotIndex)
 {
-    constexpr int width = Lanes<T>::width;
-    Lanes<T> a[luLanesOrder * luLanesOrder];
-    int rows[luLanesOrder * width];
-    if constexpr (isAdjacent<Src>) {
-        for (int r = 0; r < n; ++r) {
-            const T* from[width];
-            for (int l = 0; l < width; ++l) from[l] = rowAt(src, first + l, r);
-            loadRows(from, a + r * n, n);
-        }
-    } else if constexpr (isInPlanes<Src>) {
-        for (int r = 0; r < n; ++r)
-            for (int c = 0; c < n; ++c) a[r * n + c] = Lanes<T>::load(src.element(r, c) + first);
-    } else {
-        gatherMatrices(src, first, width, n, reinterpret_cast<T*>(a));
-    }
-    if (!luFactorise(a, rows, n)) return false;
-
-    if constexpr (isAdjacent<Dst>) {
-        for (int k = 0; k < n; ++k) {
-            T* to[width];
-            for (int l = 0; l < width; ++l) to[l] = rowAt(dst, first + l, rows[l * n + k]);
-            storeRows(to, a + k * n, n);
-        }
-    } else {
-        scatterPivotRows(dst, first, width, n, n, rows, reinterpret_cast<const T*>(a));
-    }
-    // Last, as a load that spans several of the stores just made would wait for all of them.
-    std::memcpy(static_cast<void*>(pivotIndex), rows, std::size_t(n) * width * sizeof(int));
+    LuBuffer<T> a;
+    int order[luLanesOrder * Lanes<T>::width];
+    luLoad(src, first, n, a);
+    if (!luFactorise(a, order, n)) return false;
+    luStore(dst, first, n, a);
+    std::memcpy(static_cast<void*>(pivotIndex), order, std::size_t(n) * Lanes<T>::width * sizeof(int));
     return true;
 }
 

@@ -38,6 +38,8 @@ inline __m128 either(__m128 a, __m128 b) { return _mm_or_ps(a, b); }
 inline __m128d either(__m128d a, __m128d b) { return _mm_or_pd(a, b); }
 inline __m128 differing(__m128 a, __m128 b) { return _mm_xor_ps(a, b); }
 inline __m128d differing(__m128d a, __m128d b) { return _mm_xor_pd(a, b); }
+inline __m128 without(__m128 a, __m128 b) { return _mm_andnot_ps(b, a); }
+inline __m128d without(__m128d a, __m128d b) { return _mm_andnot_pd(b, a); }
 inline __m128i bitsOf(__m128 a) { return _mm_castps_si128(a); }
 inline __m128i bitsOf(__m128d a) { return _mm_castpd_si128(a); }
 
@@ -56,103 +58,138 @@ VORM_INLINE Lanes<T> numbered(Lanes<T>, int r)
     return rowNumber<T>(r);
 }
 VORM_INLINE int numbered(int, int r) { return r; }
-inline __m128 sameNumber(__m128 a, __m128 b)
-{
-    return _mm_castsi128_ps(_mm_cmpeq_epi32(_mm_castps_si128(a), _mm_castps_si128(b)));
-}
-inline __m128d sameNumber(__m128d a, __m128d b)  // in the lower halves
-{
-    const __m128i same = _mm_cmpeq_epi32(_mm_castpd_si128(a), _mm_castpd_si128(b));
-    return _mm_castsi128_pd(_mm_shuffle_epi32(same, _MM_SHUFFLE(2, 2, 0, 0)));
-}
 
 // Larger, or what was the largest unless it is less: a NaN displaces nothing, and nothing displaces it.
 inline __m128 largerOf(Lanes<float> magnitude, Lanes<float> largest) { return _mm_max_ps(magnitude.v, largest.v); }
 inline __m128d largerOf(Lanes<double> magnitude, Lanes<double> largest) { return _mm_max_pd(magnitude.v, largest.v); }
 
-// Finds the pivot of column k, the first of the largest magnitudes from row k on, and returns what lets row
-// k and the pivot row change places: a function of the elements' place in each row.
-template <int k, int n, class T>
-VORM_INLINE auto exchangeWithPivot(const T (&a)[n][n])
+// 1 / pivot, whose division need not wait for the pivot: the sign is all that the magnitude lacks.
+template <class T>
+VORM_INLINE Lanes<T> reciprocalOf(Lanes<T> pivot, Lanes<T> magnitude)
 {
-    int p = k;
-    for (int i = k + 1; i < n; ++i)
-        if (abs(a[i][k]) > abs(a[p][k])) p = i;
-    return [p](auto element) VORM_INLINE_LAMBDA { std::swap(element(k), element(p)); };
+    return differing((Lanes<T>(T(1)) / magnitude).v, both(pivot.v, Lanes<T>(-T(0)).v));
 }
+
+// The pivots of step k, the first of the largest magnitudes of a column from row k on: finds them and lets row k and
+// the pivot row change places. element(i) is what is to move of row i.
+template <int n, class Number>
+struct Pivot {
+    int row = 0;
+    Number magnitude;
+    template <int k, class Element>
+    VORM_INLINE void find(const Element& element)
+    {
+        row = k, magnitude = abs(element(k));
+        for (int i = k + 1; i < n; ++i)
+            if (const Number other = abs(element(i)); other > magnitude) magnitude = other, row = i;
+    }
+    template <int k, class Element>
+    VORM_INLINE void exchange(const Element& element) const
+    {
+        std::swap(element(k), element(row));
+    }
+    VORM_INLINE Number reciprocal(Number pivot) const { return 1 / pivot; }
+};
+
 // Lane by lane, without a branch or an address that depends on the pivots: every row is looked at, and
 // changes places in the lanes whose pivot it is.
-template <int k, int n, class T>
-VORM_INLINE auto exchangeWithPivot(const Lanes<T> (&a)[n][n])
-{
+template <int n, class T>
+struct Pivot<n, Lanes<T>> {
     using Bits = decltype(LaneMask<T>::bits);
     Bits is[n];
-    Lanes<T> largest = abs(a[k][k]);
-    for (int i = k + 1; i < n; ++i) {
-        const Lanes<T> magnitude = abs(a[i][k]);
-        is[i] = (magnitude > largest).bits;
-        largest = largerOf(magnitude, largest);
+    Lanes<T> magnitude;
+    template <int k, class Element>
+    VORM_INLINE void find(const Element& element)
+    {
+        magnitude = abs(element(k));
+        for (int i = k + 1; i < n; ++i) {
+            const Lanes<T> other = abs(element(i));
+            is[i] = (other > magnitude).bits;
+            magnitude = largerOf(other, magnitude);
+        }
+        Bits later = is[n - 1];  // the last one to displace the largest is the pivot
+        for (int i = n - 2; i > k; --i) {
+            const Bits own = is[i];
+            is[i] = without(own, later);
+            later = either(later, own);
+        }
     }
-    Bits later = is[n - 1];  // the last one to displace the largest is the pivot
-    for (int i = n - 2; i > k; --i) {
-        const Bits own = is[i];
-        is[i] = both(own, differing(own, later));
-        later = either(later, own);
-    }
-    return [is](auto element) VORM_INLINE_LAMBDA {
+    template <int k, class Element>
+    VORM_INLINE void exchange(const Element& element) const
+    {
         const auto top = element(k).v;
         auto changes = differing(top, top);
         for (int i = k + 1; i < n; ++i) {
             const auto change = both(is[i], differing(top, element(i).v));
             element(i) = differing(element(i).v, change);
-            changes = either(changes, change);
+            changes = i == k + 1 ? change : either(changes, change);
         }
         element(k) = differing(top, changes);
-    };
-}
+    }
+    VORM_INLINE Lanes<T> reciprocal(Lanes<T> pivot) const { return reciprocalOf(pivot, magnitude); }
+};
 
 // Factorises a block in place, until a pivot is singular in any of its objects. Returns how many rows
 // have passed; these are final. Multipliers are products with a reciprocal, only the last one is a quotient.
 // A column is exchanged and eliminated at a time, while the masks and multipliers stay in registers.
-template <int n, class Number>
+// With rowsStay a block that passes has its rows where they were: multipliers are left out of later exchanges, and
+// every column goes back through those it took part in.
+template <bool rowsStay, int n, class Number>
 VORM_INLINE int luFactoriseHere(LuBlock<n, Number>& lu)
 {
     auto& a = lu.a;
     for (int r = 0; r < n; ++r) lu.rows[r] = numbered(lu.rows[r], r);
+    Pivot<n, Number> pivots[n - 1];
     int passed = 0;
-    const auto passes = [&](int k) VORM_INLINE_LAMBDA {
-        if (any(abs(a[k][k]) < tinyFor(a[k][k]))) return false;
+    const auto passes = [&](Number magnitude) VORM_INLINE_LAMBDA {
+        if (any(magnitude < tinyFor(magnitude))) return false;
         ++passed;
         return true;
     };
+    const auto exchangeColumn = [&](auto k, int c) VORM_INLINE_LAMBDA {
+        pivots[k].template exchange<k>([&](int i) VORM_INLINE_LAMBDA -> Number& { return a[i][c]; });
+    };
+    const auto restoreColumn = [&](auto last, int c) VORM_INLINE_LAMBDA {
+        unrolled<last + 1>([&](auto done)
+                               VORM_INLINE_LAMBDA { exchangeColumn(std::integral_constant<int, last - done>{}, c); });
+    };
     const auto step = [&](auto k) VORM_INLINE_LAMBDA {
-        const auto exchange = exchangeWithPivot<k>(a);
-        const auto exchangeColumn = [&](int c) VORM_INLINE_LAMBDA {
-            exchange([&](int i) VORM_INLINE_LAMBDA -> Number& { return a[i][c]; });
+        auto& pivot = pivots[k];
+        pivot.template find<k>([&](int i) VORM_INLINE_LAMBDA { return a[i][k]; });
+        // While the division, which takes longest, is under way.
+        const auto exchangeRest = [&]() VORM_INLINE_LAMBDA {
+            pivot.template exchange<k>([&](int i) VORM_INLINE_LAMBDA -> auto& { return lu.rows[i]; });
+            if constexpr (!rowsStay)
+                for (int c = 0; c < k; ++c) exchangeColumn(k, c);
         };
-        exchange([&](int i) VORM_INLINE_LAMBDA -> auto& { return lu.rows[i]; });
-        exchangeColumn(k);
-        if (!passes(k)) return false;
-        for (int c = 0; c < k; ++c) exchangeColumn(c);
+        exchangeColumn(k, k);
         Number factors[n];
+        if (!passes(pivot.magnitude)) {
+            exchangeRest();
+            return false;
+        }
         if constexpr (k < n - 2) {
-            const Number reciprocal = Number(1) / a[k][k];
+            const Number reciprocal = pivot.reciprocal(a[k][k]);
+            exchangeRest();
             for (int i = k + 1; i < n; ++i) factors[i] = a[i][k] * reciprocal;
         } else {
             factors[n - 1] = a[n - 1][k] / a[k][k];
+            exchangeRest();
         }
         for (int i = k + 1; i < n; ++i) a[i][k] = factors[i];
+        if constexpr (rowsStay) restoreColumn(k, k);
         for (int c = k + 1; c < n; ++c) {
-            exchangeColumn(c);
+            exchangeColumn(k, c);
             for (int i = k + 1; i < n; ++i) a[i][c] = a[i][c] - a[k][c] * factors[i];
         }
         return true;
     };
-    [&]<int... k>(std::integer_sequence<int, k...>) VORM_INLINE_LAMBDA
+    const bool whole = [&]<int... k>(std::integer_sequence<int, k...>) VORM_INLINE_LAMBDA
     {
-        (void)((... && step(std::integral_constant<int, k>{})) && passes(n - 1));
+        return (... && step(std::integral_constant<int, k>{})) && passes(abs(a[n - 1][n - 1]));
     }
     (std::make_integer_sequence<int, n - 1>{});
+    if (rowsStay && whole) restoreColumn(std::integral_constant<int, n - 2>{}, n - 1);
     return passed;
 }
 

@@ -68,6 +68,62 @@ VORM_INLINE void luEachVector(const X& dst, int n, int count, const Single& sing
     }
 }
 
+// Order 3, where a substitution is so little work that its loads are most of it: object by object, as the addresses of
+// all the rows would be more than there are registers for them.
+template <class M, class B, class Load>
+VORM_INLINE void eachPivotRow(const M& matrix, const B& b, int first, const int* pivotIndex, const Load& load)
+{
+    using T = std::remove_const_t<std::remove_pointer_t<decltype(b.object(0))>>;
+    unrolled<Lanes<T>::width>([&](auto l) VORM_INLINE_LAMBDA {
+        const T* const object = matrix.object(first + l);
+        const T* const vector = b.object(first + l);
+        unrolled<3>([&](auto k) VORM_INLINE_LAMBDA {
+            const std::ptrdiff_t row = pivotAt(pivotIndex, l * 3 + k);
+            load(l, k, advance(object, row * matrix.stride1), advance(vector, row * std::ptrdiff_t{sizeof(T)}));
+        });
+    });
+}
+template <class M, class B>
+VORM_INLINE void loadPivoted(const M& matrix, const B& b, int first, const int* pivotIndex, Lanes<float> (&lu)[3][3],
+                             Lanes<float> (&x)[3])
+{
+    __m128 front[3][2], back[3][2], values[3][2];
+    eachPivotRow(matrix, b, first, pivotIndex,
+                 [&](auto l, auto k, const float* row, const float* element) VORM_INLINE_LAMBDA {
+                     __m128 &low = front[k][l / 2], &high = back[k][l / 2], &value = values[k][l / 2];
+                     if constexpr (l % 2 == 0) {
+                         low = loadFirst<2>(row).v, high = loadFirst<2>(row + 1).v, value = loadFirst<1>(element).v;
+                     } else {
+                         low = _mm_loadh_pi(low, reinterpret_cast<const __m64*>(row));
+                         high = _mm_loadh_pi(high, reinterpret_cast<const __m64*>(row + 1));
+                         value = _mm_unpacklo_ps(value, loadFirst<1>(element).v);
+                     }
+                 });
+    unrolled<3>([&](auto k) VORM_INLINE_LAMBDA {
+        lu[k][0] = _mm_shuffle_ps(front[k][0], front[k][1], _MM_SHUFFLE(2, 0, 2, 0));
+        lu[k][1] = _mm_shuffle_ps(front[k][0], front[k][1], _MM_SHUFFLE(3, 1, 3, 1));
+        lu[k][2] = _mm_shuffle_ps(back[k][0], back[k][1], _MM_SHUFFLE(3, 1, 3, 1));
+        x[k] = _mm_movelh_ps(values[k][0], values[k][1]);
+    });
+}
+template <class M, class B>
+VORM_INLINE void loadPivoted(const M& matrix, const B& b, int first, const int* pivotIndex, Lanes<double> (&lu)[3][3],
+                             Lanes<double> (&x)[3])
+{
+    __m128d front[3], back[3], values[3];
+    eachPivotRow(matrix, b, first, pivotIndex,
+                 [&](auto l, auto k, const double* row, const double* element) VORM_INLINE_LAMBDA {
+                     if constexpr (l == 0) {
+                         front[k] = Lanes<double>::load(row).v;
+                         back[k] = loadFirst<1>(row + 2).v, values[k] = loadFirst<1>(element).v;
+                     } else {
+                         const __m128d next = Lanes<double>::load(row).v;
+                         lu[k][0] = _mm_unpacklo_pd(front[k], next), lu[k][1] = _mm_unpackhi_pd(front[k], next);
+                         lu[k][2] = _mm_loadh_pd(back[k], row + 2), x[k] = _mm_loadh_pd(values[k], element);
+                     }
+                 });
+}
+
 // A register of objects. Their rows are loaded in logical order; from planes, where those of no two objects lie
 // together, elements are loaded one by one, or few planes as they are and put in order by selecting.
 template <int n, class T, class M, class B, class X>
@@ -75,24 +131,42 @@ VORM_INLINE void luSolveLanes(const M& matrix, const B& b, const X& dst, int fir
 {
     constexpr int width = Lanes<T>::width;
     Lanes<T> lu[n][n], x[n];
-    if constexpr (isInPlanes<M> && width == 4 && n <= 4) {
-        Lanes<T> own[n][n], ownB[n], rows[n];
-        for (int r = 0; r < n; ++r) {
-            for (int c = 0; c < n; ++c) own[r][c] = Lanes<T>::load(matrix.element(r, c) + first);
-            ownB[r] = Lanes<T>::load(b.element(r) + first);
-        }
-        loadRowNumbers(pivotIndex, rows);
-        unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
-            decltype(LaneMask<T>::bits) is[n];
-            for (int r = 0; r < n; ++r) is[r] = sameNumber(rows[k].v, rowNumber<T>(r).v);
-            const auto chosen = [&](auto element) VORM_INLINE_LAMBDA {
-                auto found = both(is[0], element(0).v);
-                for (int r = 1; r < n; ++r) found = either(found, both(is[r], element(r).v));
-                return found;
-            };
-            for (int c = 0; c < n; ++c) lu[k][c] = chosen([&](int r) VORM_INLINE_LAMBDA { return own[r][c]; });
-            x[k] = chosen([&](int r) VORM_INLINE_LAMBDA { return ownB[r]; });
+    if constexpr (isInPlanes<M> && width == 4) {
+        // Through a buffer, object by object in rows of whole registers, the last with b if it has room.
+        constexpr int registers = luRegistersOf<T>(n);
+        constexpr bool joined = n % width != 0;
+        Lanes<T> rows[width][n][registers];
+        unrolled<n * registers>([&](auto step) VORM_INLINE_LAMBDA {
+            constexpr int r = step / registers, i = step % registers;
+            Lanes<T> block[width];
+            for (int c = 0; c < width; ++c) {
+                const int column = i * width + c;
+                block[c] = column < n    ? Lanes<T>::load(matrix.element(r, column) + first)
+                           : column == n ? Lanes<T>::load(b.element(r) + first)
+                                         : Lanes<T>(T(0));
+            }
+            transpose(block);
+            for (int l = 0; l < width; ++l) rows[l][r][i] = block[l];
         });
+        unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
+            const Lanes<T>* own[width];
+            for (int l = 0; l < width; ++l) own[l] = rows[l][pivotAt(pivotIndex, l * n + k)];
+            for (int i = 0; i < registers; ++i) {
+                Lanes<T> block[width];
+                for (int l = 0; l < width; ++l) block[l] = own[l][i];
+                transpose(block);
+                for (int c = 0; c < width; ++c) {
+                    const int column = i * width + c;
+                    if (column < n) lu[k][column] = block[c];
+                    if (column == n) x[k] = block[c];
+                }
+            }
+            if constexpr (!joined)
+                x[k] =
+                    lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, pivotAt(pivotIndex, l * n + k))); });
+        });
+    } else if constexpr (isAdjacent<M> && isAdjacent<B> && n == 3) {
+        loadPivoted(matrix, b, first, pivotIndex, lu, x);
     } else {
         unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
             int row[width];
@@ -102,18 +176,27 @@ VORM_INLINE void luSolveLanes(const M& matrix, const B& b, const X& dst, int fir
                 for (int l = 0; l < width; ++l) from[l] = rowAt(matrix, first + l, row[l]);
                 loadRows(from, lu[k]);
             } else {
+                const T* const* planes[width];
+                for (int l = 0; l < width; ++l) planes[l] = matrix.pp + row[l] * std::ptrdiff_t{n};
+                const std::ptrdiff_t offset = matrix.shift + first * std::ptrdiff_t{sizeof(T)};
                 for (int c = 0; c < n; ++c)
-                    lu[k][c] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(matrix(first + l, row[l], c)); });
+                    lu[k][c] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return elementAt(planes[l][c] + l, offset); });
             }
-            x[k] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, row[l])); });
+            if constexpr (isInPlanes<B>) {
+                const std::ptrdiff_t offset = b.shift + first * std::ptrdiff_t{sizeof(T)};
+                x[k] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return elementAt(b.pp[row[l]] + l, offset); });
+            } else {
+                x[k] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, row[l])); });
+            }
         });
     }
     luSubstitute(lu, x, [&](Lanes<T> value, int i) VORM_INLINE_LAMBDA { return value / lu[i][i]; });
     storeLanes(dst, first, x);
 }
 
+// A function of its own, as luObjects is.
 template <int n, class T, class M, class B, class X>
-VORM_INLINE void luSolvePairs(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int count)
+[[gnu::noinline]] void luSolvePairs(const M matrix, const B b, const X dst, const int* pivotIndex, int count)
 {
     const auto pivots = [&](int object) VORM_INLINE_LAMBDA { return pivotIndex + std::ptrdiff_t{object} * n; };
     const auto single = [&](int object)
@@ -162,9 +245,9 @@ VORM_INLINE void loadLanes(const B& b, int first, Lanes<T> (&x)[n])
 }
 
 // All vectors with one matrix: reciprocals of the diagonal, once per call. Single vectors run in lanes
-// too, all of them the same.
+// too, all of them the same. A function of its own, as luObjects is.
 template <int n, class T, class M, class B, class X>
-VORM_INLINE void luSolveVectors(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int count)
+[[gnu::noinline]] void luSolveVectors(const M matrix, const B b, const X dst, const int* pivotIndex, int count)
 {
     constexpr int width = Lanes<T>::width;
     Lanes<T> lu[n][n], reciprocals[n];
@@ -176,7 +259,7 @@ VORM_INLINE void luSolveVectors(const M& matrix, const B& b, const X& dst, const
     }
     // In registers all coefficients would be too many, and the unknowns evicted for them: the compiler is to take
     // these for memory that a store might change.
-    constexpr bool paired = width == 2 && n >= 4 && isAdjacent<B>;
+    constexpr bool paired = isAdjacent<B> || isInPlanes<B>;
     const auto inMemory = [](auto& array) VORM_INLINE_LAMBDA -> auto&
     {
         auto* p = &array;
@@ -207,9 +290,14 @@ VORM_INLINE void luSolveVectors(const M& matrix, const B& b, const X& dst, const
     const auto pairs = [&](int first) VORM_INLINE_LAMBDA {
         Lanes<T> natural[n], next[n];
         LanesPair<T> x[n];
-        loadLanes(b, first, natural);
-        loadLanes(b, first + width, next);
-        unrolled<n>([&](auto k) VORM_INLINE_LAMBDA { x[k] = {natural[rows[k]], next[rows[k]]}; });
+        if constexpr (isInPlanes<B>) {
+            for (int k = 0; k < n; ++k)
+                x[k] = {Lanes<T>::load(planes[k] + first), Lanes<T>::load(planes[k] + first + width)};
+        } else {
+            loadLanes(b, first, natural);
+            loadLanes(b, first + width, next);
+            unrolled<n>([&](auto k) VORM_INLINE_LAMBDA { x[k] = {natural[rows[k]], next[rows[k]]}; });
+        }
         luSubstitute(coefficients, x, divided);
         unrolled<n>([&](auto k) VORM_INLINE_LAMBDA { natural[k] = x[k].first, next[k] = x[k].second; });
         storeLanes(dst, first, natural);
@@ -308,16 +396,6 @@ VORM_INLINE void luSolveGeneral(const M& matrix, const B& b, const X& dst, int o
     }
 }
 
-// Rows anywhere, of a block of objects, in the order of the pivots.
-template <class T, class View>
-[[gnu::noinline]] void gatherPivotRows(const View& matrix, int first, int objects, int n, const int* pivotIndex, T* to)
-{
-    for (int l = 0; l < objects; ++l)
-        for (int k = 0; k < n; ++k)
-            for (int c = 0; c < n; ++c)
-                to[(k * n + c) * objects + l] = matrix(first + l, pivotAt(pivotIndex, l * n + k), c);
-}
-
 // Solves with a register of matrices of any order n, in logical row order; x as above, of several registers of
 // vectors in turn.
 constexpr int luRegisters = 4;
@@ -351,16 +429,21 @@ template <class T, class M, class B, class X>
         return;
     }
     luEachVector<T>(dst, n, count, single, [&](int first) VORM_INLINE_LAMBDA {
-        Lanes<T> lu[luLanesOrder * luLanesOrder], x[luLanesOrder];
+        LuBuffer<T> lu, buffer;
+        Lanes<T> x[luLanesOrder];
         const int* const rows = pivots(first);
-        if constexpr (isAdjacent<M>)
-            for (int k = 0; k < n; ++k) {
-                const T* from[width];
-                for (int l = 0; l < width; ++l) from[l] = rowAt(matrix, first + l, pivotAt(rows, l * n + k));
-                loadRows(from, lu + k * n, n);
+        if constexpr (!isAdjacent<M>) luLoad(matrix, first, n, buffer);
+        for (int k = 0; k < n; ++k) {
+            const T* from[width];
+            for (int l = 0; l < width; ++l) {
+                const int row = pivotAt(rows, l * n + k);
+                if constexpr (isAdjacent<M>)
+                    from[l] = rowAt(matrix, first + l, row);
+                else
+                    from[l] = reinterpret_cast<const T*>(buffer + (l * n + row) * luRegistersOf<T>(n));
             }
-        else
-            gatherPivotRows(matrix, first, width, n, rows, reinterpret_cast<T*>(lu));
+            loadRows(from, lu + k * n, n);
+        }
         for (int k = 0; k < n; ++k)
             x[k] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, pivotAt(rows, l * n + k))); });
         luSubstitute<1>(lu, x, n);

@@ -70,4 +70,16 @@ VORM_INLINE void storeThree(float* p, Lanes<float> a)
     storeFirst<1>(p + 2, _mm_movehl_ps(a.v, a.v));
 }
 
+// The first elements, fewer than a register has, in its first lanes; the other lanes are zero.
+VORM_INLINE Lanes<float> loadFirst(const float* p, int count)
+{
+    return count == 1 ? loadFirst<1>(p) : count == 2 ? loadFirst<2>(p) : loadThree(p);
+}
+VORM_INLINE Lanes<double> loadFirst(const double* p, int) { return loadFirst<1>(p); }
+VORM_INLINE void storeFirst(float* p, Lanes<float> a, int count)
+{
+    count == 1 ? storeFirst<1>(p, a) : count == 2 ? storeFirst<2>(p, a) : storeThree(p, a);
+}
+VORM_INLINE void storeFirst(double* p, Lanes<double> a, int) { storeFirst<1>(p, a); }
+
 }  // namespace vorm
