@@ -294,7 +294,7 @@ TEST_F(Lu, EveryPlacement)
                 c.inPlace = chance(random, 25) && (f->family == "LUDecomp" || isUnrolled(order));
                 // Results that overlap each other are written in ascending order, and the last one wins.
                 if (!c.inPlace && c.count > 1 && chance(random, 15)) {
-                    c.dst.overlapping = !c.dst.planes;
+                    c.dst.overlapping = c.dst.planes ? 0 : pick(random, 1, 3);
                     if (c.dst.planes && f->layout == "P") c.dst.padObject = -pick(random, 1, c.count - 1);
                 }
                 check(*f, c, random);
