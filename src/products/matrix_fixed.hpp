@@ -2,9 +2,9 @@
 // k of A(i, k) times row k of B.
 //
 // Where rows of floats end in a rest of one or two elements, the rests of several rows, a group, fill a
-// register of their own: lane l is column l % rest of row l / rest of the group. Where rests are single
-// numbers that pays only if the elements of A need no gathering: where all objects share A, or it is
-// transposed, or B is, whose columns would have to be gathered otherwise.
+// register of their own: lane l is column l % rest of row l / rest of the group. A rest of one element is
+// better left alone where both matrices lie in rows, and that of doubles wherever the elements of A would
+// be gathered more than once.
 //
 // Operands are loaded where a part of the body begins that uses them: no compiler moves a load over a
 // store by itself, and there are not registers enough to hold everything.
