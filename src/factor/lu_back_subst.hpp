@@ -3,7 +3,7 @@
 #pragma once
 
 #include "factor/layers.hpp"
-#include "factor/lu_solve.hpp"
+#include "factor/lu_solve_general.hpp"
 #include "frame/checks.hpp"
 #include "frame/team.hpp"
 

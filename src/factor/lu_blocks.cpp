@@ -5,7 +5,7 @@
 
 #include "factor/lu.hpp"
 #include "factor/lu_elimination.hpp"
-#include "factor/lu_solve.hpp"
+#include "factor/lu_solve_general.hpp"
 
 namespace vorm {
 namespace {
