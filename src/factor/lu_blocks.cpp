@@ -79,7 +79,7 @@ bool luFactoriseRows(Lanes<T>* a, int* order, int n)
     RowOrder rows[width];
     Lanes<T>* objects[width];
     for (int l = 0; l < width; ++l) objects[l] = a + l * n * registers;
-    const Lanes<T> epsilon = std::numeric_limits<T>::epsilon();
+    const Lanes<T> epsilon = luEpsilon<T>;
     const auto firstElement = [&](int i) VORM_INLINE_LAMBDA {
         Lanes<T> first[width];
         for (int l = 0; l < width; ++l) first[l] = objects[l][i * registers];

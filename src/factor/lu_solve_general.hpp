@@ -143,7 +143,7 @@ template <class T, class M, class B, class X>
         for (int object = 0; object < count; ++object) single(object);
         return;
     }
-    Lanes<T> lu[luLanesOrder * luLanesOrder];
+    LuBuffer<T> lu;
     for (int k = 0; k < n; ++k)
         for (int c = 0; c < n; ++c) lu[k * n + c] = T(matrix(0, pivotAt(pivotIndex, k), c));
     const auto solve = [&](int first, auto several) VORM_INLINE_LAMBDA {

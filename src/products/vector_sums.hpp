@@ -7,6 +7,7 @@
 #include "frame/lanes.hpp"
 #include "frame/operands.hpp"
 #include "frame/shuffles.hpp"
+#include "frame/small_vector.hpp"
 #include "frame/unrolled.hpp"
 
 namespace vorm {
@@ -49,17 +50,6 @@ private:
 // Elements anywhere, one number each. ------------------------------------------------------------------
 
 template <class T, int n>
-struct ScatteredElements {
-    T v[n];
-    template <class View>
-    VORM_INLINE static ScatteredElements load(const View& view, int object)
-    {
-        ScatteredElements r;
-        for (int k = 0; k < n; ++k) r.v[k] = view(object, k);
-        return r;
-    }
-};
-template <class T, int n>
 struct ScatteredMatrix {
     T v[n][n];
     template <class View>
@@ -76,14 +66,15 @@ template <class T, int n, Start start = Start::firstProduct, class A, class X, c
 VORM_INLINE void scatteredProducts(const A& a, const X& x, const D& y, int first, int end)
 {
     const PerObject<ScatteredMatrix<T, n>, A> matrices(a);
-    const PerObject<ScatteredElements<T, n>, X> vectors(x);
+    const PerObject<ScatteredVector<T, n>, X> vectors(x);
     for (int object = first; object < end; ++object) {
         const auto matrix = matrices(object);
         const auto vector = vectors(object);
-        T result[n];
+        ScatteredVector<T, n> result;
         for (int i = 0; i < n; ++i)
-            result[i] = leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA { return matrix.v[i][k] * vector.v[k]; });
-        for (int i = 0; i < n; ++i) y(object, i) = result[i];
+            result.v[i] =
+                leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA { return matrix.v[i][k] * vector.v[k]; });
+        result.store(y, object);
     }
 }
 
