@@ -5,9 +5,10 @@
 #include <cstdint>
 
 extern "C" {
-extern std::atomic<int> standinThreads;  // what ownGetNumThreads answers
-extern std::atomic<int> standinAsked;    // how often it was asked
-extern char standinLoadCalls[64];        // the calls made while libraries were loaded, a letter each
+extern std::atomic<int> standinThreads;       // what ownGetNumThreads answers
+extern std::atomic<int> standinThreadsLater;  // and from the second question on, unless 0
+extern std::atomic<int> standinAsked;         // how often it was asked
+extern char standinLoadCalls[64];             // the calls made while libraries were loaded, a letter each
 }
 
 // How often a call asks for the threads where there are that many; outside of it there is one.
