@@ -182,6 +182,38 @@ TEST_F(Team, FailuresStopNoOtherChunk)
         EXPECT_EQ(failing({0, 1, 2, 3, 4, 5}), StatusSingular);
         EXPECT_EQ(done, 8 * 6);
     }
+    // Who tells where it failed gets as much as possible at once, with the same objects left out.
+    for (std::int64_t cost : {std::int64_t{0}, plenty})
+        for (int threads : {4, 7, 64})
+            for (std::set<int> bad : {std::set<int>{}, {0}, {9, 10, 11}, {5, 40, 63}, {63}}) {
+                standinThreads = threads;
+                const auto objects = [&](bool telling, int& calls) {
+                    std::vector<char> done(64);
+                    std::atomic<int> called{0};
+                    const auto kernel = [&](const Chunk& chunk, int& failed) {
+                        ++called;
+                        for (failed = chunk.first; failed < chunk.first + chunk.objects; ++failed) {
+                            if (bad.contains(failed)) return VormStatus{StatusSingular};
+                            ++done[std::size_t(failed)];
+                        }
+                        return VormStatus{StatusOk};
+                    };
+                    const auto silent = [&](const Chunk& chunk) {
+                        int ignored;
+                        return kernel(chunk, ignored);
+                    };
+                    const VormStatus status = telling ? inTeam<Kernels::canFail>(64, cost, kernel)
+                                                      : inTeam<Kernels::canFail>(64, cost, silent);
+                    EXPECT_EQ(status, bad.empty() ? StatusOk : StatusSingular);
+                    calls = called;
+                    return done;
+                };
+                int inChunks = 0, atOnce = 0;
+                EXPECT_EQ(objects(true, atOnce), objects(false, inChunks));
+                EXPECT_EQ(inChunks, threads);
+                EXPECT_LE(atOnce, workersFor(cost, threads, processors_) + int(bad.size()));
+            }
+    standinThreads = 6;
     const auto numbered = [](const Chunk& chunk) {
         return VormStatus{chunk.thread == 2 || chunk.thread == 5 ? -chunk.thread : 0};
     };

@@ -17,12 +17,13 @@ struct Chunk {
 
 enum class Kernels { cannotFail, canFail };
 
-// A call as the team sees it. work(state, chunk) runs the kernel on one chunk.
+// A call as the team sees it. work(state, chunk, failed) runs the kernel on one chunk.
 struct TeamCall {
-    VormStatus (*work)(const void* state, const Chunk& chunk);
+    VormStatus (*work)(const void* state, const Chunk& chunk, int& failed);
     const void* state;
     int count;
     Kernels kernels;
+    bool tellsWhere;
     std::int64_t picoseconds;
     std::size_t scratchPerWorker;
 };
@@ -45,11 +46,21 @@ VORM_LAYER VormStatus runInTeam(const TeamCall& call);
 // first failure to be reported is the status of the call. picoseconds is about what the whole call takes on one
 // thread: it decides how many threads work, never what comes of it. With scratchPerThread, each of them gets
 // that many bytes for the time of the call.
+//
+// work may also be work(chunk, failed) and set failed to the number of the object where it stopped, counted in
+// the whole call. It then gets the chunks of a worker in one piece, and what is behind the chunk of a failing
+// object in another one: many small chunks cost nothing as long as nothing fails.
 template <Kernels kernels, class Work>
 VORM_INLINE VormStatus inTeam(int count, std::int64_t picoseconds, const Work& work, std::size_t scratchPerThread = 0)
 {
-    return runInTeam({[](const void* state, const Chunk& chunk) { return (*static_cast<const Work*>(state))(chunk); },
-                      &work, count, kernels, picoseconds, scratchPerThread});
+    constexpr bool tellsWhere = requires(const Chunk& chunk, int& failed) { work(chunk, failed); };
+    const auto call = [](const void* state, const Chunk& chunk, [[maybe_unused]] int& failed) {
+        if constexpr (tellsWhere)
+            return (*static_cast<const Work*>(state))(chunk, failed);
+        else
+            return (*static_cast<const Work*>(state))(chunk);
+    };
+    return runInTeam({call, &work, count, kernels, tellsWhere, picoseconds, scratchPerThread});
 }
 
 // A driver that does not state its cost yet: every call pays.
