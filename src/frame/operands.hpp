@@ -4,9 +4,12 @@
 // A view of a const type reads elements by value, one of a plain type gives a reference to assign
 // to. Single operands ignore n, so that a kernel need not know which of its operands are arrays;
 // isCommon tells it where it matters.
+//
+// As parts of a call (call.hpp) views know the arguments they are made of, themselves from the first object of a
+// chunk on (the offset has 32 bits), the view of their n-th object alone, and themselves with adjacent elements.
 #pragma once
 
-#include "frame/memory.hpp"
+#include "frame/arguments.hpp"
 
 namespace vorm {
 
@@ -34,6 +37,14 @@ struct Vector {  // v
     Step stride2;
     T* object(int) const { return p; }
     decltype(auto) operator()(int, int i) const { return elementAt(p, i * bytes<T>(stride2)); }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return body(Pointer<T>{p}, ElementStride{stride2});
+    }
+    VORM_INLINE constexpr Vector chunk(const Chunk&) const { return *this; }
+    VORM_INLINE constexpr auto single(int) const { return *this; }
+    VORM_INLINE constexpr auto withAdjacent() const { return Vector<T, Adjacent>{p, adjacent}; }
 };
 
 template <class T, class Step>
@@ -44,6 +55,17 @@ struct VectorArray {  // va
     Step stride2;
     T* object(int n) const { return advance(p, std::ptrdiff_t{n} * stride0); }
     decltype(auto) operator()(int n, int i) const { return elementAt(object(n), i * bytes<T>(stride2)); }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return body(Pointer<T>{p}, Stride{stride0}, ElementStride{stride2});
+    }
+    VORM_INLINE constexpr VectorArray chunk(const Chunk& chunk) const
+    {
+        return {advance(p, wrapMul(chunk.first, stride0)), stride0, stride2};
+    }
+    VORM_INLINE constexpr auto single(int n) const { return Vector<T, Step>{object(n), stride2}; }
+    VORM_INLINE constexpr auto withAdjacent() const { return VectorArray<T, Adjacent>{p, stride0, adjacent}; }
 };
 
 template <class T, class Step>
@@ -57,6 +79,14 @@ struct Matrix {  // m
     {
         return elementAt(p, std::ptrdiff_t{r} * stride1 + c * bytes<T>(stride2));
     }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return body(Pointer<T>{p}, Stride{stride1}, ElementStride{stride2});
+    }
+    VORM_INLINE constexpr Matrix chunk(const Chunk&) const { return *this; }
+    VORM_INLINE constexpr auto single(int) const { return *this; }
+    VORM_INLINE constexpr auto withAdjacent() const { return Matrix<T, Adjacent>{p, stride1, adjacent}; }
 };
 
 template <class T, class Step>
@@ -70,6 +100,17 @@ struct MatrixArray {  // ma
     {
         return elementAt(object(n), std::ptrdiff_t{r} * stride1 + c * bytes<T>(stride2));
     }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return body(Pointer<T>{p}, Stride{stride0}, Stride{stride1}, ElementStride{stride2});
+    }
+    VORM_INLINE constexpr MatrixArray chunk(const Chunk& chunk) const
+    {
+        return {advance(p, wrapMul(chunk.first, stride0)), stride0, stride1, stride2};
+    }
+    VORM_INLINE constexpr auto single(int n) const { return Matrix<T, Step>{object(n), stride1, stride2}; }
+    VORM_INLINE constexpr auto withAdjacent() const { return MatrixArray<T, Adjacent>{p, stride0, stride1, adjacent}; }
 };
 
 // List layout: one pointer per object. ---------------------------------------------------------
@@ -82,6 +123,14 @@ struct VectorList {  // va
     Step stride2;
     T* object(int n) const { return advance(pp[n], shift); }
     decltype(auto) operator()(int n, int i) const { return elementAt(object(n), i * bytes<T>(stride2)); }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return body(Pointer<T* const>{pp}, Shift{shift}, ElementStride{stride2});
+    }
+    VORM_INLINE constexpr VectorList chunk(const Chunk& chunk) const { return {pp + chunk.first, shift, stride2}; }
+    VORM_INLINE constexpr auto single(int n) const { return Vector<T, Step>{object(n), stride2}; }
+    VORM_INLINE constexpr auto withAdjacent() const { return VectorList<T, Adjacent>{pp, shift, adjacent}; }
 };
 
 template <class T, class Step>
@@ -95,6 +144,17 @@ struct MatrixList {  // ma
     {
         return elementAt(object(n), std::ptrdiff_t{r} * stride1 + c * bytes<T>(stride2));
     }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return body(Pointer<T* const>{pp}, Shift{shift}, Stride{stride1}, ElementStride{stride2});
+    }
+    VORM_INLINE constexpr MatrixList chunk(const Chunk& chunk) const
+    {
+        return {pp + chunk.first, shift, stride1, stride2};
+    }
+    VORM_INLINE constexpr auto single(int n) const { return Matrix<T, Step>{object(n), stride1, stride2}; }
+    VORM_INLINE constexpr auto withAdjacent() const { return MatrixList<T, Adjacent>{pp, shift, stride1, adjacent}; }
 };
 
 // Pointer layout: one pointer per element of the stored object. ----------------------------------
@@ -106,6 +166,13 @@ struct VectorPointers {  // v
     int shift;
     T* element(int i) const { return advance(pp[i], shift); }
     decltype(auto) operator()(int, int i) const { return elementAt(element(i), 0); }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return body(Pointer<T* const>{pp}, Shift{shift});
+    }
+    VORM_INLINE constexpr VectorPointers chunk(const Chunk&) const { return *this; }
+    VORM_INLINE constexpr auto withAdjacent() const { return *this; }
 };
 
 template <class T>
@@ -115,6 +182,16 @@ struct VectorArrayPointers {  // va
     int shift, stride0;
     T* element(int i) const { return advance(pp[i], shift); }  // of object 0
     decltype(auto) operator()(int n, int i) const { return elementAt(element(i), std::ptrdiff_t{n} * stride0); }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return body(Pointer<T* const>{pp}, Shift{shift}, Stride{stride0});
+    }
+    VORM_INLINE constexpr VectorArrayPointers chunk(const Chunk& chunk) const
+    {
+        return {pp, wrapAdd(shift, wrapMul(chunk.first, stride0)), stride0};
+    }
+    VORM_INLINE constexpr auto withAdjacent() const { return *this; }
 };
 
 template <class T>
@@ -124,6 +201,13 @@ struct MatrixPointers {  // m; width is that of the stored matrix
     int shift, width;
     T* element(int r, int c) const { return advance(pp[std::ptrdiff_t{r} * width + c], shift); }
     decltype(auto) operator()(int, int r, int c) const { return elementAt(element(r, c), 0); }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return body(Pointer<T* const>{pp}, Shift{shift});
+    }
+    VORM_INLINE constexpr MatrixPointers chunk(const Chunk&) const { return *this; }
+    VORM_INLINE constexpr auto withAdjacent() const { return *this; }
 };
 
 template <class T>
@@ -136,6 +220,16 @@ struct MatrixArrayPointers {  // ma; width is that of the stored matrix
     {
         return elementAt(element(r, c), std::ptrdiff_t{n} * stride0);
     }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return body(Pointer<T* const>{pp}, Shift{shift}, Stride{stride0});
+    }
+    VORM_INLINE constexpr MatrixArrayPointers chunk(const Chunk& chunk) const
+    {
+        return {pp, wrapAdd(shift, wrapMul(chunk.first, stride0)), stride0, width};
+    }
+    VORM_INLINE constexpr auto withAdjacent() const { return *this; }
 };
 
 // Transposed: any matrix view read with its indices swapped. -------------------------------------
@@ -145,6 +239,21 @@ struct Transposed {  // t, ta
     static constexpr bool isCommon = Stored::isCommon;
     Stored stored;
     decltype(auto) operator()(int n, int r, int c) const { return stored(n, c, r); }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return stored.arguments(body);
+    }
+    VORM_INLINE constexpr Transposed chunk(const Chunk& chunk) const { return {stored.chunk(chunk)}; }
+    VORM_INLINE constexpr auto single(int n) const { return transposed(stored.single(n)); }
+    VORM_INLINE constexpr auto withAdjacent() const { return transposed(stored.withAdjacent()); }
+
+private:
+    template <class Other>
+    static constexpr Transposed<Other> transposed(const Other& other)
+    {
+        return {other};
+    }
 };
 
 template <class View>
@@ -159,6 +268,14 @@ struct Constant {  // c
     static constexpr bool isCommon = true;
     T val;
     T operator()(int, int) const { return val; }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return body(Value<T>{val});
+    }
+    VORM_INLINE constexpr Constant chunk(const Chunk&) const { return *this; }
+    VORM_INLINE constexpr auto single(int) const { return *this; }
+    VORM_INLINE constexpr auto withAdjacent() const { return *this; }
 };
 
 template <class T>
@@ -167,6 +284,17 @@ struct ConstantArray {  // ca, standard and pointer layout
     const T* p;
     int stride0;
     T operator()(int n, int) const { return elementAt(p, std::ptrdiff_t{n} * stride0); }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return body(Pointer<const T>{p}, Stride{stride0});
+    }
+    VORM_INLINE constexpr ConstantArray chunk(const Chunk& chunk) const
+    {
+        return {advance(p, wrapMul(chunk.first, stride0)), stride0};
+    }
+    VORM_INLINE constexpr auto single(int n) const { return Constant<T>{(*this)(n, 0)}; }
+    VORM_INLINE constexpr auto withAdjacent() const { return *this; }
 };
 
 template <class T>
@@ -175,6 +303,14 @@ struct ConstantList {  // ca, list layout
     const T* const* pp;
     int shift;
     T operator()(int n, int) const { return elementAt(pp[n], shift); }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return body(Pointer<const T* const>{pp}, Shift{shift});
+    }
+    VORM_INLINE constexpr ConstantList chunk(const Chunk& chunk) const { return {pp + chunk.first, shift}; }
+    VORM_INLINE constexpr auto single(int n) const { return Constant<T>{(*this)(n, 0)}; }
+    VORM_INLINE constexpr auto withAdjacent() const { return *this; }
 };
 
 // clang 14 deduces no aggregates by itself.
