@@ -24,25 +24,25 @@ namespace vorm {
 constexpr Work vavWork(int len, int count) { return workOf(wrapMul(wrapAdd(wrapMul(2, count), 1), len), 250); }
 
 // Unlike the other array shapes, vav tests the strides before the count.
-using VavOrder = Order<Test::null, Test::size, Test::stride, Test::count, Test::shift>;
-using VavOrderL = Order<Test::null, Test::size, Test::stride, Test::shift, Test::count>;
+using VavTests = Tests<Test::null, Test::size, Test::stride, Test::count, Test::shift>;
+using VavTestsL = Tests<Test::null, Test::size, Test::stride, Test::shift, Test::count>;
 
 template <class T>
 VORM_INLINE auto vav(VAV_PARAMS(T))
 {
-    return arrayCallOf<T, VavOrder>(vavWork(len, count), count, VectorArray{pSrc1, src1Stride0, src1Stride2},
+    return arrayCallOf<T, VavTests>(vavWork(len, count), count, VectorArray{pSrc1, src1Stride0, src1Stride2},
                                     Vector{pSrc2, src2Stride2}, VectorArray{pDst, dstStride0, dstStride2}, Size{len});
 }
 template <class T>
 VORM_INLINE auto vavL(VAV_PARAMS_L(T))
 {
-    return arrayCallOf<T, VavOrderL>(vavWork(len, count), count, VectorList{ppSrc1, src1Shift, src1Stride2},
+    return arrayCallOf<T, VavTestsL>(vavWork(len, count), count, VectorList{ppSrc1, src1Shift, src1Stride2},
                                      Vector{pSrc2, src2Stride2}, VectorList{ppDst, dstShift, dstStride2}, Size{len});
 }
 template <class T>
 VORM_INLINE auto vavP(VAV_PARAMS_P(T))
 {
-    return arrayCallOf<T, VavOrder>(vavWork(len, count), count, VectorArrayPointers{ppSrc1, src1Shift, src1Stride0},
+    return arrayCallOf<T, VavTests>(vavWork(len, count), count, VectorArrayPointers{ppSrc1, src1Shift, src1Stride0},
                                     VectorPointers{ppSrc2, src2Shift}, VectorArrayPointers{ppDst, dstShift, dstStride0},
                                     Size{len});
 }

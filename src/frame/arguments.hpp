@@ -5,6 +5,7 @@
 #pragma once
 
 #include "frame/memory.hpp"
+#include "frame/pin.hpp"
 #include "frame/wrapping.hpp"
 
 namespace vorm {
@@ -23,7 +24,7 @@ struct Untested {
     static constexpr bool isBelowOne() { return false; }        // a size
     static constexpr bool isCountBelowOne() { return false; }   // the count
     static constexpr int strideBits() { return 0; }
-    static constexpr bool isStrideBelowOne() { return false; }  // any stride
+    static constexpr int strideLess() { return 0; }  // one less
     static constexpr int shiftBits() { return 0; }
     static constexpr int gap(int) { return 0; }  // what keeps elements of a size from being adjacent
 };
@@ -38,7 +39,7 @@ struct Stride : Untested {  // from object to object, from row to row
     int value;
     constexpr explicit Stride(int stride) : value(stride) {}
     constexpr int strideBits() const { return value; }
-    constexpr bool isStrideBelowOne() const { return value < 1; }
+    constexpr int strideLess() const { return wrapAdd(value, -1); }
 };
 struct ElementStride : Stride {
     using Stride::Stride;
@@ -69,9 +70,11 @@ struct Size : Untested {
     VORM_INLINE constexpr Size withAdjacent() const { return *this; }
 };
 
-// No argument, but the test whether the sizes of a call fit each other: then there is no difference.
+// No argument, but the test whether two sizes of a call are the same. Opaque: a compiler that knows two sizes to be
+// equal passes one for the other, where the transfer to the kernel was a jump.
 struct Fit {
-    int difference;
+    int first, second;
+    VORM_INLINE int misfit() const { return opaque(first ^ second); }
     template <class Body>
     VORM_INLINE constexpr auto arguments(const Body& body) const
     {
@@ -92,14 +95,14 @@ struct Count : Untested {
         return body(*this);
     }
     VORM_INLINE constexpr Count chunk(const Chunk& chunk) const { return Count{chunk.objects}; }
-    VORM_INLINE constexpr Fit single(int) const { return {0}; }  // a single object has no count
+    VORM_INLINE constexpr Fit single(int) const { return {0, 0}; }  // a single object has no count
     VORM_INLINE constexpr Count withAdjacent() const { return *this; }
 };
 
 // A table with some entries for each object, as the row numbers of a pivoted matrix: the entries of objects
 // follow each other in every layout.
 template <class T>
-struct PerObject {
+struct ObjectTable {
     T* p;
     int entries;
     template <class Body>
@@ -107,15 +110,15 @@ struct PerObject {
     {
         return body(Pointer<T>{p});
     }
-    VORM_INLINE constexpr PerObject chunk(const Chunk& chunk) const
+    VORM_INLINE constexpr ObjectTable chunk(const Chunk& chunk) const
     {
         return {p + wrapMul(chunk.first, entries), entries};
     }
-    VORM_INLINE constexpr PerObject single(int n) const { return {object(n), entries}; }
-    VORM_INLINE constexpr PerObject withAdjacent() const { return *this; }
+    VORM_INLINE constexpr ObjectTable single(int n) const { return {object(n), entries}; }
+    VORM_INLINE constexpr ObjectTable withAdjacent() const { return *this; }
     VORM_INLINE constexpr T* object(int n) const { return p + std::ptrdiff_t{n} * entries; }
 };
 template <class T>
-PerObject(T*, int) -> PerObject<T>;
+ObjectTable(T*, int) -> ObjectTable<T>;
 
 }  // namespace vorm

@@ -44,17 +44,17 @@ VORM_INLINE constexpr Work workOf(int measure, int picosecondsPerUnit)
 // their parts, as single objects have no count.
 enum class Test { null, count, size, fit, stride, shift };
 template <Test... tests>
-struct Order {
+struct Tests {
 };
-using UsualOrder = Order<Test::null, Test::count, Test::size, Test::fit, Test::stride, Test::shift>;
+using UsualTests = Tests<Test::null, Test::count, Test::size, Test::fit, Test::stride, Test::shift>;
 
 // The call of a function that works on a single object, and that of one that works on an array.
-template <class T, class TestOrder, class Parts>
+template <class T, class TheTests, class Parts>
 struct Call {
     Parts parts;
 };
-template <class T, class TestOrder, class Parts>
-struct ArrayCall : Call<T, TestOrder, Parts> {
+template <class T, class TheTests, class Parts>
+struct ArrayCall : Call<T, TheTests, Parts> {
     Work work;
     int count;
 };
@@ -62,14 +62,14 @@ struct ArrayCall : Call<T, TestOrder, Parts> {
 template <class... Part>
 using PartsOf = PartList<std::make_integer_sequence<int, sizeof...(Part)>, Part...>;
 
-template <class T, class TestOrder = UsualOrder, class... Part>
-VORM_INLINE constexpr Call<T, TestOrder, PartsOf<Part...>> callOf(Part... part)
+template <class T, class TheTests = UsualTests, class... Part>
+VORM_INLINE constexpr Call<T, TheTests, PartsOf<Part...>> callOf(Part... part)
 {
     return {{{part}...}};
 }
 // The count is the last part of every array call.
-template <class T, class TestOrder = UsualOrder, class... Part>
-VORM_INLINE constexpr ArrayCall<T, TestOrder, PartsOf<Part..., Count>> arrayCallOf(Work work, int count, Part... part)
+template <class T, class TheTests = UsualTests, class... Part>
+VORM_INLINE constexpr ArrayCall<T, TheTests, PartsOf<Part..., Count>> arrayCallOf(Work work, int count, Part... part)
 {
     return {{{{part}..., {Count{count}}}}, work, count};
 }
@@ -83,7 +83,7 @@ constexpr bool isMisaligned(int bits)
     return (bits & int{sizeof(T) - 1}) != 0;
 }
 
-VORM_INLINE constexpr int misfit(const Fit& fit) { return fit.difference; }
+VORM_INLINE int misfit(const Fit& fit) { return fit.misfit(); }
 template <class Part>
 VORM_INLINE constexpr int misfit(const Part&)
 {
@@ -92,7 +92,7 @@ VORM_INLINE constexpr int misfit(const Part&)
 
 // The status of one test over all parts.
 template <Test test, class T, class... Part>
-VORM_INLINE constexpr VormStatus outcome(const Part&... part)
+VORM_INLINE VormStatus outcome(const Part&... part)
 {
     if constexpr (test == Test::null)
         return (... ||
@@ -114,10 +114,9 @@ VORM_INLINE constexpr VormStatus outcome(const Part&... part)
     else if constexpr (test == Test::stride) {
         const int bits = (... | part.arguments([](auto... argument)
                                                    VORM_INLINE_LAMBDA { return (0 | ... | argument.strideBits()); }));
-        if (isMisaligned<T>(bits)) return StatusBadStride;
-        return (... || part.arguments([](auto... argument) VORM_INLINE_LAMBDA {
-            return (false || ... || argument.isStrideBelowOne());
-        })) ? StatusBadStride : StatusOk;
+        const int less = (... | part.arguments([](auto... argument)
+                                                   VORM_INLINE_LAMBDA { return (0 | ... | argument.strideLess()); }));
+        return isMisaligned<T>(bits) || (bits | less) < 0 ? StatusBadStride : StatusOk;
     } else {
         const int bits = (... | part.arguments([](auto... argument)
                                                    VORM_INLINE_LAMBDA { return (0 | ... | argument.shiftBits()); }));
@@ -126,7 +125,7 @@ VORM_INLINE constexpr VormStatus outcome(const Part&... part)
 }
 
 template <class T, Test... tests, class Parts>
-VORM_INLINE constexpr VormStatus tested(const Call<T, Order<tests...>, Parts>& call)
+VORM_INLINE VormStatus tested(const Call<T, Tests<tests...>, Parts>& call)
 {
     return call.parts.with([](const auto&... part) VORM_INLINE_LAMBDA {
         VormStatus status = StatusOk;
@@ -136,8 +135,8 @@ VORM_INLINE constexpr VormStatus tested(const Call<T, Order<tests...>, Parts>& c
 }
 
 // Whether all elements of the call lie side by side.
-template <class T, class TestOrder, class Parts>
-VORM_INLINE bool isContiguous(const Call<T, TestOrder, Parts>& call)
+template <class T, class TheTests, class Parts>
+VORM_INLINE bool isContiguous(const Call<T, TheTests, Parts>& call)
 {
     const int gaps = call.parts.with([](const auto&... part) VORM_INLINE_LAMBDA {
         return (... | part.arguments([](auto... argument)
@@ -151,31 +150,31 @@ VORM_INLINE bool isContiguous(const Call<T, TestOrder, Parts>& call)
 }
 
 // A member whose order of tests is not that of its shape.
-template <class TestOrder, class T, class Other, class Parts>
-VORM_INLINE constexpr ArrayCall<T, TestOrder, Parts> inOrder(const ArrayCall<T, Other, Parts>& call)
+template <class TheTests, class T, class Other, class Parts>
+VORM_INLINE constexpr ArrayCall<T, TheTests, Parts> inOrder(const ArrayCall<T, Other, Parts>& call)
 {
     return {{call.parts}, call.work, call.count};
 }
 
 // Tests the call and jumps to the kernel it is for with the plain arguments. The driver comes in where the measure is
 // above the limit; some families have another limit for elements anywhere.
-template <class T, class TestOrder, class Parts, class... Argument>
-VORM_INLINE VormStatus checked(const Call<T, TestOrder, Parts>& call, VormStatus (*kernel)(Argument...),
+template <class T, class TheTests, class Parts, class... Argument>
+VORM_INLINE VormStatus checked(const Call<T, TheTests, Parts>& call, VormStatus (*kernel)(Argument...),
                                VormStatus (*kernelS2)(Argument...), std::type_identity_t<Argument>... arguments)
 {
     if (const VormStatus status = tested(call); status != StatusOk) return status;
     if (isContiguous(call)) return kernel(arguments...);
     return kernelS2(arguments...);
 }
-template <class T, class TestOrder, class Parts, class... Argument>
-VORM_INLINE VormStatus checked(const Call<T, TestOrder, Parts>& call, VormStatus (*kernel)(Argument...),
+template <class T, class TheTests, class Parts, class... Argument>
+VORM_INLINE VormStatus checked(const Call<T, TheTests, Parts>& call, VormStatus (*kernel)(Argument...),
                                std::type_identity_t<Argument>... arguments)
 {
     if (const VormStatus status = tested(call); status != StatusOk) return status;
     return kernel(arguments...);
 }
-template <int limit, int limitAnyStride = limit, class T, class TestOrder, class Parts, class... Argument>
-VORM_INLINE VormStatus checked(const ArrayCall<T, TestOrder, Parts>& call, VormStatus (*driver)(Argument...),
+template <int limit, int limitAnyStride = limit, class T, class TheTests, class Parts, class... Argument>
+VORM_INLINE VormStatus checked(const ArrayCall<T, TheTests, Parts>& call, VormStatus (*driver)(Argument...),
                                VormStatus (*kernel)(Argument...), VormStatus (*kernelS2)(Argument...),
                                std::type_identity_t<Argument>... arguments)
 {
@@ -190,8 +189,8 @@ VORM_INLINE VormStatus checked(const ArrayCall<T, TestOrder, Parts>& call, VormS
     }
     return kernelS2(arguments...);
 }
-template <int limit, class T, class TestOrder, class Parts, class... Argument>
-VORM_INLINE VormStatus checked(const ArrayCall<T, TestOrder, Parts>& call, VormStatus (*driver)(Argument...),
+template <int limit, class T, class TheTests, class Parts, class... Argument>
+VORM_INLINE VormStatus checked(const ArrayCall<T, TheTests, Parts>& call, VormStatus (*driver)(Argument...),
                                VormStatus (*kernel)(Argument...), std::type_identity_t<Argument>... arguments)
 {
     if (const VormStatus status = tested(call); status != StatusOk) return status;
@@ -218,8 +217,8 @@ VORM_INLINE VormStatus withArguments(const Body& body, const First& first, const
 }
 
 // Object by object through the kernel of the single shape, up to the first that fails.
-template <class T, class TestOrder, class Parts, class... Argument>
-VORM_INLINE VormStatus eachSingle(const ArrayCall<T, TestOrder, Parts>& call, VormStatus (*single)(Argument...))
+template <class T, class TheTests, class Parts, class... Argument>
+VORM_INLINE VormStatus eachSingle(const ArrayCall<T, TheTests, Parts>& call, VormStatus (*single)(Argument...))
 {
     return call.parts.with([&](const auto&... part) VORM_INLINE_LAMBDA {
         for (int n = 0; n < call.count; ++n)

@@ -1,54 +1,49 @@
-// What the public layers test of single arguments, as functions over the arguments of one part of a call. All of it
-// folds into plain integer comparisons.
+// Argument tests of the public layers. Each folds into plain integer comparisons.
 #pragma once
 
-#include "frame/arguments.hpp"
-#include "vorm/status.h"
+#include "frame/layers.hpp"
+#include "frame/wrapping.hpp"
 
 namespace vorm {
 
-struct AnyNull {
-    template <class T>
-    static constexpr bool of(Pointer<T> pointer)
-    {
-        return pointer.value == nullptr;
-    }
-    template <class Other>
-    static constexpr bool of(Other)
-    {
-        return false;
-    }
-    template <class... Argument>
-    VORM_INLINE constexpr bool operator()(Argument... argument) const
-    {
-        return (... || of(argument));
-    }
-};
+// What a member of a family deliberately leaves untested; the member says so by name.
+enum class Untested { none, srcStride0, shifts };
 
-struct AnyBadCount {
-    static constexpr bool of(Count count) { return count.value < 1; }
-    template <class Other>
-    static constexpr bool of(Other)
-    {
-        return false;
-    }
-    template <class... Argument>
-    VORM_INLINE constexpr bool operator()(Argument... argument) const
-    {
-        return (... || of(argument));
-    }
-};
+template <class... Pointer>
+constexpr bool anyNull(Pointer... pointers)
+{
+    return (... || (pointers == nullptr));
+}
 
-struct AnyBadSize {
-    static constexpr bool of(Size size) { return size.value < 1; }
-    template <class Other>
-    static constexpr bool of(Other)
-    {
-        return false;
-    }
-    template <class... Argument>
-    VORM_INLINE constexpr bool operator()(Argument... argument) const
-    {
-        return (... || of(argument));
-    }
-};
+template <class... Size>
+constexpr bool anyBelowOne(Size... sizes)
+{
+    return (... || (sizes < 1));
+}
+
+// A stride is a positive multiple of the element size, a shift a non-negative one.
+template <class T, class... Int>
+constexpr bool anyBadStride(Int... strides)
+{
+    return ((... | strides) & int{sizeof(T) - 1}) != 0 || anyBelowOne(strides...);
+}
+
+template <class T, class... Int>
+constexpr bool anyBadShift(Int... shifts)
+{
+    return ((... | shifts) & int{sizeof(T) - 1}) != 0 || (... | shifts) < 0;
+}
+
+// One comparison for all: where a compiler takes it apart it replaces the strides it has learnt by
+// constants, and has to write them to the stack where the transfer to the kernel was a jump.
+template <class T, class... Int>
+VORM_INLINE bool contiguous(Int... stride2s)
+{
+    int difference = (... | (stride2s ^ int{sizeof(T)}));
+#ifdef __clang__
+    __asm__("" : "+r"(difference));  // keeps clang from taking it apart; g++ does better without
+#endif
+    return difference == 0;
+}
+
+}  // namespace vorm

@@ -6,16 +6,16 @@
 
 namespace vorm {
 
-template <Kernels kernels = Kernels::cannotFail, class T, class TestOrder, class Parts, class... Argument>
-VORM_INLINE VormStatus team(const ArrayCall<T, TestOrder, Parts>& call, VormStatus (*kernel)(Argument...))
+template <Kernels kernels = Kernels::cannotFail, class T, class TheTests, class Parts, class... Argument>
+VORM_INLINE VormStatus team(const ArrayCall<T, TheTests, Parts>& call, VormStatus (*kernel)(Argument...))
 {
     return inTeam<kernels>(call.count, call.work.picoseconds, [&call, kernel](const Chunk& chunk) {
         return call.parts.with([&](const auto&... part)
                                    VORM_INLINE_LAMBDA { return withArguments(kernel, part.chunk(chunk)...); });
     });
 }
-template <Kernels kernels = Kernels::cannotFail, class T, class TestOrder, class Parts, class... Argument>
-VORM_INLINE VormStatus team(const ArrayCall<T, TestOrder, Parts>& call, VormStatus (*kernel)(Argument...),
+template <Kernels kernels = Kernels::cannotFail, class T, class TheTests, class Parts, class... Argument>
+VORM_INLINE VormStatus team(const ArrayCall<T, TheTests, Parts>& call, VormStatus (*kernel)(Argument...),
                             VormStatus (*kernelS2)(Argument...))
 {
     return team<kernels>(call, isContiguous(call) ? kernel : kernelS2);

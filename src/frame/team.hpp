@@ -56,4 +56,10 @@ VORM_INLINE VormStatus inTeam(int count, std::int64_t, const Work& work, std::si
     return sharedStatus;
 }
 
+template <Kernels kernels, class Work>
+VORM_INLINE VormStatus inTeam(int count, const Work& work)
+{
+    return inTeam<kernels>(count, 0, work);
+}
+
 }  // namespace vorm

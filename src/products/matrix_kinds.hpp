@@ -16,13 +16,10 @@ template <bool isTransposed1, bool isTransposed2>
 struct Kind {
     static constexpr bool transposed1 = isTransposed1, transposed2 = isTransposed2;
 
-    // Opaque like the test for contiguous elements (frame/checks.hpp): a compiler that knows two sizes to
-    // be equal passes one for the other.
-    VORM_INLINE static bool fits(int src1Width, int src1Height, int src2Width, int src2Height)
+    // The inner sizes have to be equal.
+    static constexpr Fit fit(int src1Width, int src1Height, int src2Width, int src2Height)
     {
-        int difference = (transposed1 ? src1Height : src1Width) ^ (transposed2 ? src2Width : src2Height);
-        __asm__("" : "+r"(difference));
-        return difference == 0;
+        return {transposed1 ? src1Height : src1Width, transposed2 ? src2Width : src2Height};
     }
     static constexpr Lengths lengths(int src1Width, int src1Height, int src2Width, int src2Height)
     {
