@@ -2,8 +2,6 @@
 // object in each lane. Loads and stores for every layout; nothing but the elements is touched.
 #pragma once
 
-#include <cstdlib>
-
 #include "frame/planes.hpp"
 #include "frame/shuffles.hpp"
 #include "frame/small_matrix.hpp"
@@ -178,7 +176,7 @@ VORM_INLINE bool objectsApart(const View& view, int n, int rows, int len)
         const auto at = [&](int l) VORM_INLINE_LAMBDA { return reinterpret_cast<const char*>(view.object(n + l)); };
         for (int i = 1; i < width; ++i)
             for (int j = 0; j < i; ++j)
-                if (std::abs(at(i) - at(j)) < span) return false;
+                if (const std::ptrdiff_t distance = at(i) - at(j); - span < distance && distance < span) return false;
         return true;
     }
 }

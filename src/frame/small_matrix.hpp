@@ -1,9 +1,8 @@
 // The square matrices of order 3 to 6, held row by row in registers.
 #pragma once
 
-#include <algorithm>
-
 #include "frame/lanes.hpp"
+#include "frame/minmax.hpp"
 #include "frame/operands.hpp"
 #include "frame/shuffles.hpp"
 #include "frame/unrolled.hpp"
@@ -33,7 +32,7 @@ struct SmallMatrix {
     // The column that lane l of part p holds.
     static constexpr int column(int p, int l)
     {
-        return p < full ? std::min(p * width + l, n - 1) : full * width + l % std::max(rest, 1);
+        return p < full ? min(p * width + l, n - 1) : full * width + l % max(rest, 1);
     }
 
     // Part p of row r.
@@ -49,7 +48,7 @@ struct SmallMatrix {
             else if constexpr (!lastLaneUndefined || r < n - 1)
                 return Lanes<T>::load(from);  // three floats are read as four: this one is the next row's or before it
             else
-                return _mm_castsi128_ps(_mm_srli_si128(_mm_castps_si128(Lanes<T>::load(from - 1).v), 4));
+                return behindFirst(Lanes<T>::load(from - 1));
         } else {
             return lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(view(object, r, column(p, l))); });
         }
@@ -90,7 +89,7 @@ struct SmallMatrix {
         if constexpr (i == 0)
             return rests;
         else if constexpr (rest == 2)
-            return _mm_movehl_ps(rests.v, rests.v);
+            return highPairs(rests, rests);
         else
             return splat<i>(rests);
     }
@@ -110,7 +109,7 @@ struct SmallMatrix {
                 storeThree(to, part);
             }
         } else {
-            unrolled<p == full ? rest : std::min(width, n - p * width)>(
+            unrolled<p == full ? rest : min(width, n - p * width)>(
                 [&](auto l) VORM_INLINE_LAMBDA { view(object, r, p * width + l) = firstLane(splat<l>(part)); });
         }
     }

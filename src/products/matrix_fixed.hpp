@@ -10,6 +10,8 @@
 // store by itself, and there are not registers enough to hold everything.
 #pragma once
 
+#include <algorithm>
+
 #include "frame/small_matrix.hpp"
 
 namespace vorm {
