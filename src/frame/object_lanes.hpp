@@ -23,16 +23,6 @@ constexpr InPlanes<View> asPlanes(const View& view)
     return {view};
 }
 
-// Views whose elements, or those of a row, are contiguous.
-template <class View>
-constexpr bool isAdjacent = adjacentRows<View>;
-template <class T>
-constexpr bool isAdjacent<Vector<T, Adjacent>> = true;
-template <class T>
-constexpr bool isAdjacent<VectorArray<T, Adjacent>> = true;
-template <class T>
-constexpr bool isAdjacent<VectorList<T, Adjacent>> = true;
-
 // The addresses of consecutive objects.
 template <class View, class T, int objects>
 VORM_INLINE void objectsAt(const View& view, int first, T* (&to)[objects])
@@ -167,7 +157,7 @@ VORM_INLINE bool objectsApart(const View& view, int n, int rows, int len)
     constexpr int width = Lanes<T>::width;
     const std::ptrdiff_t row = len * std::ptrdiff_t{sizeof(T)};
     std::ptrdiff_t stride1 = 0;
-    if constexpr (adjacentRows<View>) stride1 = view.stride1;
+    if constexpr (requires { view.stride1; }) stride1 = view.stride1;
     const std::ptrdiff_t span = (rows - 1) * stride1 + row;
     if constexpr (requires { view.stride0; }) {
         return view.stride0 >= span ||

@@ -9,16 +9,6 @@
 
 namespace vorm {
 
-// Views whose stored rows are contiguous.
-template <class View>
-constexpr bool adjacentRows = false;
-template <class T>
-constexpr bool adjacentRows<Matrix<T, Adjacent>> = true;
-template <class T>
-constexpr bool adjacentRows<MatrixArray<T, Adjacent>> = true;
-template <class T>
-constexpr bool adjacentRows<MatrixList<T, Adjacent>> = true;
-
 // How the rows of a matrix of order n lie in registers: as many full ones as fit, then one for the
 // rest, in which the one or two elements left over repeat: 4 4 4 4 or 4 5 4 5 behind 0 1 2 3. Three
 // floats are a register whose last lane is undefined.
@@ -39,7 +29,7 @@ struct SmallMatrix {
     template <int r, int p, class View>
     VORM_INLINE static Lanes<T> load(const View& view, int object)
     {
-        if constexpr (adjacentRows<View>) {
+        if constexpr (View::isAdjacent) {
             const T* const from = advance(view.object(object), std::ptrdiff_t{r} * view.stride1) + p * width;
             if constexpr (p == full && rest == 1)
                 return elementAt(from, 0);
@@ -97,7 +87,7 @@ struct SmallMatrix {
     template <int r, int p, class View>
     VORM_INLINE static void store(const View& view, int object, Lanes<T> part)
     {
-        if constexpr (adjacentRows<View>) {
+        if constexpr (View::isAdjacent) {
             T* const to = advance(view.object(object), std::ptrdiff_t{r} * view.stride1) + p * width;
             if constexpr (p == full) {
                 storeFirst<rest>(to, part);
