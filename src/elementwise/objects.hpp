@@ -9,15 +9,6 @@
 
 namespace vorm {
 
-template <class View>
-constexpr bool isConstant = false;
-template <class T>
-constexpr bool isConstant<Constant<T>> = true;
-template <class T>
-constexpr bool isConstant<ConstantArray<T>> = true;
-template <class T>
-constexpr bool isConstant<ConstantList<T>> = true;
-
 // An operand as whole vectors of type V. What all objects share is loaded once.
 template <class V, class View>
 class Whole {

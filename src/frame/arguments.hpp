@@ -13,7 +13,7 @@ namespace vorm {
 // What is to be done at once under a driver.
 struct Chunk {
     int first, objects;  // its objects
-    int number;          // the chunk's own, 0 when there is but one
+    int thread;          // its number among the chunks, 0 when there is but one
     char* scratch;       // the work space of its thread, null where the call asks for none
 };
 

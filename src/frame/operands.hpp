@@ -3,11 +3,13 @@
 //
 // A view of a const type reads elements by value, one of a plain type gives a reference to assign
 // to. Single operands ignore n, so that a kernel need not know which of its operands are arrays;
-// isCommon tells it where it matters.
+// isCommon tells it where it matters. isAdjacent: the elements of a vector, or of each row, lie side by side.
 //
 // As parts of a call (call.hpp) views know the arguments they are made of, themselves from the first object of a
 // chunk on (the offset has 32 bits), the view of their n-th object alone, and themselves with adjacent elements.
 #pragma once
+
+#include <type_traits>
 
 #include "frame/arguments.hpp"
 
@@ -32,7 +34,7 @@ constexpr std::ptrdiff_t bytes(Adjacent)
 
 template <class T, class Step>
 struct Vector {  // v
-    static constexpr bool isCommon = true;
+    static constexpr bool isCommon = true, isAdjacent = std::is_same_v<Step, Adjacent>;
     T* p;
     Step stride2;
     T* object(int) const { return p; }
@@ -49,7 +51,7 @@ struct Vector {  // v
 
 template <class T, class Step>
 struct VectorArray {  // va
-    static constexpr bool isCommon = false;
+    static constexpr bool isCommon = false, isAdjacent = std::is_same_v<Step, Adjacent>;
     T* p;
     int stride0;
     Step stride2;
@@ -70,7 +72,7 @@ struct VectorArray {  // va
 
 template <class T, class Step>
 struct Matrix {  // m
-    static constexpr bool isCommon = true;
+    static constexpr bool isCommon = true, isAdjacent = std::is_same_v<Step, Adjacent>;
     T* p;
     int stride1;
     Step stride2;
@@ -91,7 +93,7 @@ struct Matrix {  // m
 
 template <class T, class Step>
 struct MatrixArray {  // ma
-    static constexpr bool isCommon = false;
+    static constexpr bool isCommon = false, isAdjacent = std::is_same_v<Step, Adjacent>;
     T* p;
     int stride0, stride1;
     Step stride2;
@@ -117,7 +119,7 @@ struct MatrixArray {  // ma
 
 template <class T, class Step>
 struct VectorList {  // va
-    static constexpr bool isCommon = false;
+    static constexpr bool isCommon = false, isAdjacent = std::is_same_v<Step, Adjacent>;
     T* const* pp;
     int shift;
     Step stride2;
@@ -135,7 +137,7 @@ struct VectorList {  // va
 
 template <class T, class Step>
 struct MatrixList {  // ma
-    static constexpr bool isCommon = false;
+    static constexpr bool isCommon = false, isAdjacent = std::is_same_v<Step, Adjacent>;
     T* const* pp;
     int shift, stride1;
     Step stride2;
@@ -161,7 +163,7 @@ struct MatrixList {  // ma
 
 template <class T>
 struct VectorPointers {  // v
-    static constexpr bool isCommon = true;
+    static constexpr bool isCommon = true, isAdjacent = false;
     T* const* pp;
     int shift;
     T* element(int i) const { return advance(pp[i], shift); }
@@ -177,7 +179,7 @@ struct VectorPointers {  // v
 
 template <class T>
 struct VectorArrayPointers {  // va
-    static constexpr bool isCommon = false;
+    static constexpr bool isCommon = false, isAdjacent = false;
     T* const* pp;
     int shift, stride0;
     T* element(int i) const { return advance(pp[i], shift); }  // of object 0
@@ -196,7 +198,7 @@ struct VectorArrayPointers {  // va
 
 template <class T>
 struct MatrixPointers {  // m; width is that of the stored matrix
-    static constexpr bool isCommon = true;
+    static constexpr bool isCommon = true, isAdjacent = false;
     T* const* pp;
     int shift, width;
     T* element(int r, int c) const { return advance(pp[std::ptrdiff_t{r} * width + c], shift); }
@@ -212,7 +214,7 @@ struct MatrixPointers {  // m; width is that of the stored matrix
 
 template <class T>
 struct MatrixArrayPointers {  // ma; width is that of the stored matrix
-    static constexpr bool isCommon = false;
+    static constexpr bool isCommon = false, isAdjacent = false;
     T* const* pp;
     int shift, stride0, width;
     T* element(int r, int c) const { return advance(pp[std::ptrdiff_t{r} * width + c], shift); }
@@ -236,7 +238,7 @@ struct MatrixArrayPointers {  // ma; width is that of the stored matrix
 
 template <class Stored>
 struct Transposed {  // t, ta
-    static constexpr bool isCommon = Stored::isCommon;
+    static constexpr bool isCommon = Stored::isCommon, isAdjacent = false;
     Stored stored;
     decltype(auto) operator()(int n, int r, int c) const { return stored(n, c, r); }
     template <class Body>
@@ -261,11 +263,35 @@ constexpr bool isTransposed = false;
 template <class Stored>
 constexpr bool isTransposed<Transposed<Stored>> = true;
 
+// How a matrix operand is read, m or t in the name of its shape: the view that shows it so, and its rows and columns
+// then, out of the sizes it is stored with; the same two functions lead back.
+
+struct AsStored {
+    static constexpr bool isTransposed = false;
+    template <class Stored>
+    static Stored used(const Stored& stored)
+    {
+        return stored;
+    }
+    static constexpr int rows(int /*width*/, int height) { return height; }
+    static constexpr int columns(int width, int /*height*/) { return width; }
+};
+struct AsTransposed {
+    static constexpr bool isTransposed = true;
+    template <class Stored>
+    static Transposed<Stored> used(const Stored& stored)
+    {
+        return {stored};
+    }
+    static constexpr int rows(int width, int /*height*/) { return width; }
+    static constexpr int columns(int /*width*/, int height) { return height; }
+};
+
 // Constants. -------------------------------------------------------------------------------------
 
 template <class T>
 struct Constant {  // c
-    static constexpr bool isCommon = true;
+    static constexpr bool isCommon = true, isAdjacent = false, isConstant = true;
     T val;
     T operator()(int, int) const { return val; }
     template <class Body>
@@ -280,7 +306,7 @@ struct Constant {  // c
 
 template <class T>
 struct ConstantArray {  // ca, standard and pointer layout
-    static constexpr bool isCommon = false;
+    static constexpr bool isCommon = false, isAdjacent = false, isConstant = true;
     const T* p;
     int stride0;
     T operator()(int n, int) const { return elementAt(p, std::ptrdiff_t{n} * stride0); }
@@ -299,7 +325,7 @@ struct ConstantArray {  // ca, standard and pointer layout
 
 template <class T>
 struct ConstantList {  // ca, list layout
-    static constexpr bool isCommon = false;
+    static constexpr bool isCommon = false, isAdjacent = false, isConstant = true;
     const T* const* pp;
     int shift;
     T operator()(int n, int) const { return elementAt(pp[n], shift); }
@@ -312,6 +338,41 @@ struct ConstantList {  // ca, list layout
     VORM_INLINE constexpr auto single(int n) const { return Constant<T>{(*this)(n, 0)}; }
     VORM_INLINE constexpr auto withAdjacent() const { return *this; }
 };
+
+template <class View>
+constexpr bool isAdjacent = View::isAdjacent;
+template <class View>
+constexpr bool adjacentRows = View::isAdjacent;
+template <class View>
+constexpr bool isConstant = requires
+{
+    View::isConstant;
+};
+
+// Whether the objects of an operand follow one another without a gap. What all objects share, and a constant for
+// each, are in nobody's way. ---------------------------------------------------------------------
+
+template <class View>
+VORM_INLINE bool isPacked(const View& view, int len)
+{
+    if constexpr (View::isCommon || isConstant<View>)
+        return true;
+    else if constexpr (View::isAdjacent && requires { view.stride0; })
+        return view.stride0 == len * std::ptrdiff_t{sizeof(*view.p)};
+    else
+        return false;
+}
+template <class View>
+VORM_INLINE bool isPacked(const View& view, int width, int height)
+{
+    if constexpr (View::isCommon)
+        return true;
+    else if constexpr (View::isAdjacent && requires { view.stride0; })
+        return view.stride1 == width * std::ptrdiff_t{sizeof(*view.p)} &&
+               view.stride0 == height * std::ptrdiff_t{view.stride1};
+    else
+        return false;
+}
 
 // clang 14 deduces no aggregates by itself.
 template <class T, class Step>

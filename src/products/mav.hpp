@@ -5,7 +5,6 @@
 #include "frame/call.hpp"
 #include "products/layers.hpp"
 #include "products/paths.hpp"
-#include "products/vector_forms.hpp"
 
 // The operands by layout, in the order and with the names of the exported prototypes.
 #define MAV_PARAMS(T)                                                                                                 \
@@ -31,35 +30,35 @@ namespace vorm {
 
 // K (N + 1) count + N with K rows and N columns of the matrix as it is used: mav H (W + 1) count + W, tav
 // W (H + 1) count + H.
-template <class Form>
+template <class As>
 constexpr Work mavWork(int src1Width, int src1Height, int src2Len, int count)
 {
-    return workOf(wrapAdd(wrapMul(Form::rows(src1Width, src1Height), wrapAdd(src2Len, 1), count), src2Len), 250);
+    return workOf(wrapAdd(wrapMul(As::rows(src1Width, src1Height), wrapAdd(src2Len, 1), count), src2Len), 250);
 }
 
-template <class Form, class T>
+template <class As, class T>
 VORM_INLINE auto mav(MAV_PARAMS(T))
 {
-    return arrayCallOf<T>(mavWork<Form>(src1Width, src1Height, src2Len, count), count,
+    return arrayCallOf<T>(mavWork<As>(src1Width, src1Height, src2Len, count), count,
                           MatrixArray{pSrc1, src1Stride0, src1Stride1, src1Stride2}, Size{src1Width}, Size{src1Height},
                           Vector{pSrc2, src2Stride2}, Size{src2Len}, VectorArray{pDst, dstStride0, dstStride2},
-                          Form::fit(src1Width, src1Height, src2Len));
+                          Fit{As::columns(src1Width, src1Height), src2Len});
 }
-template <class Form, class T>
+template <class As, class T>
 VORM_INLINE auto mavL(MAV_PARAMS_L(T))
 {
-    return arrayCallOf<T>(mavWork<Form>(src1Width, src1Height, src2Len, count), count,
+    return arrayCallOf<T>(mavWork<As>(src1Width, src1Height, src2Len, count), count,
                           MatrixList{ppSrc1, src1Shift, src1Stride1, src1Stride2}, Size{src1Width}, Size{src1Height},
                           Vector{pSrc2, src2Stride2}, Size{src2Len}, VectorList{ppDst, dstShift, dstStride2},
-                          Form::fit(src1Width, src1Height, src2Len));
+                          Fit{As::columns(src1Width, src1Height), src2Len});
 }
-template <class Form, class T>
+template <class As, class T>
 VORM_INLINE auto mavP(MAV_PARAMS_P(T))
 {
-    return arrayCallOf<T>(mavWork<Form>(src1Width, src1Height, src2Len, count), count,
+    return arrayCallOf<T>(mavWork<As>(src1Width, src1Height, src2Len, count), count,
                           MatrixArrayPointers{ppSrc1, src1Shift, src1Stride0, src1Width}, Size{src1Width},
                           Size{src1Height}, VectorPointers{ppSrc2, src2Shift}, Size{src2Len},
-                          VectorArrayPointers{ppDst, dstShift, dstStride0}, Form::fit(src1Width, src1Height, src2Len));
+                          VectorArrayPointers{ppDst, dstShift, dstStride0}, Fit{As::columns(src1Width, src1Height), src2Len});
 }
 
 }  // namespace vorm

@@ -5,7 +5,6 @@
 #include "frame/call.hpp"
 #include "products/layers.hpp"
 #include "products/paths.hpp"
-#include "products/vector_forms.hpp"
 
 // The operands by layout, in the order and with the names of the exported prototypes.
 #define MAVA_PARAMS(T)                                                                                                \
@@ -36,29 +35,29 @@ constexpr Work mavaWork(int src1Width, int src1Height, int count)
     return workOf(wrapMul(wrapAdd(wrapMul(src1Width, wrapAdd(src1Height, 1)), src1Height), count), 250);
 }
 
-template <class Form, class T>
+template <class As, class T>
 VORM_INLINE auto mava(MAVA_PARAMS(T))
 {
     return arrayCallOf<T>(mavaWork(src1Width, src1Height, count), count,
                           MatrixArray{pSrc1, src1Stride0, src1Stride1, src1Stride2}, Size{src1Width}, Size{src1Height},
                           VectorArray{pSrc2, src2Stride0, src2Stride2}, Size{src2Len},
-                          VectorArray{pDst, dstStride0, dstStride2}, Form::fit(src1Width, src1Height, src2Len));
+                          VectorArray{pDst, dstStride0, dstStride2}, Fit{As::columns(src1Width, src1Height), src2Len});
 }
-template <class Form, class T>
+template <class As, class T>
 VORM_INLINE auto mavaL(MAVA_PARAMS_L(T))
 {
     return arrayCallOf<T>(mavaWork(src1Width, src1Height, count), count,
                           MatrixList{ppSrc1, src1Shift, src1Stride1, src1Stride2}, Size{src1Width}, Size{src1Height},
                           VectorList{ppSrc2, src2Shift, src2Stride2}, Size{src2Len},
-                          VectorList{ppDst, dstShift, dstStride2}, Form::fit(src1Width, src1Height, src2Len));
+                          VectorList{ppDst, dstShift, dstStride2}, Fit{As::columns(src1Width, src1Height), src2Len});
 }
-template <class Form, class T>
+template <class As, class T>
 VORM_INLINE auto mavaP(MAVA_PARAMS_P(T))
 {
     return arrayCallOf<T>(mavaWork(src1Width, src1Height, count), count,
                           MatrixArrayPointers{ppSrc1, src1Shift, src1Stride0, src1Width}, Size{src1Width},
                           Size{src1Height}, VectorArrayPointers{ppSrc2, src2Shift, src2Stride0}, Size{src2Len},
-                          VectorArrayPointers{ppDst, dstShift, dstStride0}, Form::fit(src1Width, src1Height, src2Len));
+                          VectorArrayPointers{ppDst, dstShift, dstStride0}, Fit{As::columns(src1Width, src1Height), src2Len});
 }
 
 }  // namespace vorm

@@ -56,9 +56,8 @@ template <class Kind, Bodies bodies = Bodies::upTo6, class T>
 VORM_INLINE VormStatus mmContiguous(MM_PARAMS(T))
 {
     const auto [m, n, k] = Kind::lengths(src1Width, src1Height, src2Width, src2Height);
-    int other = (m ^ k) | (n ^ k) | ((k - 3) & ~3);
-    __asm__("" : "+r"(other));  // opaque, as in Kind::fits
-    if (other != 0) return generalProduct<Kind>(MM_ARGS);
+    if (opaque((m ^ k) | (n ^ k) | ((k - 3) & ~3)) != 0)  // as in Kind::fits
+        return generalProduct<Kind>(MM_ARGS);
     return mmSquare<Kind, bodies>(MM_ARGS);
 }
 

@@ -3,7 +3,6 @@
 
 #include "frame/call.hpp"
 #include "products/layers.hpp"
-#include "products/vector_forms.hpp"
 
 // The operands by layout, in the order and with the names of the exported prototypes.
 #define MV_PARAMS(T)                                                                                                  \
@@ -17,19 +16,19 @@
 
 namespace vorm {
 
-template <class Form, class T>
+template <class As, class T>
 VORM_INLINE auto mv(MV_PARAMS(T))
 {
     return callOf<T>(Matrix{pSrc1, src1Stride1, src1Stride2}, Size{src1Width}, Size{src1Height},
                      Vector{pSrc2, src2Stride2}, Size{src2Len}, Vector{pDst, dstStride2},
-                     Form::fit(src1Width, src1Height, src2Len));
+                     Fit{As::columns(src1Width, src1Height), src2Len});
 }
-template <class Form, class T>
+template <class As, class T>
 VORM_INLINE auto mvP(MV_PARAMS_P(T))
 {
     return callOf<T>(MatrixPointers{ppSrc1, src1Shift, src1Width}, Size{src1Width}, Size{src1Height},
                      VectorPointers{ppSrc2, src2Shift}, Size{src2Len}, VectorPointers{ppDst, dstShift},
-                     Form::fit(src1Width, src1Height, src2Len));
+                     Fit{As::columns(src1Width, src1Height), src2Len});
 }
 
 }  // namespace vorm

@@ -7,49 +7,49 @@
 
 namespace vorm {
 
-template <class Form, Bodies bodies = Bodies::upTo6, class T, class TheTests, class Parts>
+template <class As, Bodies bodies = Bodies::upTo6, class T, class TheTests, class Parts>
 VORM_INLINE VormStatus contiguousKernel(const ArrayCall<T, TheTests, Parts>& call)
 {
     return call.parts.with([](const auto& a, Size width, Size height, const auto& x, Size, const auto& y, Fit,
                               Count count) VORM_INLINE_LAMBDA {
-        return contiguousProducts<Form, bodies, T>(a.withAdjacent(), x.withAdjacent(), y.withAdjacent(), width.value,
+        return contiguousProducts<As, bodies, T>(a.withAdjacent(), x.withAdjacent(), y.withAdjacent(), width.value,
                                                    height.value, count.value);
     });
 }
-template <class Form, class T, class TheTests, class Parts>
+template <class As, class T, class TheTests, class Parts>
 VORM_INLINE VormStatus anyStrideKernel(const ArrayCall<T, TheTests, Parts>& call)
 {
     return call.parts.with([](const auto& a, Size width, Size height, const auto& x, Size len, const auto& y, Fit,
                               Count count) VORM_INLINE_LAMBDA {
-        return productsAnywhere<T>(Form::used(a), x, y, Form::rows(width.value, height.value), len.value, 0,
+        return productsAnywhere<T>(As::used(a), x, y, As::rows(width.value, height.value), len.value, 0,
                                    count.value);
     });
 }
-template <class Form, class T, class TheTests, class Parts>
+template <class As, class T, class TheTests, class Parts>
 VORM_INLINE VormStatus pointerKernel(const ArrayCall<T, TheTests, Parts>& call)
 {
     return call.parts.with([](const auto& a, Size width, Size height, const auto& x, Size len, const auto& y, Fit,
                               Count count) VORM_INLINE_LAMBDA {
-        return pointerProducts<T>(Form::used(a), x, y, Form::rows(width.value, height.value), len.value, count.value);
+        return pointerProducts<T>(As::used(a), x, y, As::rows(width.value, height.value), len.value, count.value);
     });
 }
 
 // Of one object.
-template <class Form, class T, class TheTests, class Parts>
+template <class As, class T, class TheTests, class Parts>
 VORM_INLINE VormStatus contiguousKernel(const Call<T, TheTests, Parts>& call)
 {
     return call.parts.with([](const auto& a, Size width, Size height, const auto& x, Size, const auto& y, Fit)
                                VORM_INLINE_LAMBDA {
-                                   return contiguousProduct<Form, T>(a.withAdjacent(), x.withAdjacent(),
+                                   return contiguousProduct<As, T>(a.withAdjacent(), x.withAdjacent(),
                                                                      y.withAdjacent(), width.value, height.value);
                                });
 }
-template <class Form, class T, class TheTests, class Parts>
+template <class As, class T, class TheTests, class Parts>
 VORM_INLINE VormStatus anyStrideKernel(const Call<T, TheTests, Parts>& call)
 {
     return call.parts.with(
         [](const auto& a, Size width, Size height, const auto& x, Size len, const auto& y, Fit) VORM_INLINE_LAMBDA {
-            return productsAnywhere<T>(Form::used(a), x, y, Form::rows(width.value, height.value), len.value, 0, 1);
+            return productsAnywhere<T>(As::used(a), x, y, As::rows(width.value, height.value), len.value, 0, 1);
         });
 }
 

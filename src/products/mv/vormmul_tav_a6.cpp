@@ -7,6 +7,6 @@ using namespace vorm;
 
 extern "C" {
 
-VormStatus n8_ownvormMul_tav_32f(MAV_PARAMS(float)) { return contiguousKernel<Turned>(mav<Turned>(MAV_ARGS)); }
-VormStatus n8_ownvormMul_tav_32f_L(MAV_PARAMS_L(float)) { return contiguousKernel<Turned>(mavL<Turned>(MAV_ARGS_L)); }
+VormStatus n8_ownvormMul_tav_32f(MAV_PARAMS(float)) { return contiguousKernel<AsTransposed>(mav<AsTransposed>(MAV_ARGS)); }
+VormStatus n8_ownvormMul_tav_32f_L(MAV_PARAMS_L(float)) { return contiguousKernel<AsTransposed>(mavL<AsTransposed>(MAV_ARGS_L)); }
 }

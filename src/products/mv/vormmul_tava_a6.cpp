@@ -7,9 +7,9 @@ using namespace vorm;
 
 extern "C" {
 
-VormStatus n8_ownvormMul_tava_32f(MAVA_PARAMS(float)) { return contiguousKernel<Turned>(mava<Turned>(MAVA_ARGS)); }
+VormStatus n8_ownvormMul_tava_32f(MAVA_PARAMS(float)) { return contiguousKernel<AsTransposed>(mava<AsTransposed>(MAVA_ARGS)); }
 VormStatus n8_ownvormMul_tava_32f_L(MAVA_PARAMS_L(float))
 {
-    return contiguousKernel<Turned>(mavaL<Turned>(MAVA_ARGS_L));
+    return contiguousKernel<AsTransposed>(mavaL<AsTransposed>(MAVA_ARGS_L));
 }
 }

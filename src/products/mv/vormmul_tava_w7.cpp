@@ -7,9 +7,9 @@ using namespace vorm;
 
 extern "C" {
 
-VormStatus n8_ownvormMul_tava_64f(MAVA_PARAMS(double)) { return contiguousKernel<Turned>(mava<Turned>(MAVA_ARGS)); }
+VormStatus n8_ownvormMul_tava_64f(MAVA_PARAMS(double)) { return contiguousKernel<AsTransposed>(mava<AsTransposed>(MAVA_ARGS)); }
 VormStatus n8_ownvormMul_tava_64f_L(MAVA_PARAMS_L(double))
 {
-    return contiguousKernel<Turned, Bodies::none>(mavaL<Turned>(MAVA_ARGS_L));
+    return contiguousKernel<AsTransposed, Bodies::none>(mavaL<AsTransposed>(MAVA_ARGS_L));
 }
 }

@@ -7,5 +7,5 @@ using namespace vorm;
 
 extern "C" {
 
-VormStatus n8_ownvormMul_tv_32f(MV_PARAMS(float)) { return contiguousKernel<Turned>(mv<Turned>(MV_ARGS)); }
+VormStatus n8_ownvormMul_tv_32f(MV_PARAMS(float)) { return contiguousKernel<AsTransposed>(mv<AsTransposed>(MV_ARGS)); }
 }

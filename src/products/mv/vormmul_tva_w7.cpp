@@ -7,9 +7,9 @@ using namespace vorm;
 
 extern "C" {
 
-VormStatus n8_ownvormMul_tva_64f(MVA_PARAMS(double)) { return contiguousKernel<Turned>(mva<Turned>(MVA_ARGS)); }
+VormStatus n8_ownvormMul_tva_64f(MVA_PARAMS(double)) { return contiguousKernel<AsTransposed>(mva<AsTransposed>(MVA_ARGS)); }
 VormStatus n8_ownvormMul_tva_64f_L(MVA_PARAMS_L(double))
 {
-    return contiguousKernel<Turned, Bodies::none>(mvaL<Turned>(MVA_ARGS_L));
+    return contiguousKernel<AsTransposed, Bodies::none>(mvaL<AsTransposed>(MVA_ARGS_L));
 }
 }
