@@ -39,7 +39,7 @@ const std::map<std::string, std::set<std::string>> gaps = {
 std::set<std::string> innerSizes(const Function& f)
 {
     if (f.indexOf("src1Width") < 0) return {};
-    const auto kinds = f.operands();
+    const auto kinds = f.kinds();
     return {kinds[0][0] == 'm' ? "src1Width" : "src1Height", kinds[1][0] == 'v'   ? "src2Len"
                                                              : kinds[1][0] == 'm' ? "src2Height"
                                                                                   : "src2Width"};

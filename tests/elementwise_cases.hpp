@@ -24,7 +24,7 @@ inline bool isVectorSum(const Function& f)
 template <class T>
 void checkCase(const Function& f, Case c, Random& random)
 {
-    const auto kinds = f.operands();
+    const auto kinds = f.kinds();
     const bool constants[2] = {kinds[0][0] == 'c', kinds[1][0] == 'c'};
     const auto countOf = [&](const std::string& kind) { return kind.size() > 1 ? c.count : 0; };
     std::map<std::string, Placed<T>> placed;

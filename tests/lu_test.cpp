@@ -146,7 +146,7 @@ std::vector<T> all(const Placed<T>& p, int object)
     return values;
 }
 
-bool isArrayOf(const Function& f, std::size_t operand) { return f.operands()[operand].size() > 1; }
+bool isArrayOf(const Function& f, std::size_t operand) { return f.kinds()[operand].size() > 1; }
 
 template <class T>
 Placed<T> lay(const Function& f, const Case& c, Lie lie, bool isArray, int rows, Random& random)

@@ -12,7 +12,7 @@ namespace {
 
 bool isMatrixProduct(const Function& f)
 {
-    const auto kinds = f.operands();
+    const auto kinds = f.kinds();
     const auto isMatrix = [](const std::string& kind) { return kind[0] == 'm' || kind[0] == 't'; };
     return f.family == "Mul" && !f.isFixed() && kinds.size() == 2 && isMatrix(kinds[0]) && isMatrix(kinds[1]);
 }
@@ -27,7 +27,7 @@ public:
     // spread is the operand with a gap between its elements: 1, 2, 3 for the destination, or 0.
     Product(const Function& f, Sizes s, int spread, int count, Random& random) : f_(f)
     {
-        const auto kinds = f.operands();
+        const auto kinds = f.kinds();
         const auto lay = [&](int number, bool isArray, int rows, int columns) {
             Lie lie{.rows = rows, .columns = columns, .count = isArray ? count : 0, .gap2 = spread == number ? 2 : 1};
             lie.layout = f.layout == "L" && !isArray ? "" : f.layout;
@@ -62,7 +62,7 @@ public:
     // The measure that decides.
     std::int64_t work(std::int64_t count) const
     {
-        const auto kinds = f_.operands();
+        const auto kinds = f_.kinds();
         const Lie &a = operands_[0], &b = operands_[1], &d = operands_[2];
         const std::int64_t m = d.rows, n = d.columns, k = kinds[0][0] == 't' ? a.rows : a.columns;
         if (kinds[1].size() == 1) return b.columns * b.rows + (n + k) * m * count;

@@ -96,7 +96,7 @@ void fill(const Placed<T>& p, Values values, bool isMatrix, Random& random)
 template <class T>
 void checkCase(const Function& f, Case c, Random& random)
 {
-    const auto kinds = f.operands();
+    const auto kinds = f.kinds();
     const bool turned = f.shape[0] == 't';
     const int width = turned ? c.rows : c.terms, height = turned ? c.terms : c.rows;
     const auto lay = [&](Lie lie, bool isArray, int rows, int columns) {
