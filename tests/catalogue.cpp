@@ -134,18 +134,6 @@ Function functionFrom(std::string name, std::string text, std::function<VormStat
 
 }  // namespace
 
-std::vector<std::string> Function::kinds() const
-{
-    std::vector<std::string> all;
-    for (char c : shape) {
-        if (c == 'a')
-            all.back() += c;
-        else
-            all.emplace_back(1, c);
-    }
-    return all;
-}
-
 std::size_t Function::operandNamed(std::string_view operand) const
 {
     for (std::size_t k = 0; k < operands.size(); ++k)

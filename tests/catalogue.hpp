@@ -43,12 +43,14 @@ struct Function {
     std::function<VormStatus(const std::vector<Argument>&)> call;
 
     int elementSize() const { return type == "32f" ? 4 : 8; }
+    std::size_t bytesOf(const Operand& o) const
+    {
+        return std::size_t(o.isInteger ? 4 : elementSize());
+    }                                                                                 // of an element
     bool isFixed() const { return shape.find_first_of("234") != std::string::npos; }  // v3, m4 and the like
     bool isArray() const { return shape.find('a') != std::string::npos; }
     bool isProduct() const { return indexOf("src1Width") >= 0; }  // with sizes for each source
-    // Operand kinds of the shape in order: "v", "va", "c", "ca", ...
-    std::vector<std::string> kinds() const;
-    int indexOf(std::string_view parameter) const;  // -1 where there is none
+    int indexOf(std::string_view parameter) const;                // -1 where there is none
     std::size_t operandNamed(std::string_view operand) const;
 };
 

@@ -1,5 +1,10 @@
 #include "harness.hpp"
 
+#include <set>
+#include <sstream>
+
+#include "limits.hpp"
+
 namespace {
 
 // The general rule: sums of products take their sizes from each other, everything else has the size of
@@ -83,9 +88,12 @@ Argument argumentFor(const Parameter& p, const Function& f, const Sizes& s, int 
 
 const Family* familyOf(const Function& f)
 {
-    for (const Family& family : families())
-        if (family.has(f)) return &family;
-    return nullptr;
+    static std::map<const Function*, const Family*> known;
+    const auto [found, isNew] = known.try_emplace(&f, nullptr);
+    if (isNew)
+        for (const Family* family : families())
+            if (family->has(f)) found->second = family;
+    return found->second;
 }
 
 Call::Call(const Function& function, const Problem& problem_, Random& random) : f(function), problem(problem_)
@@ -101,8 +109,8 @@ Call::Call(const Function& function, const Problem& problem_, Random& random) : 
             operands.push_back((*this)[mould]);
             continue;
         }
-        operands.push_back(place(random, o, storedAs(o, f, problem.sizes), problem.count,
-                                 o.isInteger ? 4 : f.elementSize(), problem.lies[k]));
+        operands.push_back(
+            place(random, o, storedAs(o, f, problem.sizes), problem.count, int(f.bytesOf(o)), problem.lies[k]));
         if (o.isInteger && !o.isWritten)
             fillRows(operands[k], random);
         else if (!o.isInteger)
@@ -110,7 +118,8 @@ Call::Call(const Function& function, const Problem& problem_, Random& random) : 
                             : fill<double>(operands[k], problem.values, k == 0, random);
     }
     if (family && family->fill) family->fill(*this, problem.values, random);
-    for (const Placed& p : operands) p.room->shade();
+    for (int n : problem.failing) family->spoil(*this, n, random);
+    for (std::size_t k = 0; k < operands.size(); ++k) operands[k].shade(f.bytesOf(f.operands[k]));
     for (const Parameter& p : f.parameters)
         arguments.push_back(
             argumentFor(p, f, problem.sizes, problem.count, p.operand.empty() ? nullptr : &(*this)[p.operand]));
@@ -119,6 +128,93 @@ Call::Call(const Function& function, const Problem& problem_, Random& random) : 
 VormStatus Call::make() const
 {
     VormStatus status = StatusOk;
-    asked_ = askedDuring(problem.threads, [&] { status = f.call(arguments); });
+    asked_ = askedDuring(problem.threads, problem.later, [&] { status = f.call(arguments); });
     return status;
+}
+
+bool Call::isContiguous() const
+{
+    bool isContiguous = f.layout != "P";
+    for (std::size_t k = 0; k < operands.size(); ++k)
+        if (f.operands[k].hasStride[2]) isContiguous = isContiguous && operands[k].stride[2] == f.elementSize();
+    return isContiguous;
+}
+
+Problem someProblem(const Function& f, const Sizes& sizes, Random& random)
+{
+    constexpr Values values[] = {Values::ordinary, Values::ordinary, Values::ordinary, Values::special,
+                                 Values::special,  Values::integers, Values::integers, Values::negativeZeros};
+    Problem p{.sizes = sizes, .values = values[pick(random, 0, 7)], .inPlace = chance(random, 15)};
+    // Alike in one respect in many problems, so that kernels for contiguous and packed operands are met often.
+    const bool isContiguous = chance(random, 60), isPacked = chance(random, 30), inPlanes = chance(random, 40);
+    for (const Operand& o : f.operands) {
+        Lie lie = someLie(random);
+        if (isContiguous) lie.gap2 = 1;
+        if (isPacked) lie.padObject = lie.padRow = lie.slot = 0;
+        if (inPlanes) lie.planes = true;
+        if (!o.isWritten && !p.inPlace && chance(random, 5)) lie.overlapping = pick(random, 1, 3);
+        if (!o.isWritten && !p.inPlace && chance(random, 5)) lie.isRepeated = true;
+        if (chance(random, 5)) lie.isInterleaved = true;
+        p.lies.push_back(lie);
+    }
+    return p;
+}
+
+namespace {
+
+// A NaN in the shadow stands for any NaN.
+template <class T>
+void acceptAnyNan(const Placed& p)
+{
+    for (int n = 0; n < p.count(); ++n)
+        for (int e = 0; e < p.size(); ++e)
+            if (std::isnan(p.get<T>(n, e)) && std::isnan(p.found<T>(n, e))) p.set(n, e, p.found<T>(n, e));
+}
+
+std::string described(const Call& call)
+{
+    std::ostringstream text;
+    const Problem& p = call.problem;
+    text << call.f.name << " of " << p.sizes.rows << " x " << p.sizes.columns << " x " << p.sizes.terms << ", count "
+         << p.count << ", threads " << p.threads << (p.inPlace ? ", in place" : "") << ":";
+    for (std::size_t k = 0; k < call.operands.size(); ++k)
+        text << " " << call.f.operands[k].name << " " << call.operands[k].stride[0] << " " << call.operands[k].stride[1]
+             << " " << call.operands[k].stride[2] << ";";
+    return text.str();
+}
+
+}  // namespace
+
+std::string check(const Call& call)
+{
+    const Function& f = call.f;
+    const Family& family = *familyOf(f);
+    const int count = f.isArray() ? call.problem.count : 1;
+    const int threads = call.problem.threads, later = call.problem.later ? call.problem.later : threads;
+    const bool drives = f.isArray() && limitOf(f, call.problem.sizes, count, call.isContiguous()).isReached();
+    const bool forks = drives && threads > 1 && count >= threads;
+
+    // Chunks stop for themselves, and any failure may come first.
+    const int chunks = forks ? later : 1;
+    std::set<VormStatus> expected;
+    for (int t = 0, n = 0; t < chunks; ++t) {
+        const int end = n + count / chunks + (t < count % chunks);
+        VormStatus status = StatusOk;
+        for (; n < end && status == StatusOk; ++n)
+            status = f.type == "32f" ? family.model32f(call, n) : family.model64f(call, n);
+        if (status != StatusOk) expected.insert(status);
+        n = end;
+    }
+    if (expected.empty()) expected.insert(StatusOk);
+
+    const VormStatus status = call.make();
+    for (std::size_t k = 0; k < call.operands.size(); ++k)
+        if (f.operands[k].isWritten && !f.operands[k].isInteger)
+            f.type == "32f" ? acceptAnyNan<float>(call.operands[k]) : acceptAnyNan<double>(call.operands[k]);
+    if (!expected.contains(status)) return described(call) + " status " + std::to_string(status);
+    if (call.asked() != drives + forks) return described(call) + " asked " + std::to_string(call.asked()) + " times";
+    for (std::size_t k = 0; k < call.operands.size(); ++k)
+        if (!call.operands[k].agrees(f.bytesOf(f.operands[k])))
+            return described(call) + " differs in " + f.operands[k].name;
+    return {};
 }
