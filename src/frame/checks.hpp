@@ -7,9 +7,6 @@
 
 namespace vorm {
 
-// What a member of a family deliberately leaves untested; the member says so by name.
-enum class Untested { none, srcStride0, shifts };
-
 template <class... Pointer>
 constexpr bool anyNull(Pointer... pointers)
 {

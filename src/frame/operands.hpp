@@ -265,7 +265,6 @@ constexpr bool isTransposed<Transposed<Stored>> = true;
 
 // How a matrix operand is read, m or t in the name of its shape: the view that shows it so, and its rows and columns
 // then, out of the sizes it is stored with; the same two functions lead back.
-
 struct AsStored {
     static constexpr bool isTransposed = false;
     template <class Stored>

@@ -19,7 +19,7 @@ enum class Kernels { cannotFail, canFail };
 // failing chunk stops no other one; the first failure to be reported is the status of the call.
 // With scratchPerThread, each thread of a team gets that many bytes for the time of the call.
 template <Kernels kernels, class Work>
-VORM_INLINE VormStatus inTeam(int count, std::int64_t, const Work& work, std::size_t scratchPerThread = 0)
+VORM_INLINE VormStatus inTeam(int count, std::int64_t, const Work& work, std::size_t scratchPerThread)
 {
     const int threads = ownGetNumThreads();
     if (threads <= 1 || count < threads) return work(Chunk{0, count, 0, nullptr});
@@ -57,9 +57,9 @@ VORM_INLINE VormStatus inTeam(int count, std::int64_t, const Work& work, std::si
 }
 
 template <Kernels kernels, class Work>
-VORM_INLINE VormStatus inTeam(int count, const Work& work)
+VORM_INLINE VormStatus inTeam(int count, const Work& work, std::size_t scratchPerThread = 0)
 {
-    return inTeam<kernels>(count, 0, work);
+    return inTeam<kernels>(count, 0, work, scratchPerThread);
 }
 
 }  // namespace vorm
