@@ -4,7 +4,7 @@
 #include "elementwise/kernels.hpp"
 #include "frame/call.hpp"
 
-namespace vorm {
+namespace vorm::elementwise {
 
 template <class Op, class T, class TheTests, class Parts>
 VORM_INLINE VormStatus contiguousKernel(const ArrayCall<T, TheTests, Parts>& call)
@@ -41,4 +41,4 @@ VORM_INLINE VormStatus anyStrideKernel(const Call<T, TheTests, Parts>& call)
                                VORM_INLINE_LAMBDA { return anyStride<Op>(a, b, dst, len.value, 1); });
 }
 
-}  // namespace vorm
+}  // namespace vorm::elementwise

@@ -18,7 +18,7 @@
         int len, int count
 #define VAC_ARGS_P ppSrc, srcShift, srcStride0, val, ppDst, dstShift, dstStride0, len, count
 
-namespace vorm {
+namespace vorm::elementwise {
 
 constexpr Work vacWork(int len, int count) { return workOf(wrapMul(wrapAdd(wrapMul(2, count), 1), len), 250); }
 
@@ -49,4 +49,4 @@ VORM_INLINE constexpr Call cvaOf(Call call)
     return call;
 }
 
-}  // namespace vorm
+}  // namespace vorm::elementwise

@@ -19,7 +19,7 @@
         int dstStride0, int len, int count
 #define VACA_ARGS_P ppSrc, srcShift, srcStride0, pVal, valStride0, ppDst, dstShift, dstStride0, len, count
 
-namespace vorm {
+namespace vorm::elementwise {
 
 constexpr Work vacaWork(int len, int count) { return workOf(wrapMul(count, wrapAdd(wrapMul(2, len), 1)), 250); }
 
@@ -42,4 +42,4 @@ VORM_INLINE auto vacaP(VACA_PARAMS_P(T))
                           ConstantArray{pVal, valStride0}, VectorArrayPointers{ppDst, dstShift, dstStride0}, Size{len});
 }
 
-}  // namespace vorm
+}  // namespace vorm::elementwise

@@ -19,7 +19,7 @@
         int dstShift, int dstStride0, int len, int count
 #define VAV_ARGS_P ppSrc1, src1Shift, src1Stride0, ppSrc2, src2Shift, ppDst, dstShift, dstStride0, len, count
 
-namespace vorm {
+namespace vorm::elementwise {
 
 constexpr Work vavWork(int len, int count) { return workOf(wrapMul(wrapAdd(wrapMul(2, count), 1), len), 250); }
 
@@ -47,4 +47,4 @@ VORM_INLINE auto vavP(VAV_PARAMS_P(T))
                                     Size{len});
 }
 
-}  // namespace vorm
+}  // namespace vorm::elementwise

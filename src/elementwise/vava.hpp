@@ -21,7 +21,7 @@
 #define VAVA_ARGS_P \
     ppSrc1, src1Shift, src1Stride0, ppSrc2, src2Shift, src2Stride0, ppDst, dstShift, dstStride0, len, count
 
-namespace vorm {
+namespace vorm::elementwise {
 
 constexpr Work vavaWork(int len, int count) { return workOf(wrapMul(3, count, len), 250); }
 
@@ -47,4 +47,4 @@ VORM_INLINE auto vavaP(VAVA_PARAMS_P(T))
                           VectorArrayPointers{ppDst, dstShift, dstStride0}, Size{len});
 }
 
-}  // namespace vorm
+}  // namespace vorm::elementwise

@@ -11,7 +11,7 @@
 #define VC_PARAMS_P(T) const T *const *ppSrc, int srcShift, T val, T *const *ppDst, int dstShift, int len
 #define VC_ARGS_P ppSrc, srcShift, val, ppDst, dstShift, len
 
-namespace vorm {
+namespace vorm::elementwise {
 
 template <class T>
 VORM_INLINE auto vc(VC_PARAMS(T))
@@ -24,4 +24,4 @@ VORM_INLINE auto vcP(VC_PARAMS_P(T))
     return callOf<T>(VectorPointers{ppSrc, srcShift}, Constant{val}, VectorPointers{ppDst, dstShift}, Size{len});
 }
 
-}  // namespace vorm
+}  // namespace vorm::elementwise

@@ -19,7 +19,7 @@
         int len, int count
 #define VCA_ARGS_P ppSrc, srcShift, pVal, valStride0, ppDst, dstShift, dstStride0, len, count
 
-namespace vorm {
+namespace vorm::elementwise {
 
 constexpr Work vcaWork(int len, int count) { return workOf(wrapAdd(wrapMul(len, count), len, count), 250); }
 
@@ -42,4 +42,4 @@ VORM_INLINE auto vcaP(VCA_PARAMS_P(T))
                           VectorArrayPointers{ppDst, dstShift, dstStride0}, Size{len});
 }
 
-}  // namespace vorm
+}  // namespace vorm::elementwise

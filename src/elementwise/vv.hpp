@@ -11,7 +11,7 @@
     const T *const *ppSrc1, int src1Shift, const T *const *ppSrc2, int src2Shift, T *const *ppDst, int dstShift, int len
 #define VV_ARGS_P ppSrc1, src1Shift, ppSrc2, src2Shift, ppDst, dstShift, len
 
-namespace vorm {
+namespace vorm::elementwise {
 
 template <class T>
 VORM_INLINE auto vv(VV_PARAMS(T))
@@ -25,4 +25,4 @@ VORM_INLINE auto vvP(VV_PARAMS_P(T))
                      VectorPointers{ppDst, dstShift}, Size{len});
 }
 
-}  // namespace vorm
+}  // namespace vorm::elementwise

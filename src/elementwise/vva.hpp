@@ -19,7 +19,7 @@
         int dstShift, int dstStride0, int len, int count
 #define VVA_ARGS_P ppSrc1, src1Shift, ppSrc2, src2Shift, src2Stride0, ppDst, dstShift, dstStride0, len, count
 
-namespace vorm {
+namespace vorm::elementwise {
 
 constexpr Work vvaWork(int len, int count) { return workOf(wrapMul(wrapAdd(wrapMul(2, count), 1), len), 250); }
 
@@ -45,4 +45,4 @@ VORM_INLINE auto vvaP(VVA_PARAMS_P(T))
                           VectorArrayPointers{ppDst, dstShift, dstStride0}, Size{len});
 }
 
-}  // namespace vorm
+}  // namespace vorm::elementwise

@@ -4,6 +4,7 @@
 #include "elementwise/vc.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 

@@ -4,6 +4,7 @@
 #include "elementwise/vca.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 

@@ -4,6 +4,7 @@
 #include "elementwise/vac.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 

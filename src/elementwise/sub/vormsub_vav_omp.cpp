@@ -4,6 +4,7 @@
 #include "frame/driver.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 

@@ -4,6 +4,7 @@
 #include "elementwise/vava.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 

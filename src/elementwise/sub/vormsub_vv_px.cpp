@@ -4,6 +4,7 @@
 #include "elementwise/vv.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
