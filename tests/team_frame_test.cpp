@@ -27,7 +27,7 @@ struct Done {
 
 class Team : public testing::Test {
 protected:
-    ~Team() override { standinThreads = 1, standinThreadsLater = 0; }
+    ~Team() override { standinThreads = 1, standinLater = 0; }
 
     // Runs a call and records what it does, in the order of the chunks' numbers.
     template <Kernels kernels>
@@ -117,9 +117,9 @@ TEST_F(Team, NumberThatChangesBetweenTheQuestions)
 {
     for (int later : {-1, 1, 3, 7, 40})
         for (std::int64_t cost : {std::int64_t{0}, plenty}) {
-            standinThreadsLater = later;
+            standinLater = later;
             EXPECT_TRUE(areParts(chunksOf<Kernels::canFail>(5, 7, cost, 64), 7, std::max(later, 1))) << later;
-            standinThreadsLater = later;
+            standinLater = later;
             EXPECT_EQ(workers(chunksOf<Kernels::cannotFail>(5, 7, cost, 64)),
                       std::min(7, workersFor(cost, later, processors_)));
         }

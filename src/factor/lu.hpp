@@ -127,7 +127,7 @@ VORM_INLINE VormStatus luArray(const Dst& dst, int order, int count, const Block
             done += width;
             continue;
         }
-        for (const int end = done + std::min(width, count - done); done < end; ++done)
+        for (const int end = done + min(width, count - done); done < end; ++done)
             if (const VormStatus status = single(done); status != StatusOk) return status;
     }
     return StatusOk;
@@ -191,8 +191,8 @@ VORM_INLINE VormStatus luGeneral(const Src& src, const Dst& dst, int object, int
             const T* const from = rowAt(src, object, r);
             T* const to = rowAt(dst, object, r);
             const auto bytes = std::ptrdiff_t{order} * int{sizeof(T)};
-            const auto apart = std::abs(reinterpret_cast<const char*>(from) - reinterpret_cast<const char*>(to));
-            if (order > 24 && apart >= bytes) {
+            const auto apart = reinterpret_cast<const char*>(from) - reinterpret_cast<const char*>(to);
+            if (order > 24 && (apart >= bytes || -apart >= bytes)) {
                 std::memcpy(static_cast<void*>(to), from, static_cast<std::size_t>(bytes));
                 continue;
             }

@@ -52,7 +52,7 @@ struct PivotSearch {
         const Lanes<T> magnitude = abs(element);
         const __m128i displaced = bitsOf((magnitude > largest).bits);
         rows = _mm_max_epi16(rows, _mm_and_si128(displaced, bitsOf(rowNumber<T>(row).v)));
-        largest = largerOf(magnitude, largest);
+        largest = larger(magnitude, largest);
     }
 };
 

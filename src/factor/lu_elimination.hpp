@@ -59,15 +59,11 @@ VORM_INLINE Lanes<T> numbered(Lanes<T>, int r)
 }
 VORM_INLINE int numbered(int, int r) { return r; }
 
-// Larger, or what was the largest unless it is less: a NaN displaces nothing, and nothing displaces it.
-inline __m128 largerOf(Lanes<float> magnitude, Lanes<float> largest) { return _mm_max_ps(magnitude.v, largest.v); }
-inline __m128d largerOf(Lanes<double> magnitude, Lanes<double> largest) { return _mm_max_pd(magnitude.v, largest.v); }
-
 // 1 / pivot, whose division need not wait for the pivot: the sign is all that the magnitude lacks.
 template <class T>
 VORM_INLINE Lanes<T> reciprocalOf(Lanes<T> pivot, Lanes<T> magnitude)
 {
-    return differing((Lanes<T>(T(1)) / magnitude).v, both(pivot.v, Lanes<T>(-T(0)).v));
+    return timesSignOf(Lanes<T>(T(1)) / magnitude, pivot);
 }
 
 // The pivots of step k, the first of the largest magnitudes of a column from row k on: finds them and lets row k and
@@ -105,7 +101,7 @@ struct Pivot<n, Lanes<T>> {
         for (int i = k + 1; i < n; ++i) {
             const Lanes<T> other = abs(element(i));
             is[i] = (other > magnitude).bits;
-            magnitude = largerOf(other, magnitude);
+            magnitude = larger(other, magnitude);
         }
         Bits later = is[n - 1];  // the last one to displace the largest is the pivot
         for (int i = n - 2; i > k; --i) {

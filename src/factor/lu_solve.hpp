@@ -61,7 +61,7 @@ VORM_INLINE void luEachVector(const X& dst, int n, int count, const Single& sing
             lanesFrom(done);
             done += width;
         } else {
-            for (const int end = done + std::min(width, count - done); done < end; ++done) single(done);
+            for (const int end = done + min(width, count - done); done < end; ++done) single(done);
         }
     }
 }

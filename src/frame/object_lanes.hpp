@@ -2,8 +2,6 @@
 // object in each lane. Loads and stores for every layout; nothing but the elements is touched.
 #pragma once
 
-#include <cstdlib>
-
 #include "frame/planes.hpp"
 #include "frame/shuffles.hpp"
 #include "frame/small_matrix.hpp"
@@ -24,16 +22,6 @@ constexpr InPlanes<View> asPlanes(const View& view)
 {
     return {view};
 }
-
-// Views whose elements, or those of a row, are contiguous.
-template <class View>
-constexpr bool isAdjacent = adjacentRows<View>;
-template <class T>
-constexpr bool isAdjacent<Vector<T, Adjacent>> = true;
-template <class T>
-constexpr bool isAdjacent<VectorArray<T, Adjacent>> = true;
-template <class T>
-constexpr bool isAdjacent<VectorList<T, Adjacent>> = true;
 
 // The addresses of consecutive objects.
 template <class View, class T, int objects>
@@ -169,7 +157,7 @@ VORM_INLINE bool objectsApart(const View& view, int n, int rows, int len)
     constexpr int width = Lanes<T>::width;
     const std::ptrdiff_t row = len * std::ptrdiff_t{sizeof(T)};
     std::ptrdiff_t stride1 = 0;
-    if constexpr (adjacentRows<View>) stride1 = view.stride1;
+    if constexpr (requires { view.stride1; }) stride1 = view.stride1;
     const std::ptrdiff_t span = (rows - 1) * stride1 + row;
     if constexpr (requires { view.stride0; }) {
         return view.stride0 >= span ||
@@ -178,7 +166,7 @@ VORM_INLINE bool objectsApart(const View& view, int n, int rows, int len)
         const auto at = [&](int l) VORM_INLINE_LAMBDA { return reinterpret_cast<const char*>(view.object(n + l)); };
         for (int i = 1; i < width; ++i)
             for (int j = 0; j < i; ++j)
-                if (std::abs(at(i) - at(j)) < span) return false;
+                if (const std::ptrdiff_t distance = at(i) - at(j); - span < distance && distance < span) return false;
         return true;
     }
 }

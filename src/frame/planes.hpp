@@ -3,7 +3,6 @@
 #pragma once
 
 #include <cstdint>
-#include <cstdlib>
 
 #include "frame/operands.hpp"
 
@@ -45,7 +44,7 @@ VORM_INLINE bool planesApart(T* const* pp, int rows, int columns, std::ptrdiff_t
     if (elements / 2 >= steps) return false;
     for (std::int64_t i = 1; i < elements; ++i)
         for (std::int64_t j = 0; j < i; ++j)
-            if (std::abs(apart(i, j)) < span) return false;
+            if (const std::ptrdiff_t distance = apart(i, j); - span < distance && distance < span) return false;
     return true;
 }
 

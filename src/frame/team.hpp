@@ -4,16 +4,10 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "frame/arguments.hpp"
 #include "frame/layers.hpp"
 
 namespace vorm {
-
-// What one call of a kernel is to do.
-struct Chunk {
-    int first, objects;  // its objects
-    int thread;          // its number among the chunks: which stretch of a caller's buffer is its own
-    char* scratch;       // work space of the worker that does it, null in a serial call
-};
 
 enum class Kernels { cannotFail, canFail };
 
