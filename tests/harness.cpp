@@ -154,7 +154,7 @@ Problem someProblem(const Function& f, const Sizes& sizes, Random& random)
         if (inPlanes) lie.planes = true;
         if (!o.isWritten && !p.inPlace && chance(random, 5)) lie.overlapping = pick(random, 1, 3);
         if (!o.isWritten && !p.inPlace && chance(random, 5)) lie.isRepeated = true;
-        if (chance(random, 5)) lie.isInterleaved = true;
+        if (chance(random, 8)) lie.interleaved = chance(random, 50) ? 1 : sizes.rows;
         p.lies.push_back(lie);
     }
     return p;

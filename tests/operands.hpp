@@ -109,7 +109,7 @@ struct Lie {
     bool planes = false;                      // pointer layout: a plane for each element, objects side by side
     bool shuffled = false;                    // the order of a list's objects or of a table's planes or elements
     int overlapping = 0;                      // objects so few elements apart, 0 for a place of their own
-    bool isInterleaved = false;               // rows of the other objects between two rows of one
+    int interleaved = 0;                      // objects so many rows apart, all of them between two rows of one
     bool isRepeated = false;                  // list: some objects are the same one
     bool atFront = false;                     // against the page before
     int misaligned = 0;                       // bytes between the operand and its page
@@ -206,7 +206,7 @@ inline Placed place(Random& random, const Operand& o, Stored stored, int count, 
     const bool inTable = o.layout == "P", isList = o.layout == "L" && o.isArray;
     if (!inTable && !o.hasStride[2]) lie.gap2 = 1;
     if (!inTable && !o.hasStride[1]) lie.padRow = 0;
-    if (!isList && !o.hasStride[0]) lie.padObject = lie.slot = lie.overlapping = 0, lie.isInterleaved = false;
+    if (!isList && !o.hasStride[0]) lie.padObject = lie.slot = lie.overlapping = lie.interleaved = 0;
     const int number = o.isArray ? count : 1, size = stored.rows * stored.columns;
     const bool planes = inTable && lie.planes && o.isArray;
     constexpr int gigabyte = 1 << 30;
@@ -219,7 +219,8 @@ inline Placed place(Random& random, const Operand& o, Stored stored, int count, 
     step += e * lie.padObject;
     if (lie.slot) step = (step + lie.slot - 1) / lie.slot * lie.slot;
     if (planes) step = e;
-    if (lie.isInterleaved && !planes) step = p.stride[1], p.stride[1] *= number;
+    if (lie.interleaved && !planes)
+        step = lie.interleaved * std::ptrdiff_t{p.stride[1]}, p.stride[1] = int(step) * number;
     if (lie.overlapping) step = e * lie.overlapping;
     if (lie.far == Far::objects) step = gigabyte + 7 * e;
     if (lie.far == Far::rows) step = p.stride[1], p.stride[1] = gigabyte + 5 * e;

@@ -88,7 +88,7 @@ TEST_P(AllFamilies, OverlappingResults)
             if (way == 0) lie.padObject = -pick(random, 1, p.count - 1);  // planes share memory
             if (way == 1) lie.overlapping = pick(random, 1, 3);
             if (way == 2) lie.overlapping = s.columns * lie.gap2 + lie.padRow;  // by whole rows
-            if (way == 3) lie.isInterleaved = true;
+            if (way == 3) lie.interleaved = 1;
             if (way == 4) lie.isRepeated = true;  // objects that are no neighbours
             expectModel(*f, p);
             if (HasFatalFailure()) return;
