@@ -7,6 +7,7 @@
 #include "elementwise/objects.hpp"
 #include "elementwise/packed.hpp"
 #include "elementwise/runs.hpp"
+#include "frame/overlap.hpp"
 #include "frame/planes.hpp"
 
 namespace vorm {

@@ -152,6 +152,13 @@ constexpr bool isTransposed = false;
 template <class Stored>
 constexpr bool isTransposed<Transposed<Stored>> = true;
 
+// Whether the elements of an object, or those of a stored row of it, lie side by side. -----------------------------
+
+template <class View>
+constexpr bool isAdjacent = requires(View view) { requires std::is_same_v<decltype(view.stride2), Adjacent>; };
+template <class View>
+constexpr bool adjacentRows = isAdjacent<View>&& requires(View view) { view.stride1; };
+
 // Constants. -------------------------------------------------------------------------------------
 
 template <class T>

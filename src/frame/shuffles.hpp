@@ -83,6 +83,25 @@ VORM_INLINE T lane(Lanes<T, W> a)
     return firstLane(splat<k % narrow<T>>(part));
 }
 
+// The integer of a lane of two; and those of four or eight lanes in half the register.
+template <int k>
+VORM_INLINE int integerInLane(Lanes<double> a)
+{
+    return _mm_cvtsi128_si32(_mm_castpd_si128(k == 0 ? a.v : interleaveHigh(a, a).v));
+}
+template <int W>
+VORM_INLINE Lanes<float, W> lowHalves(Lanes<double, W> a)
+{
+    Lanes<float> parts[W / 2];
+    eachPart(a, [&](int q, Lanes<double> part) VORM_INLINE_LAMBDA { parts[q] = _mm_castpd_ps(part.v); });
+    return joined<Lanes<float, W>>(
+        [&](int q) VORM_INLINE_LAMBDA { return shuffle<0, 2, 0, 2>(parts[2 * q], parts[2 * q + 1]); });
+}
+
+// b with the first lane of a.
+VORM_INLINE Lanes<float> withFirst(Lanes<float> a, Lanes<float> b) { return _mm_move_ss(b.v, a.v); }
+VORM_INLINE Lanes<double> withFirst(Lanes<double> a, Lanes<double> b) { return _mm_move_sd(b.v, a.v); }
+
 // a1 a2 a3 0: the lanes behind the first.
 VORM_INLINE Lanes<float> behindFirst(Lanes<float> a)
 {

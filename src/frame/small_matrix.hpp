@@ -9,16 +9,6 @@
 
 namespace vorm {
 
-// Views whose stored rows are contiguous.
-template <class View>
-constexpr bool adjacentRows = false;
-template <class T>
-constexpr bool adjacentRows<Matrix<T, Adjacent>> = true;
-template <class T>
-constexpr bool adjacentRows<MatrixArray<T, Adjacent>> = true;
-template <class T>
-constexpr bool adjacentRows<MatrixList<T, Adjacent>> = true;
-
 // How the rows of a matrix of order n lie in registers: as many full ones as fit, then one for the
 // rest, in which the one or two elements left over repeat: 4 4 4 4 or 4 5 4 5 behind 0 1 2 3. Three
 // floats are a register whose last lane is undefined.

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "frame/lanes.hpp"
+#include "frame/overlap.hpp"
 #include "frame/planes.hpp"
 
 namespace vorm {
