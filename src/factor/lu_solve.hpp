@@ -23,6 +23,53 @@ VORM_INLINE void luSubstitute(const Factors& lu, Number (&x)[n], const Divided& 
     });
 }
 
+// Order 3 in adjacent rows, where a substitution is so little work that its loads are most of it: object by object or
+// two by two, as the addresses of all the rows would be more than there are registers for them.
+template <class M, class B, class T>
+VORM_INLINE void loadThrees(const M& matrix, const B& b, int first, const int* pivotIndex, Lanes<T> (&lu)[3][3],
+                            Lanes<T> (&x)[3])
+{
+    // Row k of object l and its element of b.
+    const auto eachRow = [&](auto l, const auto& load) VORM_INLINE_LAMBDA {
+        const T *const object = matrix.object(first + l), *const vector = b.object(first + l);
+        unrolled<3>([&](auto k) VORM_INLINE_LAMBDA {
+            const std::ptrdiff_t row = entry(pivotIndex, l * 3 + k);
+            load(k, advance(object, row * matrix.stride1), vector + row);
+        });
+    };
+    if constexpr (std::is_same_v<T, float>) {
+        Lanes<float> front[3][2], back[3][2], values[3][2];
+        unrolled<2>([&](auto pair) VORM_INLINE_LAMBDA {
+            eachRow(constant<2 * pair>, [&](auto k, const float* row, const float* element) VORM_INLINE_LAMBDA {
+                front[k][pair] = loadFirst<2>(row), back[k][pair] = loadFirst<2>(row + 1);
+                values[k][pair] = loadFirst<1>(element);
+            });
+            eachRow(constant<2 * pair + 1>, [&](auto k, const float* row, const float* element) VORM_INLINE_LAMBDA {
+                front[k][pair] = withPair(front[k][pair], row), back[k][pair] = withPair(back[k][pair], row + 1);
+                values[k][pair] = interleaveLow(values[k][pair], loadFirst<1>(element));
+            });
+        });
+        unrolled<3>([&](auto k) VORM_INLINE_LAMBDA {
+            lu[k][0] = shuffle<0, 2, 0, 2>(front[k][0], front[k][1]);
+            lu[k][1] = shuffle<1, 3, 1, 3>(front[k][0], front[k][1]);
+            lu[k][2] = shuffle<1, 3, 1, 3>(back[k][0], back[k][1]);
+            x[k] = lowPairs(values[k][0], values[k][1]);
+        });
+    } else {
+        Lanes<double> front[3][2], back[3][2];
+        unrolled<2>([&](auto l) VORM_INLINE_LAMBDA {
+            eachRow(l, [&](auto k, const double* row, const double* element) VORM_INLINE_LAMBDA {
+                front[k][l] = Lanes<double>::load(row);
+                back[k][l] = interleaveLow(loadFirst<1>(row + 2), loadFirst<1>(element));
+            });
+        });
+        unrolled<3>([&](auto k) VORM_INLINE_LAMBDA {
+            transpose(front[k]), transpose(back[k]);
+            lu[k][0] = front[k][0], lu[k][1] = front[k][1], lu[k][2] = back[k][0], x[k] = back[k][1];
+        });
+    }
+}
+
 // The factors of each object in its own logical order, element c of row k to lu(k, c), and its right-hand side to x(k):
 // of one register of objects. Rows that do not lie in memory are made in a buffer.
 template <class Number, class M, class B, class N, class Lu, class X>
@@ -31,21 +78,32 @@ VORM_INLINE void loadPivoted(const M& matrix, const B& b, int first, const int* 
 {
     using T = Element<Number>;
     constexpr int width = Number::width;
-    RowBuffer<T> buffer[Number::parts];
     const auto row = [&](int l, int k) VORM_INLINE_LAMBDA { return int{entry(pivotIndex, l * n + k)}; };
-    if constexpr (!isAdjacent<M>)
+    RowBuffer<T> buffer[Number::parts];
+    const T* objects[width];
+    std::ptrdiff_t stride1;
+    if constexpr (isAdjacent<M>) {
+        objectsAt(matrix, first, objects);
+        stride1 = matrix.stride1;
+    } else {
         for (int q = 0; q < Number::parts; ++q) loadInRows(matrix, first + q * narrow<T>, n, buffer[q]);
+        stride1 = registersOf<T>(n) * int{sizeof(Lanes<T>)};
+        for (int l = 0; l < width; ++l)
+            objects[l] = advance(reinterpret_cast<const T*>(buffer[l / narrow<T>]), l % narrow<T> * n * stride1);
+    }
+    const T* vectors[width];
+    if constexpr (isAdjacent<B>) objectsAt(b, first, vectors);
     repeat(n, [&](auto k) VORM_INLINE_LAMBDA {
         const T* from[width];
-        for (int l = 0; l < width; ++l)
-            if constexpr (isAdjacent<M>)
-                from[l] = rowAt(matrix, first + l, row(l, k));
+        for (int l = 0; l < width; ++l) from[l] = advance(objects[l], row(l, k) * stride1);
+        const auto to = [&](int c) VORM_INLINE_LAMBDA -> auto& { return lu(k, c); };
+        loadRows(from, to, n);
+        x(k) = lanes<Number>([&](int l) VORM_INLINE_LAMBDA {
+            if constexpr (isAdjacent<B>)
+                return T(entry(vectors[l], row(l, k)));
             else
-                from[l] = reinterpret_cast<const T*>(buffer[l / narrow<T>] +
-                                                     (l % narrow<T> * n + row(l, k)) * registersOf<T>(n));
-        loadRows(
-            from, [&](int c) VORM_INLINE_LAMBDA -> auto& { return lu(k, c); }, n);
-        x(k) = lanes<Number>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, row(l, k))); });
+                return T(b(first + l, row(l, k)));
+        });
     });
 }
 
@@ -60,6 +118,8 @@ VORM_INLINE VormStatus luSolveObjects(const M& matrix, const B& b, const X& dst,
             for (int c = 0; c < n; ++c) lu[k][c] = matrix(first, row, c);
             x[k] = b(first, row);
         }
+    else if constexpr (n == 3 && std::is_same_v<Number, Lanes<Element<Number>>> && isAdjacent<M> && isAdjacent<B>)
+        loadThrees(matrix, b, first, pivotIndex, lu, x);
     else
         loadPivoted<Number>(
             matrix, b, first, pivotIndex,

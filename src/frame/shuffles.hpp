@@ -141,6 +141,11 @@ VORM_INLINE Lanes<float> loadPairs(const float* p, const float* q)
 {
     return _mm_loadh_pi(loadFirst<2>(p).v, reinterpret_cast<const __m64*>(q));
 }
+// The first two of a, then two at q.
+VORM_INLINE Lanes<float> withPair(Lanes<float> a, const float* q)
+{
+    return _mm_loadh_pi(a.v, reinterpret_cast<const __m64*>(q));
+}
 VORM_INLINE void storePairs(float* p, float* q, Lanes<float> a)
 {
     _mm_storel_pi(reinterpret_cast<__m64*>(p), a.v);
