@@ -259,10 +259,10 @@ template <class T, class M, class B, class X>
 VORM_INLINE VormStatus luMvKernel(const M& matrix, const int* pivotIndex, const B& b, const X& dst, int order)
 {
     switch (order) {
-    case 3: luSolveObject<3, T>(matrix, b, dst, 0, pivotIndex); break;
-    case 4: luSolveObject<4, T>(matrix, b, dst, 0, pivotIndex); break;
-    case 5: luSolveObject<5, T>(matrix, b, dst, 0, pivotIndex); break;
-    case 6: luSolveObject<6, T>(matrix, b, dst, 0, pivotIndex); break;
+    case 3: luSolveObjects<3, T>(matrix, b, dst, 0, pivotIndex); break;
+    case 4: luSolveObjects<4, T>(matrix, b, dst, 0, pivotIndex); break;
+    case 5: luSolveObjects<5, T>(matrix, b, dst, 0, pivotIndex); break;
+    case 6: luSolveObjects<6, T>(matrix, b, dst, 0, pivotIndex); break;
     default: luSolveGeneral<T>(matrix, b, dst, 0, order, pivotIndex);
     }
     return StatusOk;
@@ -277,7 +277,7 @@ VORM_INLINE VormStatus luMvaKernel(const M& matrix, const int* pivotIndex, const
     case 4: luSolveVectors<4, T>(matrix, b, dst, pivotIndex, count); break;
     case 5: luSolveVectors<5, T>(matrix, b, dst, pivotIndex, count); break;
     case 6: luSolveVectors<6, T>(matrix, b, dst, pivotIndex, count); break;
-    default: luSolveVectorsGeneral<T>(matrix, b, dst, pivotIndex, order, count);
+    default: luSolveVectors<T>(matrix, b, dst, pivotIndex, order, count);
     }
     return StatusOk;
 }
@@ -291,7 +291,7 @@ VORM_INLINE VormStatus luMavaKernel(const M& matrix, const int* pivotIndex, cons
     case 4: luSolvePairs<4, T>(matrix, b, dst, pivotIndex, count); break;
     case 5: luSolvePairs<5, T>(matrix, b, dst, pivotIndex, count); break;
     case 6: luSolvePairs<6, T>(matrix, b, dst, pivotIndex, count); break;
-    default: luSolvePairsGeneral<T>(matrix, b, dst, pivotIndex, order, count);
+    default: luSolvePairs<T>(matrix, b, dst, pivotIndex, order, count);
     }
     return StatusOk;
 }
@@ -345,7 +345,7 @@ VORM_INLINE VormStatus luMvaPointers(LU_MVA_PARAMS_P(T))
     const MatrixPointers matrix{srcPointers, srcShift, order};
     const VectorArrayPointers b{src2Pointers, src2Shift, src2Stride0};
     const VectorArrayPointers x{dstPointers, dstShift, dstStride0};
-    if (order <= luLanesOrder && inPlanes(b) && storableAsPlanes(x, order, 1, count))
+    if (order <= bufferedOrder && inPlanes(b) && storableAsPlanes(x, order, 1, count))
         return luMvaKernel<T>(matrix, pivotIndex, asPlanes(b), asPlanes(x), order, count);
     return luMvaKernel<T>(matrix, pivotIndex, b, x, order, count);
 }
@@ -384,7 +384,7 @@ VORM_INLINE VormStatus luMavaPointers(LU_MAVA_PARAMS_P(T))
     const MatrixArrayPointers matrices{srcPointers, srcShift, srcStride0, order};
     const VectorArrayPointers b{src2Pointers, src2Shift, src2Stride0};
     const VectorArrayPointers x{dstPointers, dstShift, dstStride0};
-    if (order <= luLanesOrder && inPlanes(matrices) && inPlanes(b) && storableAsPlanes(x, order, 1, count))
+    if (order <= bufferedOrder && inPlanes(matrices) && inPlanes(b) && storableAsPlanes(x, order, 1, count))
         return luMavaKernel<T>(asPlanes(matrices), pivotIndex, asPlanes(b), asPlanes(x), order, count);
     return luMavaKernel<T>(matrices, pivotIndex, b, x, order, count);
 }

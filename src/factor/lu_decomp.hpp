@@ -181,18 +181,11 @@ VORM_INLINE VormStatus luDecompArray(const Src& src, const Dst& dst, int* pivotI
                                      const General& general)
 {
     switch (order) {
-    case 3: return luObjects<3, T>(src, dst, pivotIndex, count);
-    case 4: return luObjects<4, T>(src, dst, pivotIndex, count);
-    case 5: return luObjects<5, T>(src, dst, pivotIndex, count);
-    case 6: return luObjects<6, T>(src, dst, pivotIndex, count);
-    default:
-        return luArray<T>(
-            dst, order, count,
-            [&](int first) {
-                return order <= luLanesOrder &&
-                       luLanesGeneral<T>(src, dst, first, order, pivotIndex + std::ptrdiff_t{first} * order);
-            },
-            general);
+    case 3: return luArray<3, T>(src, dst, pivotIndex, count);
+    case 4: return luArray<4, T>(src, dst, pivotIndex, count);
+    case 5: return luArray<5, T>(src, dst, pivotIndex, count);
+    case 6: return luArray<6, T>(src, dst, pivotIndex, count);
+    default: return luArray<T>(src, dst, pivotIndex, order, count, general);
     }
 }
 
@@ -201,10 +194,10 @@ VORM_INLINE VormStatus luDecompSingle(const Src& src, const Dst& dst, int* pivot
                                       const General& general)
 {
     switch (order) {
-    case 3: return luObject<3, T>(src, dst, 0, pivotIndex);
-    case 4: return luObject<4, T>(src, dst, 0, pivotIndex);
-    case 5: return luObject<5, T>(src, dst, 0, pivotIndex);
-    case 6: return luObject<6, T>(src, dst, 0, pivotIndex);
+    case 3: return luObjects<3, T>(src, dst, 0, pivotIndex);
+    case 4: return luObjects<4, T>(src, dst, 0, pivotIndex);
+    case 5: return luObjects<5, T>(src, dst, 0, pivotIndex);
+    case 6: return luObjects<6, T>(src, dst, 0, pivotIndex);
     default: return general();
     }
 }
@@ -285,7 +278,7 @@ VORM_INLINE VormStatus luDecompMaPointers(LuComP<T>* general, LU_DECOMP_MA_PARAM
         return general(srcPointers, srcShift, srcStride0, pivotIndex + std::ptrdiff_t{n} * order, dstPointers, dstShift,
                        dstStride0, order, n);
     };
-    if (order <= luLanesOrder && inPlanes(srcs) && storableAsPlanes(dsts, order, order, count))
+    if (order <= bufferedOrder && inPlanes(srcs) && storableAsPlanes(dsts, order, order, count))
         return luDecompArray<T>(asPlanes(srcs), asPlanes(dsts), pivotIndex, order, count, single);
     return luDecompArray<T>(srcs, dsts, pivotIndex, order, count, single);
 }
