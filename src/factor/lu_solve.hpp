@@ -5,7 +5,7 @@
 #include "frame/blocks.hpp"
 #include "frame/object_rows.hpp"
 
-namespace vorm {
+namespace vorm::factor {
 
 // lu(i, j) are factors in logical row order; x holds b in logical order before, the solution after. An unknown is
 // subtracted everywhere as soon as it is found. divided(x, i) is x divided by the i-th element of U's diagonal.
@@ -196,4 +196,4 @@ template <int n, class T, class M, class B, class X>
     });
 }
 
-}  // namespace vorm
+}  // namespace vorm::factor
