@@ -43,7 +43,7 @@ TEST(Calls, Parts)
     EXPECT_EQ(tested(call(p, 12, 4, 0, 3, 2)), StatusBadSize);
     EXPECT_EQ(tested(call(p, 10, 4, 3, 4, 2)), StatusSizeMismatch);
     EXPECT_EQ(tested(call(p, 12, 0, 3, 3, 2)), StatusBadStride);
-    EXPECT_EQ(tested(inOrder<Tests<Test::stride, Test::count>>(call(p, 10, 4, 0, 3, 0))), StatusBadStride);
+    EXPECT_EQ(tested(inOrder<Tests<vorm::Test::stride, vorm::Test::count>>(call(p, 10, 4, 0, 3, 0))), StatusBadStride);
     EXPECT_TRUE(isContiguous(call(p, 12, 4, 3, 3, 2)));
     EXPECT_FALSE(isContiguous(call(p, 12, 8, 3, 3, 2)));
 
