@@ -6,6 +6,7 @@
 #include "elementwise/packed.hpp"
 #include "elementwise/runs.hpp"
 #include "frame/minmax.hpp"
+#include "frame/overlap.hpp"
 #include "frame/planes.hpp"
 
 namespace vorm::elementwise {

@@ -28,8 +28,7 @@ constexpr int registerBytes = 16;
 template <class T>
 constexpr int widest = registerBytes / int{sizeof(T)};
 
-// V holds numbers; Mask says for each lane whether a comparison holds: as bits of a V, or, if masksApart, in a register
-// of another kind.
+// V holds numbers; Mask says for each lane whether a comparison holds.
 template <class T, int width>
 struct Register;
 
@@ -37,7 +36,6 @@ template <>
 struct Register<float, 4> {
     using V = __m128;
     using Mask = __m128;
-    static constexpr bool masksApart = false;
 
     static V all(float x) { return _mm_set1_ps(x); }
     static V bits(int x) { return _mm_castsi128_ps(_mm_set1_epi32(x)); }
@@ -63,6 +61,7 @@ struct Register<float, 4> {
     static Mask equal(V a, V b) { return _mm_cmpeq_ps(a, b); }
     static int maskBits(Mask m) { return _mm_movemask_ps(m); }
     static V select(Mask m, V a, V b) { return _mm_or_ps(_mm_and_ps(m, a), _mm_andnot_ps(m, b)); }
+    static V difference(Mask m, V a, V b) { return both(m, differing(a, b)); }
 
     static V low(V a, V b) { return _mm_unpacklo_ps(a, b); }
     static V high(V a, V b) { return _mm_unpackhi_ps(a, b); }
@@ -95,7 +94,6 @@ template <>
 struct Register<double, 2> {
     using V = __m128d;
     using Mask = __m128d;
-    static constexpr bool masksApart = false;
 
     static V all(double x) { return _mm_set1_pd(x); }
     static V bits(int x) { return _mm_castsi128_pd(_mm_set1_epi64x(x)); }
@@ -119,6 +117,7 @@ struct Register<double, 2> {
     static Mask equal(V a, V b) { return _mm_cmpeq_pd(a, b); }
     static int maskBits(Mask m) { return _mm_movemask_pd(m); }
     static V select(Mask m, V a, V b) { return _mm_or_pd(_mm_and_pd(m, a), _mm_andnot_pd(m, b)); }
+    static V difference(Mask m, V a, V b) { return both(m, differing(a, b)); }
 
     static V low(V a, V b) { return _mm_unpacklo_pd(a, b); }
     static V high(V a, V b) { return _mm_unpackhi_pd(a, b); }

@@ -7,7 +7,6 @@ template <>
 struct Register<float, 8> {
     using V = __m256;
     using Mask = __m256;
-    static constexpr bool masksApart = false;
 
     static V all(float x) { return _mm256_set1_ps(x); }
     static V bits(int x) { return _mm256_castsi256_ps(_mm256_set1_epi32(x)); }
@@ -33,6 +32,7 @@ struct Register<float, 8> {
     static Mask equal(V a, V b) { return _mm256_cmp_ps(a, b, _CMP_EQ_OQ); }
     static int maskBits(Mask m) { return _mm256_movemask_ps(m); }
     static V select(Mask m, V a, V b) { return _mm256_blendv_ps(b, a, m); }
+    static V difference(Mask m, V a, V b) { return both(m, differing(a, b)); }
 
     static V low(V a, V b) { return _mm256_unpacklo_ps(a, b); }
     static V high(V a, V b) { return _mm256_unpackhi_ps(a, b); }
@@ -68,7 +68,6 @@ template <>
 struct Register<double, 4> {
     using V = __m256d;
     using Mask = __m256d;
-    static constexpr bool masksApart = false;
 
     static V all(double x) { return _mm256_set1_pd(x); }
     static V bits(int x) { return _mm256_castsi256_pd(_mm256_set1_epi64x(x)); }
@@ -92,6 +91,7 @@ struct Register<double, 4> {
     static Mask equal(V a, V b) { return _mm256_cmp_pd(a, b, _CMP_EQ_OQ); }
     static int maskBits(Mask m) { return _mm256_movemask_pd(m); }
     static V select(Mask m, V a, V b) { return _mm256_blendv_pd(b, a, m); }
+    static V difference(Mask m, V a, V b) { return both(m, differing(a, b)); }
 
     static V low(V a, V b) { return _mm256_unpacklo_pd(a, b); }
     static V high(V a, V b) { return _mm256_unpackhi_pd(a, b); }

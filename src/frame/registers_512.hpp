@@ -7,7 +7,6 @@ template <>
 struct Register<float, 16> {
     using V = __m512;
     using Mask = __mmask16;
-    static constexpr bool masksApart = true;
 
     static V all(float x) { return _mm512_set1_ps(x); }
     static V bits(int x) { return _mm512_castsi512_ps(_mm512_set1_epi32(x)); }
@@ -40,6 +39,7 @@ struct Register<float, 16> {
     static Mask equal(V a, V b) { return _mm512_cmp_ps_mask(a, b, _CMP_EQ_OQ); }
     static int maskBits(Mask m) { return m; }
     static V select(Mask m, V a, V b) { return _mm512_mask_blend_ps(m, b, a); }
+    static V difference(Mask m, V a, V b) { return _mm512_maskz_xor_ps(m, a, b); }
 
     static V low(V a, V b) { return _mm512_unpacklo_ps(a, b); }
     static V high(V a, V b) { return _mm512_unpackhi_ps(a, b); }
@@ -85,7 +85,6 @@ template <>
 struct Register<double, 8> {
     using V = __m512d;
     using Mask = __mmask8;
-    static constexpr bool masksApart = true;
 
     static V all(double x) { return _mm512_set1_pd(x); }
     static V bits(int x) { return _mm512_castsi512_pd(_mm512_set1_epi64(x)); }
@@ -112,6 +111,7 @@ struct Register<double, 8> {
     static Mask equal(V a, V b) { return _mm512_cmp_pd_mask(a, b, _CMP_EQ_OQ); }
     static int maskBits(Mask m) { return m; }
     static V select(Mask m, V a, V b) { return _mm512_mask_blend_pd(m, b, a); }
+    static V difference(Mask m, V a, V b) { return _mm512_maskz_xor_pd(m, a, b); }
 
     static V low(V a, V b) { return _mm512_unpacklo_pd(a, b); }
     static V high(V a, V b) { return _mm512_unpackhi_pd(a, b); }

@@ -5,7 +5,6 @@
 #include <cstdint>
 
 #include "frame/arguments.hpp"
-#include "frame/layers.hpp"
 
 namespace vorm {
 
@@ -55,13 +54,6 @@ VORM_INLINE VormStatus inTeam(int count, std::int64_t picoseconds, const Work& w
             return (*static_cast<const Work*>(state))(chunk);
     };
     return runInTeam({call, &work, count, kernels, tellsWhere, picoseconds, scratchPerThread});
-}
-
-// A driver that does not state its cost yet: every call pays.
-template <Kernels kernels, class Work>
-VORM_INLINE VormStatus inTeam(int count, const Work& work)
-{
-    return inTeam<kernels>(count, INT64_MAX, work);
 }
 
 }  // namespace vorm

@@ -5,6 +5,7 @@
 
 #include "frame/lanes.hpp"
 #include "frame/minmax.hpp"
+#include "frame/overlap.hpp"
 #include "frame/planes.hpp"
 
 namespace vorm {
