@@ -52,8 +52,9 @@ VORM_INLINE VormStatus mmCheckedP(MmLayerP<T>* kernel, MM_PARAMS_P(T))
 template <class Kind, int n, Order order, class T>
 [[gnu::noinline]] VormStatus mmFixed(MM_PARAMS(T))
 {
-    products<T, n, order>(Kind::first(Matrix{pSrc1, src1Stride1, adjacent}),
-                          Kind::second(Matrix{pSrc2, src2Stride1, adjacent}), Matrix{pDst, dstStride1, adjacent}, 0, 1);
+    squareProducts<T, n, order>(Kind::first(Matrix{pSrc1, src1Stride1, adjacent}),
+                                Kind::second(Matrix{pSrc2, src2Stride1, adjacent}), Matrix{pDst, dstStride1, adjacent},
+                                0, 1);
     return StatusOk;
 }
 
