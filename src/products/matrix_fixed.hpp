@@ -14,7 +14,7 @@
 #include "frame/pin.hpp"
 #include "frame/small_matrix.hpp"
 
-namespace vorm {
+namespace vorm::products {
 
 // Left to right with the first product as the start value, or as the general path adds (see
 // matrix_tiles.hpp).
@@ -213,7 +213,7 @@ struct CommonRows {
 template <class T, int n, bool commonA>
 constexpr bool pinnedSums = sizeof(T) == sizeof(double) || n > 4 || !commonA;
 template <class Number, int n, Order order, int row, int count, bool pinned>
-struct Sums {
+struct TileSums {
     static constexpr bool fromZero = order == Order::asInTiles;
     static constexpr int each = fromZero && row >= (n & ~3) && n % 4 != 3 ? 2 : 1;
     static_assert(each == 1 || n % 2 == 0);
@@ -238,8 +238,8 @@ VORM_INLINE void tile(const A& factors, const B& rowsOfB, const D& dst, int obje
     const auto& a = factors(object);
     auto&& b = rowsOfB(object);
     constexpr bool pinned = pinnedSums<T, n, A::isCommon>;
-    Sums<Lanes<T>, n, order, row, rows * whole, pinned> sums;
-    Sums<T, n, order, row, hasSingles ? rows : 0, pinned> singles;
+    TileSums<Lanes<T>, n, order, row, rows * whole, pinned> sums;
+    TileSums<T, n, order, row, hasSingles ? rows : 0, pinned> singles;
     unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
         Lanes<T> ofB[parts];
         unrolled<parts>([&](auto p) VORM_INLINE_LAMBDA { ofB[p] = b.template get<part + p, k>(); });
@@ -265,7 +265,7 @@ VORM_INLINE void groupTile(const A& factors, const B& rowsOfB, const D& dst, int
     constexpr int row = group * groupRows<T, n>;
     const auto& a = factors(object);
     auto&& b = rowsOfB(object);
-    Sums<Lanes<T>, n, order, row, count, pinnedSums<T, n, A::isCommon>> sums;
+    TileSums<Lanes<T>, n, order, row, count, pinnedSums<T, n, A::isCommon>> sums;
     unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
         const Lanes<T> ofB = b.template get<Small::full, k>();
         unrolled<count>([&](auto g)
@@ -317,7 +317,7 @@ VORM_INLINE void product(const A& factors, const B& rows, const D& dst, int obje
 
 // A matrix that all of several objects share is prepared for them.
 template <class T, int n, Order order = Order::leftToRight, class A, class B, class D>
-VORM_INLINE void products(const A& a, const B& b, const D& dst, int first, int end)
+VORM_INLINE void squareProducts(const A& a, const B& b, const D& dst, int first, int end)
 {
     constexpr bool several = !D::isCommon;
     const std::conditional_t<A::isCommon && several, CommonFactors<T, n, A>, Factors<T, n, A>> factors{a};
@@ -325,4 +325,4 @@ VORM_INLINE void products(const A& a, const B& b, const D& dst, int first, int e
     for (int object = first; object < end; ++object) product<T, n, order>(factors, rows, dst, object);
 }
 
-}  // namespace vorm
+}  // namespace vorm::products

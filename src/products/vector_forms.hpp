@@ -4,8 +4,8 @@
 #include "frame/operands.hpp"
 #include "products/paths.hpp"
 
-namespace vorm {
+namespace vorm::products {
 
 using Turned = AsTransposed;  // y(i) = sum over k of A(k, i) x(k)
 
-}  // namespace vorm
+}  // namespace vorm::products

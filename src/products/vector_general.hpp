@@ -18,7 +18,7 @@
 #include "frame/unrolled.hpp"
 #include "products/dots.hpp"
 
-namespace vorm {
+namespace vorm::products {
 
 // Calls body(integral_constant<int, count>) for a count from 1 to most.
 template <int most, class Body>
@@ -204,4 +204,4 @@ VORM_INLINE void runningProducts(const A& a, const X& x, const D& y, int rows, i
     }
 }
 
-}  // namespace vorm
+}  // namespace vorm::products

@@ -4,6 +4,7 @@
 #include "products/mama.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 

@@ -4,6 +4,7 @@
 #include "products/matrix_fixed.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 

@@ -4,6 +4,7 @@
 #include "products/mma.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 

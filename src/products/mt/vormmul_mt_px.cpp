@@ -3,6 +3,7 @@
 #include "products/mm.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 

@@ -4,6 +4,7 @@
 #include "products/mav.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 

@@ -4,6 +4,7 @@
 #include "products/mava.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 

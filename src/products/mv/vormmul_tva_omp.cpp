@@ -4,6 +4,7 @@
 #include "products/mva.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 
