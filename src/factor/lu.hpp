@@ -25,7 +25,7 @@ VORM_INLINE VormStatus luObjects(const Src& src, const Dst& dst, int first, int*
 {
     LuBlock<n, Number> lu;
     loadMatrices(src, first, lu.a);
-    if constexpr (objectsIn<Number> == 1) {
+    if constexpr (!inLanes<Number>) {
         const int passed = luFactorise<false>(lu);
         std::memcpy(static_cast<void*>(pivotIndex), lu.rows, sizeof lu.rows);
         scatterRows(dst, first, 1, n, passed, pivotIndex, lu.a[0]);
@@ -81,7 +81,7 @@ VORM_INLINE VormStatus luArray(const Src& src, const Dst& dst, int* pivotIndex, 
         [&]<class Number>(int first)
             VORM_INLINE_LAMBDA { return order <= bufferedOrder && registersApart<Number>(dst, first, order, order); },
         [&]<class Number>(int first) VORM_INLINE_LAMBDA {
-            if constexpr (objectsIn<Number> == 1)
+            if constexpr (!inLanes<Number>)
                 return single(first);
             else
                 return luBuffered<T>(src, dst, first, order, pivotIndex + std::ptrdiff_t{first} * order);

@@ -4,6 +4,7 @@
 
 #include "frame/blocks.hpp"
 #include "frame/object_rows.hpp"
+#include "frame/pin.hpp"
 
 namespace vorm {
 
@@ -79,6 +80,14 @@ VORM_INLINE void loadPivoted(const M& matrix, const B& b, int first, const int* 
     using T = Element<Number>;
     constexpr int width = Number::width;
     const auto row = [&](int l, int k) VORM_INLINE_LAMBDA { return int{entry(pivotIndex, l * n + k)}; };
+    if constexpr (isInPlanes<M> && Number::width == 2 && !std::is_same_v<N, int>) {  // so few are rather gathered
+        repeat(n, [&](auto k) VORM_INLINE_LAMBDA {
+            for (int c = 0; c < n; ++c)
+                lu(k, c) = lanes<Number>([&](int l) VORM_INLINE_LAMBDA { return T(matrix(first + l, row(l, k), c)); });
+            x(k) = lanes<Number>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, row(l, k))); });
+        });
+        return;
+    }
     RowBuffer<T> buffer[Number::parts];
     const T* objects[width];
     std::ptrdiff_t stride1;
@@ -112,7 +121,8 @@ template <int n, class Number, class M, class B, class X>
 VORM_INLINE VormStatus luSolveObjects(const M& matrix, const B& b, const X& dst, int first, const int* pivotIndex)
 {
     Number lu[n][n], x[n];
-    if constexpr (objectsIn<Number> == 1)
+    if constexpr (n == 3) first = opaque(first);  // or the loop keeps more addresses than there are registers
+    if constexpr (!inLanes<Number>)
         for (int k = 0; k < n; ++k) {
             const int row = entry(pivotIndex, k);
             for (int c = 0; c < n; ++c) lu[k][c] = matrix(first, row, c);
@@ -160,7 +170,7 @@ template <int n, class T, class M, class B, class X>
     const auto inMemory = [](auto& array) VORM_INLINE_LAMBDA -> auto&
     {
         auto* p = &array;
-        if constexpr (whole || n == 6) __asm__("" : "+r"(p) : : "memory");
+        if constexpr (whole || n == 6) p = opaque(p);
         return *p;
     };
     const auto& coefficients = inMemory(lu);
@@ -170,7 +180,7 @@ template <int n, class T, class M, class B, class X>
         for (int k = 0; k < n; ++k) planes[k] = b.element(rows[k]);
     using Widest = std::conditional_t<whole, Several<L, 2>, L>;
     inBlocks<Widest>(dst, 1, n, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
-        constexpr bool isSingle = objectsIn<Number> == 1;
+        constexpr bool isSingle = !inLanes<Number>;
         using Unknown = std::conditional_t<isSingle, Lanes<T>, Number>;
         using Factor = std::conditional_t<objectsIn<Number> >= L::width, L, Lanes<T>>;
         Unknown x[n];

@@ -97,7 +97,7 @@ template <class T, class M, class B, class X>
     };
     inBlocks<LuOwnMatrices<T>>(count, buffered, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
         const auto pivots = [&](int object) VORM_INLINE_LAMBDA { return pivotIndex + std::ptrdiff_t{object} * n; };
-        if constexpr (objectsIn<Number> == 1) {
+        if constexpr (!inLanes<Number>) {
             luSolveGeneral<T>(matrix, b, dst, first, n, pivots(first));
         } else {
             Number lu[bufferedOrder * bufferedOrder], x[bufferedOrder];
@@ -119,15 +119,15 @@ template <class T, class M, class B, class X>
 [[gnu::noinline]] void luSolveVectors(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int n,
                                       int count)
 {
-    const bool inLanes = n <= bufferedOrder && count >= narrow<T>;
+    const bool fits = n <= bufferedOrder && count >= narrow<T>;
     RowBuffer<T> lu;
-    if (inLanes)
+    if (fits)
         for (int k = 0; k < n; ++k)
             for (int c = 0; c < n; ++c) lu[k * n + c] = T(matrix(0, entry(pivotIndex, k), c));
     const auto buffered = [&]<class Number>(int first)
-                              VORM_INLINE_LAMBDA { return inLanes && registersApart<Number>(dst, first, 1, n); };
+                              VORM_INLINE_LAMBDA { return fits && registersApart<Number>(dst, first, 1, n); };
     inBlocks<LuOneMatrix<T>>(count, buffered, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
-        if constexpr (objectsIn<Number> == 1) {
+        if constexpr (!inLanes<Number>) {
             luSolveGeneral<T>(matrix, b, dst, first, n, pivotIndex);
         } else {
             Number natural[bufferedOrder], x[bufferedOrder];

@@ -2,12 +2,10 @@
 #pragma once
 
 #include "frame/layers.hpp"
+#include "frame/pin.hpp"
 #include "frame/wrapping.hpp"
 
 namespace vorm {
-
-// What a member of a family deliberately leaves untested; the member says so by name.
-enum class Untested { none, srcStride0, shifts };
 
 template <class... Pointer>
 constexpr bool anyNull(Pointer... pointers)
@@ -39,11 +37,12 @@ constexpr bool anyBadShift(Int... shifts)
 template <class T, class... Int>
 VORM_INLINE bool contiguous(Int... stride2s)
 {
-    int difference = (... | (stride2s ^ int{sizeof(T)}));
+    const int difference = (... | (stride2s ^ int{sizeof(T)}));
 #ifdef __clang__
-    __asm__("" : "+r"(difference));  // keeps clang from taking it apart; g++ does better without
-#endif
+    return opaque(difference) == 0;  // g++ does better without
+#else
     return difference == 0;
+#endif
 }
 
 }  // namespace vorm

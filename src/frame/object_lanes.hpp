@@ -5,7 +5,6 @@
 // anywhere else are gathered one by one. n is a number of the program's run, or an std::integral_constant.
 #pragma once
 
-#include <cstddef>
 #include <type_traits>
 
 #include "frame/planes.hpp"
@@ -106,27 +105,30 @@ template <class T, class View>
     for (int l = 0; l < objects; ++l)
         for (int i = 0; i < n; ++i) view(first + l, i) = from[i * objects + l];
 }
-// Only some rows, the first ones; row r of object l goes to row rows[l * n + r] of the result, or stays in its place.
+template <class T, class View>
+[[gnu::noinline]] void scatterMatrices(const View& view, int first, int objects, int n, const T* from)
+{
+    for (int l = 0; l < objects; ++l)
+        for (int r = 0; r < n; ++r)
+            for (int c = 0; c < n; ++c) view(first + l, r, c) = from[(r * n + c) * objects + l];
+}
+// Some rows, the first ones: row r of object l is row rows[l * n + r] of the result.
 template <class T, class View>
 [[gnu::noinline]] void scatterRows(const View& view, int first, int objects, int n, int some, const int* rows,
                                    const T* from)
 {
     for (int l = 0; l < objects; ++l)
         for (int r = 0; r < some; ++r)
-            for (int c = 0; c < n; ++c)
-                view(first + l, rows ? int{entry(rows, l * n + r)} : r, c) = from[(r * n + c) * objects + l];
+            for (int c = 0; c < n; ++c) view(first + l, entry(rows, l * n + r), c) = from[(r * n + c) * objects + l];
 }
 
 // As many objects as a number holds, from the first on. ---------------------------------------------------------
 
-// Row r of each lane's object, or of lane l that with the number row(l).
+// Row row(l) of the object of lane l.
 template <class View, class Row, class T, int W>
 VORM_INLINE void rowsAt(const View& view, int first, const Row& row, T* (&to)[W])
 {
-    if constexpr (std::is_convertible_v<Row, int>)
-        for (int l = 0; l < W; ++l) to[l] = rowAt(view, first + l, row);
-    else
-        for (int l = 0; l < W; ++l) to[l] = rowAt(view, first + l, row(l));
+    for (int l = 0; l < W; ++l) to[l] = rowAt(view, first + l, row(l));
 }
 
 // Element i of each vector is at x[i].
@@ -134,7 +136,7 @@ template <class Number, class View, class N>
 VORM_INLINE void loadVectors(const View& view, int first, Number* x, N n)
 {
     using T = Element<Number>;
-    if constexpr (objectsIn < Number >> 1 && (isAdjacent<View> || isInPlanes<View>))
+    if constexpr (inLanes<Number> && (isAdjacent<View> || isInPlanes<View>))
         unrolled<registersIn<Number>>([&](auto k) VORM_INLINE_LAMBDA {
             constexpr int width = objectsIn<Number> / registersIn<Number>;
             const int object = first + k * width;
@@ -147,7 +149,7 @@ VORM_INLINE void loadVectors(const View& view, int first, Number* x, N n)
                 for (int i = 0; i < n; ++i) registerOf<k>(x[i]) = Lanes<T, width>::load(view.element(i) + object);
             }
         });
-    else if constexpr (objectsIn<Number> == 1)
+    else if constexpr (!inLanes<Number>)
         for (int i = 0; i < n; ++i) x[i] = view(first, i);
     else
         gatherVectors(view, first, objectsIn<Number>, n, reinterpret_cast<T*>(x));
@@ -156,7 +158,7 @@ template <class Number, class View, class N>
 VORM_INLINE void storeVectors(const View& view, int first, const Number* x, N n)
 {
     using T = Element<Number>;
-    if constexpr (objectsIn < Number >> 1 && (isAdjacent<View> || isInPlanes<View>))
+    if constexpr (inLanes<Number> && (isAdjacent<View> || isInPlanes<View>))
         unrolled<registersIn<Number>>([&](auto k) VORM_INLINE_LAMBDA {
             constexpr int width = objectsIn<Number> / registersIn<Number>;
             const int object = first + k * width;
@@ -169,7 +171,7 @@ VORM_INLINE void storeVectors(const View& view, int first, const Number* x, N n)
                 for (int i = 0; i < n; ++i) registerOf<k>(x[i]).store(view.element(i) + object);
             }
         });
-    else if constexpr (objectsIn<Number> == 1)
+    else if constexpr (!inLanes<Number>)
         for (int i = 0; i < n; ++i) view(first, i) = x[i];
     else
         scatterVectors(view, first, objectsIn<Number>, n, reinterpret_cast<const T*>(x));
@@ -180,14 +182,14 @@ template <class Number, class View, int n>
 VORM_INLINE void loadMatrices(const View& view, int first, Number (&a)[n][n])
 {
     using T = Element<Number>;
-    if constexpr (objectsIn < Number >> 1 && isAdjacent<View>)
+    if constexpr (inLanes<Number> && isAdjacent<View>)
         unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
             const T* from[Number::width];
-            rowsAt(view, first, int{r}, from);
+            rowsAt(view, first, [r](int) VORM_INLINE_LAMBDA { return int{r}; }, from);
             loadRows(
                 from, [&](int c) VORM_INLINE_LAMBDA -> auto& { return a[r][c]; }, constant<n>);
         });
-    else if constexpr (objectsIn<Number> > 1 && isInPlanes<View>)
+    else if constexpr (inLanes<Number> && isInPlanes<View>)
         unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
             for (int c = 0; c < n; ++c) a[r][c] = Number::load(view.element(r, c) + first);
         });
@@ -195,33 +197,39 @@ VORM_INLINE void loadMatrices(const View& view, int first, Number (&a)[n][n])
         gatherMatrices(view, first, objectsIn<Number>, n, reinterpret_cast<T*>(a));
 }
 
-// Row r of each matrix is a[r]. It goes to row rows[l * n + r] of object l, or where rows is null stays in its place.
-template <class Number, class View, int n, class Rows = std::nullptr_t>
-VORM_INLINE void storeMatrices(const View& view, int first, const Number (&a)[n][n], Rows rows = nullptr)
+template <class Number, class View, int n>
+VORM_INLINE void storeMatrices(const View& view, int first, const Number (&a)[n][n])
 {
     using T = Element<Number>;
-    const auto rowOf = [&](int l, int r) VORM_INLINE_LAMBDA {
-        if constexpr (std::is_same_v<Rows, std::nullptr_t>)
-            return r;
-        else
-            return int{entry(rows, l * n + r)};
-    };
-    if constexpr (isAdjacent<View>)
+    if constexpr (inLanes<Number> && isAdjacent<View>)
         unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
             T* to[Number::width];
-            rowsAt(
-                view, first, [&](int l) VORM_INLINE_LAMBDA { return rowOf(l, r); }, to);
-            storeRows(
-                to, [&](int c) VORM_INLINE_LAMBDA { return a[r][c]; }, constant<n>);
+            rowsAt(view, first, [r](int) VORM_INLINE_LAMBDA { return int{r}; }, to);
+            storeRows(to, [&](int c) VORM_INLINE_LAMBDA { return a[r][c]; }, constant<n>);
         });
-    else if constexpr (isInPlanes<View> && std::is_same_v<Rows, std::nullptr_t>)
+    else if constexpr (inLanes<Number> && isInPlanes<View>)
         unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
             for (int c = 0; c < n; ++c) a[r][c].store(view.element(r, c) + first);
         });
-    else if constexpr (isInPlanes<View>)
+    else
+        scatterMatrices(view, first, objectsIn<Number>, n, reinterpret_cast<const T*>(a));
+}
+// The same, where a[r] is row rows[l * n + r] of object l.
+template <class Number, class View, int n>
+VORM_INLINE void storeMatrices(const View& view, int first, const Number (&a)[n][n], const int* rows)
+{
+    using T = Element<Number>;
+    const auto row = [&](int l, int r) VORM_INLINE_LAMBDA { return int{entry(rows, l * n + r)}; };
+    if constexpr (inLanes<Number> && isAdjacent<View>)
+        unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
+            T* to[Number::width];
+            rowsAt(view, first, [&](int l) VORM_INLINE_LAMBDA { return row(l, r); }, to);
+            storeRows(to, [&](int c) VORM_INLINE_LAMBDA { return a[r][c]; }, constant<n>);
+        });
+    else if constexpr (inLanes<Number> && isInPlanes<View>)
         unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
             unrolled<Number::width>([&](auto l) VORM_INLINE_LAMBDA {
-                T* const* const planes = view.pp + rowOf(l, r) * std::ptrdiff_t{n};
+                T* const* const planes = view.pp + row(l, r) * std::ptrdiff_t{n};
                 const std::ptrdiff_t offset = view.shift + first * std::ptrdiff_t{sizeof(T)};
                 for (int c = 0; c < n; ++c) elementAt(planes[c] + l, offset) = lane<l>(a[r][c]);
             });

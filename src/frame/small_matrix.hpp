@@ -29,7 +29,7 @@ struct SmallMatrix {
     template <int r, int p, class View>
     VORM_INLINE static Lanes<T> load(const View& view, int object)
     {
-        if constexpr (adjacentRows<View>) {
+        if constexpr (View::isAdjacent) {
             const T* const from = advance(view.object(object), std::ptrdiff_t{r} * view.stride1) + p * width;
             if constexpr (p == full && rest == 1)
                 return elementAt(from, 0);
@@ -87,7 +87,7 @@ struct SmallMatrix {
     template <int r, int p, class View>
     VORM_INLINE static void store(const View& view, int object, Lanes<T> part)
     {
-        if constexpr (adjacentRows<View>) {
+        if constexpr (View::isAdjacent) {
             T* const to = advance(view.object(object), std::ptrdiff_t{r} * view.stride1) + p * width;
             if constexpr (p == full) {
                 storeFirst<rest>(to, part);

@@ -6,18 +6,12 @@
 
 #include <algorithm>
 
-#include "frame/layers.hpp"
+#include "frame/arguments.hpp"
 #include "frame/scratch.hpp"
 #include "vorcore/vorcore.h"
 
 namespace vorm {
 
-// What one thread of the team is to do.
-struct Chunk {
-    int first, objects;  // its objects
-    int thread;          // its number, 0 when there is no team
-    char* scratch;       // its own stretch of work space, null when there is no team
-};
 
 enum class Kernels { cannotFail, canFail };
 
@@ -25,7 +19,7 @@ enum class Kernels { cannotFail, canFail };
 // failing chunk stops no other one; the first failure to be reported is the status of the call.
 // With scratchPerThread, each thread of a team gets that many bytes for the time of the call.
 template <Kernels kernels, class Work>
-VORM_INLINE VormStatus inTeam(int count, const Work& work, std::size_t scratchPerThread = 0)
+VORM_INLINE VormStatus inTeam(int count, std::int64_t, const Work& work, std::size_t scratchPerThread)
 {
     const int threads = ownGetNumThreads();
     if (threads <= 1 || count < threads) return work(Chunk{0, count, 0, nullptr});
@@ -60,6 +54,12 @@ VORM_INLINE VormStatus inTeam(int count, const Work& work, std::size_t scratchPe
         }
     }
     return sharedStatus;
+}
+
+template <Kernels kernels, class Work>
+VORM_INLINE VormStatus inTeam(int count, const Work& work, std::size_t scratchPerThread = 0)
+{
+    return inTeam<kernels>(count, 0, work, scratchPerThread);
 }
 
 }  // namespace vorm

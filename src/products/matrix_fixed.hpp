@@ -10,8 +10,8 @@
 // store by itself, and there are not registers enough to hold everything.
 #pragma once
 
-#include <algorithm>
-
+#include "frame/minmax.hpp"
+#include "frame/pin.hpp"
 #include "frame/small_matrix.hpp"
 
 namespace vorm {
@@ -21,7 +21,7 @@ namespace vorm {
 enum class Order { leftToRight, asInTiles };
 
 template <class T, int n>
-constexpr int groupRows = Lanes<T>::width / std::max(SmallMatrix<T, n>::rest, 1);
+constexpr int groupRows = Lanes<T>::width / max(SmallMatrix<T, n>::rest, 1);
 template <class T, int n>
 constexpr int groups = n / groupRows<T, n>;
 
@@ -109,7 +109,7 @@ struct FactorsInColumns {
 // Prepared once for all objects.
 template <class T, int n>
 struct FactorsPrepared {
-    Lanes<T> all[n][n], inGroups[std::max(groups<T, n>, 1)][n];
+    Lanes<T> all[n][n], inGroups[max(groups<T, n>, 1)][n];
     template <class View>
     VORM_INLINE explicit FactorsPrepared(const View& view)
     {
@@ -141,15 +141,14 @@ struct Factors {
     View view;
     VORM_INLINE auto operator()(int object) const
     {
-        if constexpr (sizeof(T) == sizeof(float) && adjacentRows<View>)
+        if constexpr (sizeof(T) == sizeof(float) && View::isAdjacent)
             return FactorsInRows<n, View>(view, object);
         else
             return FactorsInMemory<T, n, View>{view, object};
     }
 };
 template <int n, class Stored>
-requires adjacentRows<Stored>
-struct Factors<float, n, Transposed<Stored>> {
+requires Stored::isAdjacent struct Factors<float, n, Transposed<Stored>> {
     static constexpr bool isCommon = false, inRows = false;
     Transposed<Stored> view;
     VORM_INLINE auto operator()(int object) const { return FactorsInColumns<n, Stored>{view.stored, object}; }
@@ -209,11 +208,6 @@ struct CommonRows {
 
 // ------------------------------------------------------------------------------------------------------
 
-VORM_INLINE void pin(Lanes<float>& a) { __asm__("" : "+x"(a.v)); }
-VORM_INLINE void pin(Lanes<double>& a) { __asm__("" : "+x"(a.v)); }
-VORM_INLINE void pin(float& a) { __asm__("" : "+x"(a)); }
-VORM_INLINE void pin(double& a) { __asm__("" : "+x"(a)); }
-
 // The sums of a tile grow side by side, so that no addition waits for the one before it. g++ would rather
 // add up one after the other and spill the rest, which does no harm where everything fits.
 template <class T, int n, bool commonA>
@@ -223,7 +217,7 @@ struct Sums {
     static constexpr bool fromZero = order == Order::asInTiles;
     static constexpr int each = fromZero && row >= (n & ~3) && n % 4 != 3 ? 2 : 1;
     static_assert(each == 1 || n % 2 == 0);
-    Number v[each][std::max(count, 1)];
+    Number v[each][max(count, 1)];
     template <int k>
     VORM_INLINE void add(int s, Number term)
     {
@@ -309,7 +303,7 @@ VORM_INLINE void product(const A& factors, const B& rows, const D& dst, int obje
         constexpr int p = across * breadth;
         unrolled<(n + height - 1) / height>([&](auto down) VORM_INLINE_LAMBDA {
             constexpr int i = down * height;
-            tile<T, n, order, i, std::min(height, n - i), p, std::min(breadth, parts - p)>(factors, rows, dst, object);
+            tile<T, n, order, i, min(height, n - i), p, min(breadth, parts - p)>(factors, rows, dst, object);
         });
     });
     if constexpr (Shape::grouping) {

@@ -27,9 +27,8 @@ VORM_INLINE VormStatus generalProduct(MM_PARAMS(T))
 {
     if constexpr (!Kind::transposed2) {
         const auto [m, n, k] = Kind::lengths(src1Width, src1Height, src2Width, src2Height);
-        int other = (k ^ 8) | (m & 3) | (n & (2 * Lanes<T>::width - 1));
-        __asm__("" : "+r"(other));  // opaque, as in Kind::fits
-        if (other == 0) return eightTerms<Kind>(MM_ARGS);
+        const int other = (k ^ 8) | (m & 3) | (n & (2 * Lanes<T>::width - 1));
+        if (opaque(other) == 0) return eightTerms<Kind>(MM_ARGS);
     }
     return anyLengths<Kind>(MM_ARGS);
 }

@@ -16,6 +16,7 @@
 //                         ((s0 + s1) + (s2 + s3)) + ((s4 + s5) + (s6 + s7)), then the rest one by one
 #pragma once
 
+#include "frame/pin.hpp"
 #include "frame/small_matrix.hpp"
 
 namespace vorm {
@@ -40,7 +41,7 @@ VORM_INLINE Transposed<Stored> from(const Transposed<Stored>& view, int r, int c
 template <class T, int some, class View>
 VORM_INLINE Lanes<T> loadAcross(const View& view, int r, int c)
 {
-    if constexpr (adjacentRows<View> && some == Lanes<T>::width)
+    if constexpr (View::isAdjacent && some == Lanes<T>::width)
         return Lanes<T>::load(advance(view.p, std::ptrdiff_t{r} * view.stride1) + c);
     else
         return lanes<T>([&](int l) VORM_INLINE_LAMBDA { return l < some ? T(view(0, r, c + l)) : T(0); });
@@ -49,7 +50,7 @@ VORM_INLINE Lanes<T> loadAcross(const View& view, int r, int c)
 template <class T, int some, class View>
 VORM_INLINE void storeAcross(const View& view, int r, int c, Lanes<T> v)
 {
-    if constexpr (adjacentRows<View> && some == Lanes<T>::width)
+    if constexpr (View::isAdjacent && some == Lanes<T>::width)
         v.store(advance(view.p, std::ptrdiff_t{r} * view.stride1) + c);
     else
         unrolled<some>([&](auto k) VORM_INLINE_LAMBDA { view(0, r, c + k) = firstLane(splat<k>(v)); });
@@ -61,7 +62,7 @@ VORM_INLINE void storeAcross(const View& view, int r, int c, Lanes<T> v)
 template <class T, int height, class A>
 struct TermsOf {
     static constexpr int width = Lanes<T>::width;
-    static constexpr bool inRows = sizeof(T) == sizeof(float) && adjacentRows<A>;
+    static constexpr bool inRows = sizeof(T) == sizeof(float) && A::isAdjacent;
     static constexpr bool inColumns = sizeof(T) == sizeof(float) && isTransposed<A> && height == width;
     const A& a;
     int k;
@@ -104,7 +105,7 @@ VORM_INLINE void addTerm(Lanes<T> (&sum)[all], const Terms& terms, const B& b, i
     unrolled<registers>([&](auto p) VORM_INLINE_LAMBDA { rowOfB[p] = loadAcross<T, some>(b, k, p * Lanes<T>::width); });
     unrolled<all>([&](auto s) VORM_INLINE_LAMBDA {
         sum[s] = sum[s] + terms.template get<s / registers, ahead>() * rowOfB[s % registers];
-        __asm__("" : "+x"(sum[s].v));  // or g++ adds up one sum after the other and spills the rest
+        pin(sum[s]);
     });
 }
 

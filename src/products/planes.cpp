@@ -114,7 +114,7 @@ void products(const PlaneTable<const T>& a, const PlaneTable<const T>& b, const 
     const bool cached = atOnce == count;
     const auto eachRound = [&](const auto& round) {
         for (std::ptrdiff_t first = 0; first < count; first += atOnce)
-            round(first * int{sizeof(T)}, static_cast<int>(std::min<std::ptrdiff_t>(atOnce, count - first)) / width);
+            round(first * int{sizeof(T)}, static_cast<int>(min<std::ptrdiff_t>(atOnce, count - first)) / width);
     };
     if (a.isCommon || b.isCommon) {
         const HeldProduct<T, n> product(a, b, d, columns);

@@ -1,10 +1,10 @@
 // Products over structures of arrays.
 #pragma once
 
-#include <algorithm>
 #include <utility>
 
 #include "frame/lanes.hpp"
+#include "frame/minmax.hpp"
 #include "frame/overlap.hpp"
 #include "frame/planes.hpp"
 
@@ -18,7 +18,7 @@ template <class T>
 VORM_INLINE int objectsAtOnce(Run run, int count)
 {
     constexpr int e = sizeof(T);
-    return run == Run::whole ? count : std::min(count, (run == Run::vectors ? 32768 : 2048) / e);
+    return run == Run::whole ? count : min(count, (run == Run::vectors ? 32768 : 2048) / e);
 }
 
 // Whether the planes of D that are written at once lie apart.

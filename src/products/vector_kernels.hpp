@@ -32,7 +32,7 @@ VORM_INLINE VormStatus contiguousProduct(const A& src1, const X& x, const D& y, 
         productsByObject<T, n, Start::firstProduct>(Form::used(src1), x, y, 0, 1);
     });
     if (done) return StatusOk;
-    if constexpr (Form::isTurned)
+    if constexpr (Form::isTransposed)
         generalProductTurned(src1.p, src1.stride1, x.p, y.p, width, height);
     else
         generalProduct(src1.p, src1.stride1, x.p, y.p, height, width);
@@ -50,14 +50,14 @@ VORM_INLINE VormStatus contiguousProducts(const A& src1, const X& x, const D& y,
     if (done) return StatusOk;
 
     const int rows = Form::rows(width, height), terms = width + height - rows;
-    if constexpr (bodies == Bodies::none && !Form::isTurned) {
+    if constexpr (bodies == Bodies::none && !Form::isTransposed) {
         runningProducts<T>(a, x, y, rows, terms, count);
     } else {
         for (int n = 0; n < count; ++n) {
             const T* const matrix = src1.object(n);
             if constexpr (bodies == Bodies::none)
                 columnStrip<RunningSums>(matrix, src1.stride1, x.object(n), y.object(n), 0, rows, terms);
-            else if constexpr (Form::isTurned)
+            else if constexpr (Form::isTransposed)
                 generalProductOfArrayTurned(matrix, src1.stride1, x.object(n), y.object(n), rows, terms);
             else
                 generalProductOfArray(matrix, src1.stride1, x.object(n), y.object(n), rows, terms);

@@ -2,8 +2,7 @@
 // several vectors need it.
 #pragma once
 
-#include <algorithm>
-
+#include "frame/minmax.hpp"
 #include "frame/object_lanes.hpp"
 #include "products/vector_sums.hpp"
 
@@ -12,7 +11,7 @@ namespace vorm {
 // Its columns, as whole registers of rows, and the elements of the last row, each in all lanes.
 template <class T, int n>
 struct Columns {
-    static constexpr int width = Lanes<T>::width, full = std::max(n / width, 1);
+    static constexpr int width = Lanes<T>::width, full = max(n / width, 1);
     Lanes<T> whole[full][n], last[n];
     template <class A>
     VORM_INLINE explicit Columns(const A& a)

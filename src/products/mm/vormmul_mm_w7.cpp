@@ -7,5 +7,4 @@ using namespace vorm;
 extern "C" {
 
 VormStatus n8_ownvormMul_mm_64f(MM_PARAMS(double)) { return mmContiguous<Mm>(MM_ARGS); }
-
 }

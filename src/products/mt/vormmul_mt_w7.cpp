@@ -7,5 +7,4 @@ using namespace vorm;
 extern "C" {
 
 VormStatus n8_ownvormMul_mt_64f(MM_PARAMS(double)) { return mmContiguous<Mt>(MM_ARGS); }
-
 }

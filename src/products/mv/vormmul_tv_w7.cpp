@@ -1,10 +1,11 @@
 // vormMul_tv: the kernel for contiguous elements, double precision.
 
 #include "products/mv.hpp"
+#include "products/vector_calls.hpp"
 
 using namespace vorm;
 
 extern "C" {
 
-VormStatus n8_ownvormMul_tv_64f(MV_PARAMS(double)) { return mvContiguous<Turned>(MV_ARGS); }
+VormStatus n8_ownvormMul_tv_64f(MV_PARAMS(double)) { return contiguousKernel<AsTransposed>(mv<AsTransposed>(MV_ARGS)); }
 }

@@ -7,5 +7,4 @@ using namespace vorm;
 extern "C" {
 
 VormStatus n8_ownvormMul_tm_32f(MM_PARAMS(float)) { return mmContiguous<Tm, Bodies::upTo5>(MM_ARGS); }
-
 }

@@ -7,5 +7,4 @@ using namespace vorm;
 extern "C" {
 
 VormStatus n8_ownvormMul_tm_64f(MM_PARAMS(double)) { return mmContiguous<Tm>(MM_ARGS); }
-
 }

@@ -7,5 +7,4 @@ using namespace vorm;
 extern "C" {
 
 VormStatus n8_ownvormMul_tt_32f(MM_PARAMS(float)) { return mmContiguous<Tt>(MM_ARGS); }
-
 }

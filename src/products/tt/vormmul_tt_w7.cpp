@@ -7,5 +7,4 @@ using namespace vorm;
 extern "C" {
 
 VormStatus n8_ownvormMul_tt_64f(MM_PARAMS(double)) { return mmContiguous<Tt>(MM_ARGS); }
-
 }
