@@ -52,6 +52,7 @@ Parameter parameterFrom(const std::string& declaration)
         if (operand.size() > 1 && operand[0] == 'p' && (std::isupper(operand[1]) || operand[1] == 'p'))
             operand.erase(0, static_cast<std::size_t>(stars));
         if (stars > 1 && !endsIn("Pointers")) endsIn("List");
+        if (!endsIn("Vectors")) endsIn("Vector");  // dstVectors, dstVectorList: their strides are dst's
         operand[0] = static_cast<char>(std::tolower(operand[0]));
     } else if (declaration.starts_with("float") || declaration.starts_with("double")) {
         p.role = Role::value;
@@ -61,7 +62,8 @@ Parameter parameterFrom(const std::string& declaration)
         p.role = Role::stride, p.stride = p.name.back() - '0';
     } else {
         p.role = p.name == "count" ? Role::count : Role::size;
-        if (!endsIn("Width") && !endsIn("Height") && !endsIn("Len")) operand.clear();
+        if (!endsIn("Width") && !endsIn("Height")) endsIn("Len");
+        if (!operand.starts_with("src")) operand.clear();
     }
     return p;
 }
@@ -94,7 +96,7 @@ void findOperands(Function& f)
         if (p.role == Role::stride) f.operands[f.operandNamed(p.operand)].hasStride[p.stride] = true;
         if (p.role != Role::pointer && p.role != Role::table && p.role != Role::value) continue;
         Operand o;
-        if (p.operand == "val") {
+        if (p.operand == "val" || p.role == Role::value) {
             for (const Operand& letter : letters)
                 if (letter.kind == 'c') o = letter;
             o.kind = 'c';
@@ -107,7 +109,8 @@ void findOperands(Function& f)
             if (o.kind == 't') o.kind = 'm';
             o.isArray = f.isArray();
         } else {
-            o.isArray = letters[0].isArray;
+            o.isScratch = p.operand == "buffer";
+            o.isArray = letters[0].isArray && !o.isScratch;
         }
         o.name = p.operand, o.isInteger = p.isInteger, o.isWritten = p.role != Role::value && !p.isConst;
         if (p.role == Role::table) o.layout = f.layout;

@@ -32,6 +32,7 @@ struct Operand {
     int fixed = 0;          // elements of a v3, rows of an m4
     bool isArray = false;   // of count objects
     bool isWritten = false, isInteger = false;
+    bool isScratch = false;   // a buffer, whose contents nobody looks at
     std::string layout = {};  // "", "L" or "P": that of the function where the operand takes part in it
     bool hasStride[3] = {};   // those left out are packed
 };

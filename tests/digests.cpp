@@ -45,7 +45,7 @@ void addCall(Hash& hash, const Function& f, const Problem& problem, Random& rand
     hash.add(std::uint64_t(call.make()));
     for (std::size_t k = 0; k < f.operands.size(); ++k) {
         const Operand& o = f.operands[k];
-        if (!o.isWritten) continue;
+        if (!o.isWritten || o.isScratch) continue;
         const Placed& p = call.operands[k];
         if (!o.isInteger) f.type == "32f" ? withoutNans<float>(p) : withoutNans<double>(p);
         hash.add(p.room->data(), p.room->size());

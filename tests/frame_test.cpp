@@ -1,101 +1,21 @@
-// The frame's own pieces: chunks of a team, scratch, wrapping arithmetic, views, lanes.
+// The frame's own pieces: wrapping arithmetic, views, lanes.
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <atomic>
 #include <bit>
 #include <climits>
 #include <cmath>
 #include <cstring>
 #include <limits>
-#include <set>
-#include <vector>
 
 #include "frame/checks.hpp"
 #include "frame/lanes.hpp"
 #include "frame/operands.hpp"
 #include "frame/small_vector.hpp"
-#include "frame/team.hpp"
-#include "standin_core.hpp"
 
 using namespace vorm;
 
 namespace {
-
-class Team : public testing::Test {
-protected:
-    ~Team() override { standinThreads = 1; }
-    static std::vector<Chunk> chunksOf(int threads, int count, std::size_t scratch = 0)
-    {
-        standinThreads = threads;
-        std::vector<Chunk> chunks(std::size_t(std::max(threads, 1)), Chunk{-1, 0, -1, nullptr});
-        const auto work = [&](const Chunk& chunk) {
-            chunks[std::size_t(chunk.thread)] = chunk;
-            if (chunk.scratch) std::memset(chunk.scratch, chunk.thread + 1, scratch);
-            return VormStatus{StatusOk};
-        };
-        EXPECT_EQ(inTeam<Kernels::cannotFail>(count, work, scratch), StatusOk);
-        return chunks;
-    }
-};
-
-TEST_F(Team, ContiguousChunksTheFirstOnesLarger)
-{
-    const int firsts[] = {0, 3, 6, 8}, objects[] = {3, 3, 2, 2};
-    const auto chunks = chunksOf(4, 10);
-    for (std::size_t t = 0; t < 4; ++t) {
-        EXPECT_EQ(chunks[t].first, firsts[t]);
-        EXPECT_EQ(chunks[t].objects, objects[t]);
-    }
-    for (int threads : {1, 2, 3, 5, 8})
-        for (int count = threads; count < 3 * threads + 2; ++count) {
-            int next = 0;
-            for (const Chunk& chunk : chunksOf(threads, count)) {
-                EXPECT_EQ(chunk.first, next);
-                next += chunk.objects;
-            }
-            EXPECT_EQ(next, count);
-        }
-}
-
-TEST_F(Team, OneCallWithoutAFork)
-{
-    for (int threads : {-1, 0, 1, 8}) {
-        const auto chunk = chunksOf(threads, 7, 16)[0];
-        EXPECT_EQ(chunk.first, 0);
-        EXPECT_EQ(chunk.objects, 7);
-        EXPECT_EQ(chunk.scratch, nullptr);
-    }
-}
-
-TEST_F(Team, ScratchForEachThread)
-{
-    const auto chunks = chunksOf(5, 50, 4096);
-    std::set<char*> stretches;
-    for (const Chunk& chunk : chunks) stretches.insert(chunk.scratch);
-    EXPECT_EQ(stretches.size(), 5u);
-    EXPECT_FALSE(stretches.contains(nullptr));
-    for (const Chunk& chunk : chunks) EXPECT_EQ(chunk.scratch - chunks[0].scratch, 4096 * chunk.thread);
-}
-
-TEST_F(Team, FailuresStopNoOtherChunk)
-{
-    standinThreads = 6;
-    std::atomic<int> done{0};
-    const auto failing = [&](std::set<int> threads) {
-        return inTeam<Kernels::canFail>(60, [&](const Chunk& chunk) {
-            ++done;
-            return VormStatus{threads.contains(chunk.thread) ? StatusSingular : StatusOk};
-        });
-    };
-    EXPECT_EQ(failing({}), StatusOk);
-    EXPECT_EQ(failing({3}), StatusSingular);
-    EXPECT_EQ(failing({0, 1, 2, 3, 4, 5}), StatusSingular);
-    EXPECT_EQ(done, 18);
-    standinThreads = 1;
-    EXPECT_EQ(failing({0}), StatusSingular);
-}
 
 TEST(Wrapping, As32Bits)
 {

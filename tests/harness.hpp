@@ -35,9 +35,14 @@ struct Family {
     const char* name;
     bool (*has)(const Function&);
     std::vector<Sizes> (*sizes)(const Function&);  // worth trying
-    // Does object n of a call in the shadows of its operands.
+    // Does object n of a call in the shadows of its operands, or only tells its status where there is a judge.
     VormStatus (*model32f)(const Call&, int n) = nullptr;
     VormStatus (*model64f)(const Call&, int n) = nullptr;
+    bool isExact = true;  // the model makes the bits; otherwise those of the objects that it passes are free
+    // Says what is wrong with object n in the memory after a call, by residuals or otherwise. Not asked where
+    // results share memory or the source is gone.
+    std::string (*judge32f)(const Call&, int n) = nullptr;
+    std::string (*judge64f)(const Call&, int n) = nullptr;
     // The source that may be the destination; null where there is none.
     const char* (*inPlace)(const Function&, const Sizes&) = nullptr;
     // Puts the values that the general ones would not do for.
@@ -45,7 +50,7 @@ struct Family {
     // Makes object n of a call fail.
     void (*spoil)(const Call&, int n, Random&) = nullptr;
     // How operands are stored that the general rule does not tell.
-    Stored (*stored)(const Operand&, const Function&, const Sizes&) = nullptr;
+    Stored (*stored)(const Operand&, const Function&, const Problem&) = nullptr;
 };
 
 const std::vector<const Family*>& families();

@@ -109,7 +109,8 @@ struct Lie {
     bool planes = false;                      // pointer layout: a plane for each element, objects side by side
     bool shuffled = false;                    // the order of a list's objects or of a table's planes or elements
     int overlapping = 0;                      // objects so few elements apart, 0 for a place of their own
-    bool isInterleaved = false;               // rows of the other objects between two rows of one
+    int interleaved = 0;                      // objects so many rows apart, all of them between two rows of one,
+    int among = 0;                            // or only so many, which then overlap
     bool isRepeated = false;                  // list: some objects are the same one
     bool atFront = false;                     // against the page before
     int misaligned = 0;                       // bytes between the operand and its page
@@ -140,7 +141,8 @@ struct Placed {
     std::vector<std::ptrdiff_t> objects, elements;
     int stride[3] = {}, shift = 0;
     int columns = 1;
-    std::vector<char*> table;  // of the list or pointer layout
+    std::shared_ptr<Room> table;  // of the list or pointer layout, at the end of its page
+    std::intptr_t tableAddress = 0;
 
     std::ptrdiff_t offset(int n, int e) const
     {
@@ -197,6 +199,15 @@ struct Placed {
             for (int e = 0; e < size(); ++e) all = work(offset(n, e), elementSize) && all;
         return all;
     }
+    // Whether elements share memory.
+    bool overlapsItself(int e) const
+    {
+        std::vector<std::ptrdiff_t> all;
+        for (int n = 0; n < count(); ++n)
+            for (int i = 0; i < size(); ++i) all.push_back(offset(n, i));
+        std::sort(all.begin(), all.end());
+        return std::adjacent_find(all.begin(), all.end(), [&](auto a, auto b) { return b - a < e; }) != all.end();
+    }
     std::intptr_t address() const { return reinterpret_cast<std::intptr_t>(room->data() + base); }
 };
 
@@ -206,7 +217,7 @@ inline Placed place(Random& random, const Operand& o, Stored stored, int count, 
     const bool inTable = o.layout == "P", isList = o.layout == "L" && o.isArray;
     if (!inTable && !o.hasStride[2]) lie.gap2 = 1;
     if (!inTable && !o.hasStride[1]) lie.padRow = 0;
-    if (!isList && !o.hasStride[0]) lie.padObject = lie.slot = lie.overlapping = 0, lie.isInterleaved = false;
+    if (!isList && !o.hasStride[0]) lie.padObject = lie.slot = lie.overlapping = lie.interleaved = 0;
     const int number = o.isArray ? count : 1, size = stored.rows * stored.columns;
     const bool planes = inTable && lie.planes && o.isArray;
     constexpr int gigabyte = 1 << 30;
@@ -219,7 +230,9 @@ inline Placed place(Random& random, const Operand& o, Stored stored, int count, 
     step += e * lie.padObject;
     if (lie.slot) step = (step + lie.slot - 1) / lie.slot * lie.slot;
     if (planes) step = e;
-    if (lie.isInterleaved && !planes) step = p.stride[1], p.stride[1] *= number;
+    if (lie.interleaved && !planes)
+        step = lie.interleaved * std::ptrdiff_t{p.stride[1]},
+        p.stride[1] = int(step) * (lie.among ? lie.among : number);
     if (lie.overlapping) step = e * lie.overlapping;
     if (lie.far == Far::objects) step = gigabyte + 7 * e;
     if (lie.far == Far::rows) step = p.stride[1], p.stride[1] = gigabyte + 5 * e;
@@ -245,9 +258,15 @@ inline Placed place(Random& random, const Operand& o, Stored stored, int count, 
     p.room = std::make_shared<Room>(std::size_t(span + lie.misaligned));
     p.room->fill(random);
     p.base = lie.atFront ? lie.misaligned : std::ptrdiff_t(p.room->size()) - span - lie.misaligned;
-    if (isList)
-        for (auto offset : p.objects) p.table.push_back(p.room->data() + p.base + offset - p.shift);
-    if (inTable)
-        for (auto offset : p.elements) p.table.push_back(p.room->data() + p.base + offset - p.shift);
+    if (isList || inTable) {
+        const auto& entries = isList ? p.objects : p.elements;
+        const std::size_t bytes = entries.size() * sizeof(char*);
+        p.table = std::make_shared<Room>(bytes);
+        p.tableAddress = reinterpret_cast<std::intptr_t>(p.table->data() + p.table->size() - bytes);
+        for (std::size_t i = 0; i < entries.size(); ++i) {
+            char* const entry = p.room->data() + p.base + entries[i] - p.shift;
+            std::memcpy(p.table->data() + p.table->size() - bytes + i * sizeof entry, &entry, sizeof entry);
+        }
+    }
     return p;
 }

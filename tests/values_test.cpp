@@ -49,7 +49,7 @@ TEST_P(AllFamilies, EveryPlacement)
     constexpr int counts[] = {1, 2, 3, 4, 5, 7, 8, 9, 11, 13, 33, 40};
     for (const Function* f : members(false))
         for (const Sizes& s : GetParam()->sizes(*f))
-            for (int repeat = 0; repeat < 3; ++repeat) {
+            for (int repeat = 0; repeat < 5; ++repeat) {
                 Problem p = someProblem(*f, s, random);
                 if (f->isArray()) p.count = counts[pick(random, 0, s.rows * s.columns * s.terms < 250 ? 11 : 8)];
                 expectModel(*f, p);
@@ -78,21 +78,21 @@ TEST_P(AllFamilies, Teams)
 TEST_P(AllFamilies, OverlappingResults)
 {
     for (const Function* f : members(true))
-        for (const Sizes& s : sizesOf(*f, 13)) {
-            Problem p = someProblem(*f, s, random);
-            p.inPlace = false;
-            p.count = pick(random, 5, 19);
-            Lie& lie = p.lies[f->operandNamed("dst")];
-            const int way = pick(random, f->layout == "P" ? 0 : 1, 4);
-            lie.planes = way == 0;
-            if (way == 0) lie.padObject = -pick(random, 1, p.count - 1);  // planes share memory
-            if (way == 1) lie.overlapping = pick(random, 1, 3);
-            if (way == 2) lie.overlapping = s.columns * lie.gap2 + lie.padRow;  // by whole rows
-            if (way == 3) lie.isInterleaved = true;
-            if (way == 4) lie.isRepeated = true;  // objects that are no neighbours
-            expectModel(*f, p);
-            if (HasFatalFailure()) return;
-        }
+        for (const Sizes& s : sizesOf(*f, 13))
+            for (int way = f->layout == "P" ? 0 : 1; way <= 4; ++way) {
+                Problem p = someProblem(*f, s, random);
+                p.inPlace = false;
+                p.count = pick(random, 5, 19);
+                Lie& lie = p.lies[f->operandNamed("dst")];
+                lie.planes = way == 0;
+                if (way == 0) lie.padObject = -pick(random, 1, p.count - 1);  // planes share memory
+                if (way == 1) lie.overlapping = pick(random, 1, 3);
+                if (way == 2) lie.overlapping = s.columns * lie.gap2 + lie.padRow;  // by whole rows
+                if (way == 3) lie.interleaved = 1, lie.among = pick(random, 2, 4);
+                if (way == 4) lie.isRepeated = true;  // objects that are no neighbours
+                expectModel(*f, p);
+                if (HasFatalFailure()) return;
+            }
 }
 
 // More objects than are done at once, and none of them fills the last register.

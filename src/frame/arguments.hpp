@@ -17,15 +17,14 @@ struct Chunk {
     char* scratch;       // the work space of its thread, null where the call asks for none
 };
 
-// What the public layers test of an argument, and what every argument passes that does not say otherwise. Strides and
-// shifts of a call are tested together, by the bits that are set in any of them.
+// What the public layers see of an argument that is none of a kind: the number that passes, given by the test.
 struct Untested {
     static constexpr bool isNull() { return false; }
-    static constexpr bool isBelowOne() { return false; }        // a size
-    static constexpr bool isCountBelowOne() { return false; }   // the count
-    static constexpr int strideBits() { return 0; }
-    static constexpr int strideLess() { return 0; }  // one less
-    static constexpr int shiftBits() { return 0; }
+    static constexpr int countOr(int passing) { return passing; }
+    static constexpr int sizeOr(int passing) { return passing; }
+    static constexpr int strideOr(int passing) { return passing; }
+    static constexpr int shiftOr(int passing) { return passing; }
+    static constexpr int misfit() { return 0; }  // between sizes
     static constexpr int gap(int) { return 0; }  // what keeps elements of a size from being adjacent
 };
 
@@ -38,8 +37,7 @@ struct Pointer : Untested {  // to an operand, or to a table of pointers
 struct Stride : Untested {  // from object to object, from row to row
     int value;
     constexpr explicit Stride(int stride) : value(stride) {}
-    constexpr int strideBits() const { return value; }
-    constexpr int strideLess() const { return wrapAdd(value, -1); }
+    constexpr int strideOr(int) const { return value; }
 };
 struct ElementStride : Stride {
     using Stride::Stride;
@@ -48,7 +46,7 @@ struct ElementStride : Stride {
 struct Shift : Untested {
     int value;
     constexpr explicit Shift(int shift) : value(shift) {}
-    constexpr int shiftBits() const { return value; }
+    constexpr int shiftOr(int) const { return value; }
 };
 template <class T>
 struct Value : Untested {
@@ -59,7 +57,7 @@ struct Value : Untested {
 struct Size : Untested {
     int value;
     constexpr explicit Size(int size) : value(size) {}
-    constexpr bool isBelowOne() const { return value < 1; }
+    constexpr int sizeOr(int) const { return value; }
     template <class Body>
     VORM_INLINE constexpr auto arguments(const Body& body) const
     {
@@ -72,8 +70,9 @@ struct Size : Untested {
 
 // No argument, but the test whether two sizes of a call are the same. Opaque: a compiler that knows two sizes to be
 // equal passes one for the other, where the transfer to the kernel was a jump.
-struct Fit {
+struct Fit : Untested {
     int first, second;
+    constexpr Fit(int one, int other) : first(one), second(other) {}
     VORM_INLINE int misfit() const { return opaque(first ^ second); }
     template <class Body>
     VORM_INLINE constexpr auto arguments(const Body& body) const
@@ -88,7 +87,7 @@ struct Fit {
 struct Count : Untested {
     int value;
     constexpr explicit Count(int count) : value(count) {}
-    constexpr bool isCountBelowOne() const { return value < 1; }
+    constexpr int countOr(int) const { return value; }
     template <class Body>
     VORM_INLINE constexpr auto arguments(const Body& body) const
     {

@@ -76,61 +76,72 @@ VORM_INLINE constexpr ArrayCall<T, TheTests, PartsOf<Part..., Count>> arrayCallO
 
 // Public layers. -------------------------------------------------------------------------------------------------
 
-// The bits set in any stride or shift, which has to be a multiple of the element size.
-template <class T>
-constexpr bool isMisaligned(int bits)
+// Over plain numbers, so that compilers make comparisons and jumps of them.
+template <class... Int>
+VORM_INLINE bool anyBelowOne(Int... numbers)
 {
-    return (bits & int{sizeof(T) - 1}) != 0;
+    return (... || (numbers < 1));
+}
+template <class T, class... Int>
+VORM_INLINE bool anyBadStride(Int... strides)
+{
+    return ((... | strides) & int{sizeof(T) - 1}) != 0 || anyBelowOne(strides...);
+}
+template <class T, class... Int>
+VORM_INLINE bool anyBadShift(Int... shifts)
+{
+    return ((... | shifts) & int{sizeof(T) - 1}) != 0 || (... | shifts) < 0;
 }
 
-VORM_INLINE int misfit(const Fit& fit) { return fit.misfit(); }
-template <class Part>
-VORM_INLINE constexpr int misfit(const Part&)
-{
-    return 0;
-}
-
-// The status of one test over all parts.
-template <Test test, class T, class... Part>
-VORM_INLINE VormStatus outcome(const Part&... part)
+// The status of one test over all arguments.
+template <Test test, class T, class... Argument>
+VORM_INLINE VormStatus outcome(Argument... argument)
 {
     if constexpr (test == Test::null)
-        return (... ||
-                part.arguments([](auto... argument) VORM_INLINE_LAMBDA { return (false || ... || argument.isNull()); }))
-                   ? StatusNullPointer
-                   : StatusOk;
-    else if constexpr (test == Test::count)
-        return (... || part.arguments([](auto... argument)
-                                          VORM_INLINE_LAMBDA { return (false || ... || argument.isCountBelowOne()); }))
-                   ? StatusBadCount
-                   : StatusOk;
-    else if constexpr (test == Test::size)
-        return (... || part.arguments([](auto... argument)
-                                          VORM_INLINE_LAMBDA { return (false || ... || argument.isBelowOne()); }))
-                   ? StatusBadSize
-                   : StatusOk;
-    else if constexpr (test == Test::fit)
-        return (... | misfit(part)) != 0 ? StatusSizeMismatch : StatusOk;
-    else if constexpr (test == Test::stride) {
-        const int bits = (... | part.arguments([](auto... argument)
-                                                   VORM_INLINE_LAMBDA { return (0 | ... | argument.strideBits()); }));
-        const int less = (... | part.arguments([](auto... argument)
-                                                   VORM_INLINE_LAMBDA { return (0 | ... | argument.strideLess()); }));
-        return isMisaligned<T>(bits) || (bits | less) < 0 ? StatusBadStride : StatusOk;
-    } else {
-        const int bits = (... | part.arguments([](auto... argument)
-                                                   VORM_INLINE_LAMBDA { return (0 | ... | argument.shiftBits()); }));
-        return isMisaligned<T>(bits) || bits < 0 ? StatusBadShift : StatusOk;
-    }
+        if ((... || argument.isNull())) return StatusNullPointer;
+    if constexpr (test == Test::count)
+        if ((... || (argument.countOr(1) < 1))) return StatusBadCount;
+    if constexpr (test == Test::size)
+        if (anyBelowOne(argument.sizeOr(1)...)) return StatusBadSize;
+    if constexpr (test == Test::fit)
+        if ((... | argument.misfit()) != 0) return StatusSizeMismatch;
+    if constexpr (test == Test::stride)
+        if (anyBadStride<T>(argument.strideOr(sizeof(T))...)) return StatusBadStride;
+    if constexpr (test == Test::shift)
+        if (anyBadShift<T>(argument.shiftOr(0)...)) return StatusBadShift;
+    return StatusOk;
+}
+
+// Calls body with what is tested of all parts.
+template <class Body>
+VORM_INLINE auto withTested(const Body& body)
+{
+    return body();
+}
+template <class Body, class... Rest>
+VORM_INLINE auto withTested(const Body& body, const Fit& fit, const Rest&... rest)
+{
+    return withTested([&](auto... others) VORM_INLINE_LAMBDA { return body(fit, others...); }, rest...);
+}
+template <class Body, class First, class... Rest>
+VORM_INLINE auto withTested(const Body& body, const First& first, const Rest&... rest)
+{
+    return first.arguments([&](auto... own) VORM_INLINE_LAMBDA {
+        return withTested([&](auto... others) VORM_INLINE_LAMBDA { return body(own..., others...); }, rest...);
+    });
 }
 
 template <class T, Test... tests, class Parts>
 VORM_INLINE VormStatus tested(const Call<T, Tests<tests...>, Parts>& call)
 {
     return call.parts.with([](const auto&... part) VORM_INLINE_LAMBDA {
-        VormStatus status = StatusOk;
-        static_cast<void>((... || ((status = outcome<tests, T>(part...)) != StatusOk)));
-        return status;
+        return withTested(
+            [](auto... argument) VORM_INLINE_LAMBDA {
+                VormStatus status = StatusOk;
+                static_cast<void>((... && ((status = outcome<tests, T>(argument...)) == StatusOk)));
+                return status;
+            },
+            part...);
     });
 }
 
@@ -139,8 +150,7 @@ template <class T, class TheTests, class Parts>
 VORM_INLINE bool isContiguous(const Call<T, TheTests, Parts>& call)
 {
     const int gaps = call.parts.with([](const auto&... part) VORM_INLINE_LAMBDA {
-        return (... | part.arguments([](auto... argument)
-                                         VORM_INLINE_LAMBDA { return (0 | ... | argument.gap(sizeof(T))); }));
+        return withTested([](auto... argument) VORM_INLINE_LAMBDA { return (... | argument.gap(sizeof(T))); }, part...);
     });
 #ifdef __clang__
     return opaque(gaps) == 0;  // or clang learns the strides, and writes constants in their place; g++ does better

@@ -12,7 +12,7 @@ VORM_INLINE VormStatus team(const ArrayCall<T, TheTests, Parts>& call, VormStatu
     return inTeam<kernels>(call.count, call.work.picoseconds, [&call, kernel](const Chunk& chunk) {
         return call.parts.with([&](const auto&... part)
                                    VORM_INLINE_LAMBDA { return withArguments(kernel, part.chunk(chunk)...); });
-    }, 0);
+    });
 }
 template <Kernels kernels = Kernels::cannotFail, class T, class TheTests, class Parts, class... Argument>
 VORM_INLINE VormStatus team(const ArrayCall<T, TheTests, Parts>& call, VormStatus (*kernel)(Argument...),

@@ -93,6 +93,6 @@ const Family fixedForms = {
         return isScalar(f) || f.family == "CrossProduct" ? nullptr : f.operands[0].name == "src" ? "src" : "src1";
     },
     .stored =
-        [](const Operand& o, const Function& f, const Sizes&) {
+        [](const Operand& o, const Function& f, const Problem&) {
             return o.name == "dst" && isScalar(f) ? Stored{1, 1} : Stored{0, 0};
         }};

@@ -76,6 +76,26 @@ VormStatus substitute(const Call& call, int n)
     return StatusOk;
 }
 
+// max |P A - L U| over n eps max |A|, in higher precision.
+template <class T>
+std::string judge(const Call& call, int n)
+{
+    const Placed &src = call["src"], &dst = call["dst"], &rows = call["pivotIndex"];
+    const int order = src.columns;
+    if (call.problem.values != Values::ordinary) return {};
+    const auto factor = [&](int r, int c) { return (long double)(dst.found<T>(n, rows.found<int>(n, r) * order + c)); };
+    long double largest = 0, error = 0;
+    for (int r = 0; r < order; ++r)
+        for (int c = 0; c < order; ++c) {
+            long double sum = r <= c ? factor(r, c) : 0;
+            for (int k = 0; k < std::min(r, c + 1); ++k) sum += factor(r, k) * factor(k, c);
+            const long double wanted = at<T>(src, n, rows.found<int>(n, r), c);
+            largest = std::max(largest, std::fabs(wanted)), error = std::max(error, std::fabs(sum - wanted));
+        }
+    if (error <= 1.1L * order * std::numeric_limits<T>::epsilon() * largest) return {};
+    return "has residual " + std::to_string(double(error)) + " in object " + std::to_string(n);
+}
+
 template <class T>
 void put(const Placed& p, int n, int r, int c, double value)
 {
@@ -118,7 +138,7 @@ std::vector<Sizes> sizes(const Function&)
 {
     std::vector<Sizes> all;
     for (int order : {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 14, 16, 17, 26, 40})
-        all.insert(all.end(), isUnrolled(order) ? 12 : order < 12 ? 4 : 1, {order, order, order});
+        all.insert(all.end(), isUnrolled(order) ? 40 : order < 12 ? 12 : 4, {order, order, order});
     return all;
 }
 
@@ -130,6 +150,8 @@ const Family luDecomposition = {.name = "LuDecomposition",
                                 .sizes = sizes,
                                 .model32f = decompose<float>,
                                 .model64f = decompose<double>,
+                                .judge32f = judge<float>,
+                                .judge64f = judge<double>,
                                 .inPlace = [](const Function&, const Sizes&) { return "src"; },
                                 .fill = fill,
                                 .spoil =

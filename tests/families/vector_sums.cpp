@@ -28,7 +28,8 @@ const char* inPlace(const Function& f, const Sizes&)
 std::vector<Sizes> sizes(const Function&)
 {
     std::vector<Sizes> all;
-    for (int len : {1, 2, 3, 4, 5, 6, 7, 8, 9, 13, 16, 17, 31, 40}) all.push_back({.rows = 1, .columns = len});
+    for (int len : {1, 2, 3, 4, 5, 6, 7, 8, 9, 13, 16, 17, 31, 40})
+        all.insert(all.end(), len >= 3 && len <= 6 ? 12 : 4, {.rows = 1, .columns = len});
     return all;
 }
 
