@@ -50,7 +50,7 @@ VORM_HIDDEN bool luFactorise(Lanes<T>* a, int* order, int n);
 
 // A register of objects of other orders.
 template <class T, class Src, class Dst>
-[[gnu::noinline]] VormStatus luBuffered(const Src& src, const Dst& dst, int first, int n, int* pivotIndex)
+VORM_SHARED VormStatus luBuffered(const Src& src, const Dst& dst, int first, int n, int* pivotIndex)
 {
     RowBuffer<T> a;
     int order[bufferedOrder * narrow<T>];
@@ -64,7 +64,7 @@ template <class T, class Src, class Dst>
 // Arrays. Each order in a function of its own, with views of its own: in one for all of them most of what the loops
 // need would lie in memory.
 template <int n, class T, class Src, class Dst>
-[[gnu::noinline]] VormStatus luArray(const Src src, const Dst dst, int* pivotIndex, int count)
+VORM_SHARED VormStatus luArray(const Src src, const Dst dst, int* pivotIndex, int count)
 {
     using Widest = std::conditional_t<isAdjacent<Src> || isInPlanes<Src>, Wide<T>, Lanes<T>>;
     return inBlocks<Widest>(dst, n, n, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {

@@ -32,7 +32,7 @@ struct NarrowerThan<Lanes<T, W>> {
 template <class Number, class View>
 VORM_INLINE bool registersApart(const View& view, int first, int rows, int len)
 {
-    constexpr int width = objectsIn<Number> / registersIn<Number>;
+    constexpr int width = RegisterIn<Number>::width;
     for (int k = 0; k < registersIn<Number>; ++k)
         if (!objectsApart<width>(view, first + k * width, rows, len)) return false;
     return true;

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <type_traits>
+#include <utility>
 
 #include "frame/memory.hpp"
 #include "frame/registers.hpp"
@@ -168,14 +169,16 @@ template <class Number>
 constexpr int registersIn = 1;
 template <class L, int registers>
 constexpr int registersIn<Several<L, registers>> = registers;
-template <int k, class Number>
-VORM_INLINE auto& registerOf(Number& a)
+template <class Number>
+VORM_INLINE auto& registerOf(Number& a, int k)
 {
     if constexpr (registersIn<std::remove_const_t<Number>> == 1)
         return a;
     else
         return a.part[k];
 }
+template <class Number>
+using RegisterIn = std::remove_cvref_t<decltype(registerOf(std::declval<Number&>(), 0))>;
 
 // A register of parts of 128 bits, part(q) being the q-th of them; and each of them by itself, store(q, part).
 template <class L, class Part>

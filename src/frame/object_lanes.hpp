@@ -105,6 +105,20 @@ template <class T, class View>
     for (int l = 0; l < objects; ++l)
         for (int i = 0; i < n; ++i) view(first + l, i) = from[i * objects + l];
 }
+// Row r of object l is row rows[l * n + r] of the matrix; the same of vectors.
+template <class T, class View>
+[[gnu::noinline]] void gatherVectors(const View& view, int first, int objects, int n, const int* rows, T* to)
+{
+    for (int l = 0; l < objects; ++l)
+        for (int i = 0; i < n; ++i) to[i * objects + l] = view(first + l, entry(rows, l * n + i));
+}
+template <class T, class View>
+[[gnu::noinline]] void gatherMatrices(const View& view, int first, int objects, int n, const int* rows, T* to)
+{
+    for (int l = 0; l < objects; ++l)
+        for (int r = 0; r < n; ++r)
+            for (int c = 0; c < n; ++c) to[(r * n + c) * objects + l] = view(first + l, entry(rows, l * n + r), c);
+}
 template <class T, class View>
 [[gnu::noinline]] void scatterMatrices(const View& view, int first, int objects, int n, const T* from)
 {
@@ -131,26 +145,35 @@ VORM_INLINE void rowsAt(const View& view, int first, const Row& row, T* (&to)[W]
     for (int l = 0; l < W; ++l) to[l] = rowAt(view, first + l, row(l));
 }
 
+// Each register of a number, k-th of them with the objects from first on; written out where sizes are constants.
+template <class Number, class N, class Body>
+VORM_INLINE void eachRegister(N, int first, const Body& body)
+{
+    constexpr int registers = registersIn<Number>, width = RegisterIn<Number>::width;
+    if constexpr (std::is_same_v<N, int>)
+        for (int k = 0; k < registers; ++k) body(k, first + k * width);
+    else
+        unrolled<registers>([&](auto k) VORM_INLINE_LAMBDA { body(k, first + k * width); });
+}
+
 // Element i of each vector is at x[i].
 template <class Number, class View, class N>
 VORM_INLINE void loadVectors(const View& view, int first, Number* x, N n)
 {
     using T = Element<Number>;
     if constexpr (inLanes<Number> && (isAdjacent<View> || isInPlanes<View>))
-        unrolled<registersIn<Number>>([&](auto k) VORM_INLINE_LAMBDA {
-            constexpr int width = objectsIn<Number> / registersIn<Number>;
-            const int object = first + k * width;
+        eachRegister<Number>(n, first, [&](auto k, int object) VORM_INLINE_LAMBDA {
             if constexpr (isAdjacent<View>) {
-                const T* from[width];
+                const T* from[RegisterIn<Number>::width];
                 objectsAt(view, object, from);
                 loadRows(
-                    from, [&](int i) VORM_INLINE_LAMBDA -> auto& { return registerOf<k>(x[i]); }, n);
+                    from, [&](int i) VORM_INLINE_LAMBDA -> auto& { return registerOf(x[i], k); }, n);
             } else {
-                for (int i = 0; i < n; ++i) registerOf<k>(x[i]) = Lanes<T, width>::load(view.element(i) + object);
+                for (int i = 0; i < n; ++i) registerOf(x[i], k) = RegisterIn<Number>::load(view.element(i) + object);
             }
         });
     else if constexpr (!inLanes<Number>)
-        for (int i = 0; i < n; ++i) x[i] = view(first, i);
+        repeat(n, [&](int i) VORM_INLINE_LAMBDA { x[i] = view(first, i); });
     else
         gatherVectors(view, first, objectsIn<Number>, n, reinterpret_cast<T*>(x));
 }
@@ -159,20 +182,18 @@ VORM_INLINE void storeVectors(const View& view, int first, const Number* x, N n)
 {
     using T = Element<Number>;
     if constexpr (inLanes<Number> && (isAdjacent<View> || isInPlanes<View>))
-        unrolled<registersIn<Number>>([&](auto k) VORM_INLINE_LAMBDA {
-            constexpr int width = objectsIn<Number> / registersIn<Number>;
-            const int object = first + k * width;
+        eachRegister<Number>(n, first, [&](auto k, int object) VORM_INLINE_LAMBDA {
             if constexpr (isAdjacent<View>) {
-                T* to[width];
+                T* to[RegisterIn<Number>::width];
                 objectsAt(view, object, to);
                 storeRows(
-                    to, [&](int i) VORM_INLINE_LAMBDA { return registerOf<k>(x[i]); }, n);
+                    to, [&](int i) VORM_INLINE_LAMBDA { return registerOf(x[i], k); }, n);
             } else {
-                for (int i = 0; i < n; ++i) registerOf<k>(x[i]).store(view.element(i) + object);
+                for (int i = 0; i < n; ++i) registerOf(x[i], k).store(view.element(i) + object);
             }
         });
     else if constexpr (!inLanes<Number>)
-        for (int i = 0; i < n; ++i) view(first, i) = x[i];
+        repeat(n, [&](int i) VORM_INLINE_LAMBDA { view(first, i) = x[i]; });  // a loop would go through memory
     else
         scatterVectors(view, first, objectsIn<Number>, n, reinterpret_cast<const T*>(x));
 }
@@ -185,7 +206,8 @@ VORM_INLINE void loadMatrices(const View& view, int first, Number (&a)[n][n])
     if constexpr (inLanes<Number> && isAdjacent<View>)
         unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
             const T* from[Number::width];
-            rowsAt(view, first, [r](int) VORM_INLINE_LAMBDA { return int{r}; }, from);
+            rowsAt(
+                view, first, [r](int) VORM_INLINE_LAMBDA { return int{r}; }, from);
             loadRows(
                 from, [&](int c) VORM_INLINE_LAMBDA -> auto& { return a[r][c]; }, constant<n>);
         });
@@ -204,8 +226,10 @@ VORM_INLINE void storeMatrices(const View& view, int first, const Number (&a)[n]
     if constexpr (inLanes<Number> && isAdjacent<View>)
         unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
             T* to[Number::width];
-            rowsAt(view, first, [r](int) VORM_INLINE_LAMBDA { return int{r}; }, to);
-            storeRows(to, [&](int c) VORM_INLINE_LAMBDA { return a[r][c]; }, constant<n>);
+            rowsAt(
+                view, first, [r](int) VORM_INLINE_LAMBDA { return int{r}; }, to);
+            storeRows(
+                to, [&](int c) VORM_INLINE_LAMBDA { return a[r][c]; }, constant<n>);
         });
     else if constexpr (inLanes<Number> && isInPlanes<View>)
         unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
@@ -223,8 +247,10 @@ VORM_INLINE void storeMatrices(const View& view, int first, const Number (&a)[n]
     if constexpr (inLanes<Number> && isAdjacent<View>)
         unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
             T* to[Number::width];
-            rowsAt(view, first, [&](int l) VORM_INLINE_LAMBDA { return row(l, r); }, to);
-            storeRows(to, [&](int c) VORM_INLINE_LAMBDA { return a[r][c]; }, constant<n>);
+            rowsAt(
+                view, first, [&](int l) VORM_INLINE_LAMBDA { return row(l, r); }, to);
+            storeRows(
+                to, [&](int c) VORM_INLINE_LAMBDA { return a[r][c]; }, constant<n>);
         });
     else if constexpr (inLanes<Number> && isInPlanes<View>)
         unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
