@@ -10,6 +10,7 @@
 #include "factor/lu_general.hpp"
 #include "frame/blocks.hpp"
 #include "frame/object_rows.hpp"
+#include "frame/pin.hpp"
 
 namespace vorm {
 
@@ -24,6 +25,10 @@ template <int n, class Number, class Src, class Dst>
 VORM_INLINE VormStatus luObjects(const Src& src, const Dst& dst, int first, int* pivotIndex)
 {
     LuBlock<n, Number> lu;
+    // Two lanes of even orders are rather stored one by one, where their rows belong.
+    constexpr bool rowsStay = isInPlanes<Dst> && (objectsIn<Number> > 2 || n % 2 == 1);
+    // Or the loop keeps more addresses than there are registers.
+    if constexpr (isInPlanes<Dst> && !rowsStay) first = opaque(first);
     loadMatrices(src, first, lu.a);
     if constexpr (!inLanes<Number>) {
         const int passed = luFactorise<false>(lu);
@@ -31,8 +36,6 @@ VORM_INLINE VormStatus luObjects(const Src& src, const Dst& dst, int first, int*
         scatterRows(dst, first, 1, n, passed, pivotIndex, lu.a[0]);
         return passed == n ? StatusOk : StatusSingular;
     } else {
-        // Two lanes of even orders are rather stored one by one, where their rows belong.
-        constexpr bool rowsStay = isInPlanes<Dst> && (Number::width > 2 || n % 2 == 1);
         constexpr bool here = n <= 4 && (isAdjacent<Src> || isInPlanes<Src>);
         if ((here ? luFactoriseHere<rowsStay>(lu) : luFactorise<rowsStay>(lu)) < n) return StatusSingular;
         storeIntegers(lu.rows, pivotIndex);
