@@ -8,7 +8,7 @@
 #include <cstring>
 #include <limits>
 
-#include "frame/checks.hpp"
+#include "frame/call.hpp"
 #include "frame/lanes.hpp"
 #include "frame/operands.hpp"
 #include "frame/small_vector.hpp"
@@ -25,7 +25,48 @@ TEST(Wrapping, As32Bits)
     EXPECT_TRUE((anyBadStride<double>(8, 4)));
     EXPECT_TRUE((anyBadStride<float>(4, INT_MIN)));
     EXPECT_FALSE((anyBadShift<float>(0, 4)));
-    EXPECT_FALSE((contiguous<float>(4, 8, 4)));
+}
+
+// What follows from the parts of a call: tests in order, contiguity, the arguments of a chunk and of one object.
+TEST(Calls, Parts)
+{
+    static float memory[100];
+    static int rows[30];
+    float* const p = memory;
+    const auto call = [&](const float* src, int stride0, int stride2, int len, int other, int count) {
+        return arrayCallOf<float>(workOf(7, 3), count, VectorArray{src, stride0, stride2}, ObjectTable{rows, 5},
+                                  Transposed{MatrixArray{p, 40, 20, 4}}, Size{len}, Fit{len, other});
+    };
+    EXPECT_EQ(tested(call(p, 12, 4, 3, 3, 2)), StatusOk);
+    EXPECT_EQ(tested(call(nullptr, 12, 4, 3, 3, 0)), StatusNullPointer);
+    EXPECT_EQ(tested(call(p, 12, 4, 0, 3, 0)), StatusBadCount);
+    EXPECT_EQ(tested(call(p, 12, 4, 0, 3, 2)), StatusBadSize);
+    EXPECT_EQ(tested(call(p, 10, 4, 3, 4, 2)), StatusSizeMismatch);
+    EXPECT_EQ(tested(call(p, 12, 0, 3, 3, 2)), StatusBadStride);
+    EXPECT_EQ(tested(inOrder<Tests<vorm::Test::stride, vorm::Test::count>>(call(p, 10, 4, 0, 3, 0))), StatusBadStride);
+    EXPECT_TRUE(isContiguous(call(p, 12, 4, 3, 3, 2)));
+    EXPECT_FALSE(isContiguous(call(p, 12, 8, 3, 3, 2)));
+
+    using Kernel = VormStatus(const float*, int, int, int*, float*, int, int, int, int, int);
+    static std::vector<std::ptrdiff_t> seen;
+    Kernel* const kernel = [](const float* src, int stride0, int stride2, int* table, float* dst, int, int, int,
+                              int len, int count) {
+        seen = {src - memory, stride0, stride2, table - rows, dst - memory, len, count};
+        return VormStatus{StatusOk};
+    };
+    call(p, 12, 8, 3, 3, 9).parts.with([&](const auto&... part) {
+        return withArguments(kernel, part.chunk(Chunk{2, 4, 1, nullptr})...);
+    });
+    EXPECT_EQ(seen, (std::vector<std::ptrdiff_t>{6, 12, 8, 10, 20, 3, 4}));
+
+    using Single = VormStatus(const float*, int, int*, float*, int, int, int);
+    Single* const single = [](const float* src, int, int* table, float* dst, int stride1, int, int len) {
+        seen.insert(seen.end(), {src - memory, table - rows, dst - memory, stride1, len});
+        return VormStatus{seen.size() < 10 ? StatusOk : StatusSingular};
+    };
+    seen.clear();
+    EXPECT_EQ(eachSingle(call(p, 12, 8, 3, 3, 4), single), StatusSingular);
+    EXPECT_EQ(seen, (std::vector<std::ptrdiff_t>{0, 0, 0, 20, 3, 3, 5, 10, 20, 3}));
 }
 
 // The address of every kind of operand, against the documented formula.

@@ -12,7 +12,7 @@
 #include "frame/object_rows.hpp"
 #include "frame/pin.hpp"
 
-namespace vorm {
+namespace vorm::factor {
 
 // luFactoriseHere, compiled once, in lu_blocks.cpp. Only of the orders 3 and 4 the call and the way through memory
 // cost more than what the compiler loses in a larger function.
@@ -91,4 +91,4 @@ VORM_INLINE VormStatus luArray(const Src& src, const Dst& dst, int* pivotIndex, 
         });
 }
 
-}  // namespace vorm
+}  // namespace vorm::factor

@@ -6,7 +6,7 @@
 #include "factor/lu.hpp"
 #include "factor/lu_solve_general.hpp"
 
-namespace vorm {
+namespace vorm::factor {
 namespace {
 
 // Row by row: lane k of a multiplier's row is the multiplier f, the lanes before keep x, those behind are y.
@@ -216,4 +216,4 @@ template int luFactorise<true>(LuBlock<5, Lanes<float>>& lu);
 template int luFactorise<true>(LuBlock<5, Lanes<double>>& lu);
 template int luFactorise<true>(LuBlock<6, Lanes<float>>& lu);
 
-}  // namespace vorm
+}  // namespace vorm::factor

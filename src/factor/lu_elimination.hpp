@@ -7,7 +7,7 @@
 #include "frame/lanes.hpp"
 #include "frame/unrolled.hpp"
 
-namespace vorm {
+namespace vorm::factor {
 
 // One object or a register of them: matrices in logical row order, and the source row each row came from,
 // whose number in lanes is bits that are only moved.
@@ -162,4 +162,4 @@ VORM_INLINE int luFactoriseHere(LuBlock<n, Number>& lu)
     return passed;
 }
 
-}  // namespace vorm
+}  // namespace vorm::factor

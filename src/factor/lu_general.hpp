@@ -8,7 +8,7 @@
 #include "frame/overlap.hpp"
 #include "vorm/status.h"
 
-namespace vorm {
+namespace vorm::factor {
 
 template <class T>
 constexpr T luEpsilon = std::numeric_limits<T>::epsilon();
@@ -85,4 +85,4 @@ VORM_INLINE VormStatus luGeneral(const Src& src, const Dst& dst, int object, int
     return abs(T(row(order - 1)(order - 1))) <= luEpsilon<T> ? StatusSingular : StatusOk;
 }
 
-}  // namespace vorm
+}  // namespace vorm::factor

@@ -6,7 +6,7 @@
 #include "frame/object_rows.hpp"
 #include "frame/pin.hpp"
 
-namespace vorm {
+namespace vorm::factor {
 
 // lu(i, j) are factors in logical row order; x holds b in logical order before, the solution after. An unknown is
 // subtracted everywhere as soon as it is found. divided(x, i) is x divided by the i-th element of U's diagonal.
@@ -223,4 +223,4 @@ VORM_SHARED void luSolveVectors(const M matrix, const B b, const X dst, const in
     });
 }
 
-}  // namespace vorm
+}  // namespace vorm::factor

@@ -5,7 +5,7 @@
 #include "factor/lu_general.hpp"
 #include "factor/lu_solve.hpp"
 
-namespace vorm {
+namespace vorm::factor {
 
 // The sum of row(j) x(j) for j from first to end - 1, from zero. Groups of eight terms go to eight sums,
 // folded as ((s0 + s1) + (s2 + s3)) + ((s4 + s5) + (s6 + s7)); the terms left over follow one by one.
@@ -153,4 +153,4 @@ VORM_SHARED void luSolveVectors(const M& matrix, const B& b, const X& dst, const
     });
 }
 
-}  // namespace vorm
+}  // namespace vorm::factor

@@ -13,8 +13,8 @@ namespace vorm {
 // What is to be done at once under a driver.
 struct Chunk {
     int first, objects;  // its objects
-    int thread;          // its number among the chunks, 0 when there is but one
-    char* scratch;       // the work space of its thread, null where the call asks for none
+    int thread;          // its number among the chunks: which stretch of a caller's buffer is its own
+    char* scratch;       // the work space of the worker that does it, null where there is none
 };
 
 // What the public layers see of an argument that is none of a kind: the number that passes, given by the test.

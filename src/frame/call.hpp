@@ -226,6 +226,22 @@ VORM_INLINE VormStatus withArguments(const Body& body, const First& first, const
     });
 }
 
+// The same call with adjacent elements.
+template <class T, class TheTests, class Parts>
+VORM_INLINE constexpr auto withAdjacent(const Call<T, TheTests, Parts>& call)
+{
+    return call.parts.with([](const auto&... part)
+                               VORM_INLINE_LAMBDA { return callOf<T, TheTests>(part.withAdjacent()...); });
+}
+template <class T, class TheTests, class Parts>
+VORM_INLINE constexpr auto withAdjacent(const ArrayCall<T, TheTests, Parts>& call)
+{
+    return call.parts.with([&](const auto&... part) VORM_INLINE_LAMBDA {
+        using Adjacents = PartsOf<decltype(part.withAdjacent())...>;
+        return ArrayCall<T, TheTests, Adjacents>{{{{part.withAdjacent()}...}}, call.work, call.count};
+    });
+}
+
 // Object by object through the kernel of the single shape, up to the first that fails.
 template <class T, class TheTests, class Parts, class... Argument>
 VORM_INLINE VormStatus eachSingle(const ArrayCall<T, TheTests, Parts>& call, VormStatus (*single)(Argument...))

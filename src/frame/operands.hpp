@@ -30,6 +30,18 @@ constexpr std::ptrdiff_t bytes(Adjacent)
     return sizeof(T);
 }
 
+// The arguments of a view end with stride2, where it has one.
+template <class Body, class... Argument>
+VORM_INLINE constexpr auto withElementStride(const Body& body, int stride2, Argument... before)
+{
+    return body(before..., ElementStride{stride2});
+}
+template <class Body, class... Argument>
+VORM_INLINE constexpr auto withElementStride(const Body& body, Adjacent, Argument... before)
+{
+    return body(before...);
+}
+
 // Standard layout. Step is int or Adjacent. ----------------------------------------------------
 
 template <class T, class Step>
@@ -42,7 +54,7 @@ struct Vector {  // v
     template <class Body>
     VORM_INLINE constexpr auto arguments(const Body& body) const
     {
-        return body(Pointer<T>{p}, ElementStride{stride2});
+        return withElementStride(body, stride2, Pointer<T>{p});
     }
     VORM_INLINE constexpr Vector chunk(const Chunk&) const { return *this; }
     VORM_INLINE constexpr auto single(int) const { return *this; }
@@ -60,7 +72,7 @@ struct VectorArray {  // va
     template <class Body>
     VORM_INLINE constexpr auto arguments(const Body& body) const
     {
-        return body(Pointer<T>{p}, Stride{stride0}, ElementStride{stride2});
+        return withElementStride(body, stride2, Pointer<T>{p}, Stride{stride0});
     }
     VORM_INLINE constexpr VectorArray chunk(const Chunk& chunk) const
     {
@@ -84,7 +96,7 @@ struct Matrix {  // m
     template <class Body>
     VORM_INLINE constexpr auto arguments(const Body& body) const
     {
-        return body(Pointer<T>{p}, Stride{stride1}, ElementStride{stride2});
+        return withElementStride(body, stride2, Pointer<T>{p}, Stride{stride1});
     }
     VORM_INLINE constexpr Matrix chunk(const Chunk&) const { return *this; }
     VORM_INLINE constexpr auto single(int) const { return *this; }
@@ -105,7 +117,7 @@ struct MatrixArray {  // ma
     template <class Body>
     VORM_INLINE constexpr auto arguments(const Body& body) const
     {
-        return body(Pointer<T>{p}, Stride{stride0}, Stride{stride1}, ElementStride{stride2});
+        return withElementStride(body, stride2, Pointer<T>{p}, Stride{stride0}, Stride{stride1});
     }
     VORM_INLINE constexpr MatrixArray chunk(const Chunk& chunk) const
     {
@@ -128,7 +140,7 @@ struct VectorList {  // va
     template <class Body>
     VORM_INLINE constexpr auto arguments(const Body& body) const
     {
-        return body(Pointer<T* const>{pp}, Shift{shift}, ElementStride{stride2});
+        return withElementStride(body, stride2, Pointer<T* const>{pp}, Shift{shift});
     }
     VORM_INLINE constexpr VectorList chunk(const Chunk& chunk) const { return {pp + chunk.first, shift, stride2}; }
     VORM_INLINE constexpr auto single(int n) const { return Vector<T, Step>{object(n), stride2}; }
@@ -149,7 +161,7 @@ struct MatrixList {  // ma
     template <class Body>
     VORM_INLINE constexpr auto arguments(const Body& body) const
     {
-        return body(Pointer<T* const>{pp}, Shift{shift}, Stride{stride1}, ElementStride{stride2});
+        return withElementStride(body, stride2, Pointer<T* const>{pp}, Shift{shift}, Stride{stride1});
     }
     VORM_INLINE constexpr MatrixList chunk(const Chunk& chunk) const
     {
@@ -341,7 +353,10 @@ struct ConstantList {  // ca, list layout
 template <class View>
 constexpr bool isAdjacent = View::isAdjacent;
 template <class View>
-constexpr bool adjacentRows = View::isAdjacent;
+constexpr bool adjacentRows = View::isAdjacent&& requires(View view)
+{
+    view.stride1;
+};
 template <class View>
 constexpr bool isConstant = requires
 {

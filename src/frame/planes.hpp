@@ -46,9 +46,12 @@ template <class View>
 constexpr bool isInPlanes<InPlanes<View>> = true;
 
 template <class View>
-constexpr InPlanes<View> asPlanes(const View& view)
+constexpr auto asPlanes(const View& view)
 {
-    return {view};
+    if constexpr (View::isCommon)
+        return view;  // the same for all objects
+    else
+        return InPlanes<View>{view};
 }
 
 }  // namespace vorm

@@ -14,6 +14,13 @@ namespace vorm {
 
 namespace {
 
+// Tests of drivers have a library that forks for every call, with a thread for each chunk.
+#ifdef VORM_FORK_ALWAYS
+constexpr bool forksAlways = true;
+#else
+constexpr bool forksAlways = false;
+#endif
+
 // How count objects are cut: the first extra ones of the chunks take an object more. There may be more chunks
 // than objects.
 struct Cut {
@@ -69,9 +76,10 @@ VormStatus runInTeam(const TeamCall& call)
     // have changed meanwhile, and not on who then works. Where nothing can fail each worker has one chunk.
     const int asked = std::max(1, static_cast<int>(ownGetNumThreads()));
     const bool canFail = call.kernels == Kernels::canFail;
-    const bool pays = call.picoseconds >= 2 * leastPicosecondsPerWorker;
+    const bool pays = forksAlways || call.picoseconds >= 2 * leastPicosecondsPerWorker;
     const int most = pays || canFail ? allowed(asked) : 1;
-    const int workers = pays ? workersFor(call.picoseconds, most, omp_get_num_procs()) : 1;
+    const int processors = forksAlways ? most : pays ? omp_get_num_procs() : 1;
+    const int workers = workersFor(forksAlways ? INT64_MAX : call.picoseconds, most, processors);
     const int chunks = canFail ? most : workers;
 
     const Scratch scratch(call.scratchPerWorker * static_cast<std::size_t>(workers));

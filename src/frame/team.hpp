@@ -56,11 +56,4 @@ VORM_INLINE VormStatus inTeam(int count, std::int64_t picoseconds, const Work& w
     return runInTeam({call, &work, count, kernels, tellsWhere, picoseconds, scratchPerThread});
 }
 
-// A driver that does not state its cost yet: every call pays.
-template <Kernels kernels, class Work>
-VORM_INLINE VormStatus inTeam(int count, const Work& work)
-{
-    return inTeam<kernels>(count, INT64_MAX, work);
-}
-
 }  // namespace vorm
