@@ -47,7 +47,7 @@ struct PivotSearch {
     VORM_INLINE void see(Lanes<T> element, int row)
     {
         const Lanes<T> magnitude = abs(element);
-        rows = select(magnitude > largest, Lanes<T>::integer(row), rows);
+        rows = largerInteger(rows, where(magnitude > largest, Lanes<T>::integer(row)));
         largest = larger(magnitude, largest);
     }
 };
