@@ -1,6 +1,6 @@
 // vormMul_tam: the kernels for contiguous elements, single precision.
 
-#include "products/mam.hpp"
+#include "products/shapes/mam.hpp"
 #include "products/matrix_calls.hpp"
 
 using namespace vorm;

@@ -1,6 +1,6 @@
 // vormMul_tat: public layers, and the kernels for elements anywhere.
 
-#include "products/mam.hpp"
+#include "products/shapes/mam.hpp"
 #include "products/matrix_calls.hpp"
 
 using namespace vorm;
