@@ -2,14 +2,14 @@
 // shape header says which views its operands are; nothing else tells the shapes apart.
 #pragma once
 
-#include <algorithm>
-
 #include "elementwise/objects.hpp"
 #include "elementwise/packed.hpp"
 #include "elementwise/runs.hpp"
+#include "frame/minmax.hpp"
+#include "frame/overlap.hpp"
 #include "frame/planes.hpp"
 
-namespace vorm {
+namespace vorm::elementwise {
 
 // Elements side by side: the contiguous and the _L kernels. ---------------------------------------
 
@@ -204,11 +204,11 @@ VORM_INLINE VormStatus pointerObjects(const A& a, const B& b, const VectorArrayP
     // Whole planes, unless constants are read again for each of them and are to stay in the cache.
     const int objectsAtOnce = isConstant<A> || isConstant<B> ? 1024 : count;
     for (int n = 0; n < count; n += objectsAtOnce) {
-        const int objects = std::min(objectsAtOnce, count - n);
+        const int objects = min(objectsAtOnce, count - n);
         for (int i = 0; i < len; ++i)
             run<Op>(planeSource<T>(a, n, i), planeSource<T>(b, n, i), dst.element(i) + n, objects);
     }
     return StatusOk;
 }
 
-}  // namespace vorm
+}  // namespace vorm::elementwise

@@ -7,17 +7,15 @@
 #include "elementwise/objects.hpp"
 #include "elementwise/runs.hpp"
 
-namespace vorm {
+namespace vorm::elementwise {
 
 // Constants side by side, so that a register of them is one load.
 template <class T>
 struct ConstantRow {
-    static constexpr bool isCommon = false;
+    static constexpr bool isCommon = false, isConstant = true;
     const T* p;
     T operator()(int n, int) const { return elementAt(p, n * std::ptrdiff_t{sizeof(T)}); }
 };
-template <class T>
-constexpr bool isConstant<ConstantRow<T>> = true;
 
 // The constants of as many objects as a register has lanes.
 template <class T>
@@ -120,18 +118,6 @@ VORM_INLINE void packedBlocks(const A& a, const B& b, const VectorArray<T, Adjac
     eachObject<Op, SmallVector<T, Len>>(a, b, dst, inBlocks, count);
 }
 
-// Whether the objects of an operand follow each other without a gap.
-template <class T>
-VORM_INLINE bool isPacked(const VectorArray<T, Adjacent>& view, int len)
-{
-    return view.stride0 == len * std::ptrdiff_t{sizeof(T)};
-}
-template <class View>
-VORM_INLINE bool isPacked(const View&, int)
-{
-    return true;  // one for all objects, or one constant per object
-}
-
 // Packed arrays with nothing that repeats: one run through all objects.
 template <class View>
 constexpr bool isRun = false;
@@ -140,4 +126,4 @@ constexpr bool isRun<VectorArray<T, Adjacent>> = true;
 template <class T>
 constexpr bool isRun<Constant<T>> = true;
 
-}  // namespace vorm
+}  // namespace vorm::elementwise

@@ -1,24 +1,13 @@
 // The square matrices of order 3 to 6, held row by row in registers.
 #pragma once
 
-#include <algorithm>
-
 #include "frame/lanes.hpp"
+#include "frame/minmax.hpp"
 #include "frame/operands.hpp"
 #include "frame/shuffles.hpp"
 #include "frame/unrolled.hpp"
 
 namespace vorm {
-
-// Views whose stored rows are contiguous.
-template <class View>
-constexpr bool adjacentRows = false;
-template <class T>
-constexpr bool adjacentRows<Matrix<T, Adjacent>> = true;
-template <class T>
-constexpr bool adjacentRows<MatrixArray<T, Adjacent>> = true;
-template <class T>
-constexpr bool adjacentRows<MatrixList<T, Adjacent>> = true;
 
 // How the rows of a matrix of order n lie in registers: as many full ones as fit, then one for the
 // rest, in which the one or two elements left over repeat: 4 4 4 4 or 4 5 4 5 behind 0 1 2 3. Three
@@ -33,14 +22,14 @@ struct SmallMatrix {
     // The column that lane l of part p holds.
     static constexpr int column(int p, int l)
     {
-        return p < full ? std::min(p * width + l, n - 1) : full * width + l % std::max(rest, 1);
+        return p < full ? min(p * width + l, n - 1) : full * width + l % max(rest, 1);
     }
 
     // Part p of row r.
     template <int r, int p, class View>
     VORM_INLINE static Lanes<T> load(const View& view, int object)
     {
-        if constexpr (adjacentRows<View>) {
+        if constexpr (View::isAdjacent) {
             const T* const from = advance(view.object(object), std::ptrdiff_t{r} * view.stride1) + p * width;
             if constexpr (p == full && rest == 1)
                 return elementAt(from, 0);
@@ -49,7 +38,7 @@ struct SmallMatrix {
             else if constexpr (!lastLaneUndefined || r < n - 1)
                 return Lanes<T>::load(from);  // three floats are read as four: this one is the next row's or before it
             else
-                return _mm_castsi128_ps(_mm_srli_si128(_mm_castps_si128(Lanes<T>::load(from - 1).v), 4));
+                return behindFirst(Lanes<T>::load(from - 1));
         } else {
             return lanes<T>([&](int l) VORM_INLINE_LAMBDA { return T(view(object, r, column(p, l))); });
         }
@@ -90,7 +79,7 @@ struct SmallMatrix {
         if constexpr (i == 0)
             return rests;
         else if constexpr (rest == 2)
-            return _mm_movehl_ps(rests.v, rests.v);
+            return highPairs(rests, rests);
         else
             return splat<i>(rests);
     }
@@ -98,7 +87,7 @@ struct SmallMatrix {
     template <int r, int p, class View>
     VORM_INLINE static void store(const View& view, int object, Lanes<T> part)
     {
-        if constexpr (adjacentRows<View>) {
+        if constexpr (View::isAdjacent) {
             T* const to = advance(view.object(object), std::ptrdiff_t{r} * view.stride1) + p * width;
             if constexpr (p == full) {
                 storeFirst<rest>(to, part);
@@ -110,7 +99,7 @@ struct SmallMatrix {
                 storeThree(to, part);
             }
         } else {
-            unrolled<p == full ? rest : std::min(width, n - p * width)>(
+            unrolled<p == full ? rest : min(width, n - p * width)>(
                 [&](auto l) VORM_INLINE_LAMBDA { view(object, r, p * width + l) = firstLane(splat<l>(part)); });
         }
     }

@@ -10,16 +10,18 @@
 // store by itself, and there are not registers enough to hold everything.
 #pragma once
 
+#include "frame/minmax.hpp"
+#include "frame/pin.hpp"
 #include "frame/small_matrix.hpp"
 
-namespace vorm {
+namespace vorm::products {
 
 // Left to right with the first product as the start value, or as the general path adds (see
 // matrix_tiles.hpp).
 enum class Order { leftToRight, asInTiles };
 
 template <class T, int n>
-constexpr int groupRows = Lanes<T>::width / std::max(SmallMatrix<T, n>::rest, 1);
+constexpr int groupRows = Lanes<T>::width / max(SmallMatrix<T, n>::rest, 1);
 template <class T, int n>
 constexpr int groups = n / groupRows<T, n>;
 
@@ -107,7 +109,7 @@ struct FactorsInColumns {
 // Prepared once for all objects.
 template <class T, int n>
 struct FactorsPrepared {
-    Lanes<T> all[n][n], inGroups[std::max(groups<T, n>, 1)][n];
+    Lanes<T> all[n][n], inGroups[max(groups<T, n>, 1)][n];
     template <class View>
     VORM_INLINE explicit FactorsPrepared(const View& view)
     {
@@ -139,15 +141,14 @@ struct Factors {
     View view;
     VORM_INLINE auto operator()(int object) const
     {
-        if constexpr (sizeof(T) == sizeof(float) && adjacentRows<View>)
+        if constexpr (sizeof(T) == sizeof(float) && View::isAdjacent)
             return FactorsInRows<n, View>(view, object);
         else
             return FactorsInMemory<T, n, View>{view, object};
     }
 };
 template <int n, class Stored>
-requires adjacentRows<Stored>
-struct Factors<float, n, Transposed<Stored>> {
+requires Stored::isAdjacent struct Factors<float, n, Transposed<Stored>> {
     static constexpr bool isCommon = false, inRows = false;
     Transposed<Stored> view;
     VORM_INLINE auto operator()(int object) const { return FactorsInColumns<n, Stored>{view.stored, object}; }
@@ -207,21 +208,16 @@ struct CommonRows {
 
 // ------------------------------------------------------------------------------------------------------
 
-VORM_INLINE void pin(Lanes<float>& a) { __asm__("" : "+x"(a.v)); }
-VORM_INLINE void pin(Lanes<double>& a) { __asm__("" : "+x"(a.v)); }
-VORM_INLINE void pin(float& a) { __asm__("" : "+x"(a)); }
-VORM_INLINE void pin(double& a) { __asm__("" : "+x"(a)); }
-
 // The sums of a tile grow side by side, so that no addition waits for the one before it. g++ would rather
 // add up one after the other and spill the rest, which does no harm where everything fits.
 template <class T, int n, bool commonA>
 constexpr bool pinnedSums = sizeof(T) == sizeof(double) || n > 4 || !commonA;
 template <class Number, int n, Order order, int row, int count, bool pinned>
-struct Sums {
+struct TileSums {
     static constexpr bool fromZero = order == Order::asInTiles;
     static constexpr int each = fromZero && row >= (n & ~3) && n % 4 != 3 ? 2 : 1;
     static_assert(each == 1 || n % 2 == 0);
-    Number v[each][std::max(count, 1)];
+    Number v[each][max(count, 1)];
     template <int k>
     VORM_INLINE void add(int s, Number term)
     {
@@ -242,8 +238,8 @@ VORM_INLINE void tile(const A& factors, const B& rowsOfB, const D& dst, int obje
     const auto& a = factors(object);
     auto&& b = rowsOfB(object);
     constexpr bool pinned = pinnedSums<T, n, A::isCommon>;
-    Sums<Lanes<T>, n, order, row, rows * whole, pinned> sums;
-    Sums<T, n, order, row, hasSingles ? rows : 0, pinned> singles;
+    TileSums<Lanes<T>, n, order, row, rows * whole, pinned> sums;
+    TileSums<T, n, order, row, hasSingles ? rows : 0, pinned> singles;
     unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
         Lanes<T> ofB[parts];
         unrolled<parts>([&](auto p) VORM_INLINE_LAMBDA { ofB[p] = b.template get<part + p, k>(); });
@@ -269,7 +265,7 @@ VORM_INLINE void groupTile(const A& factors, const B& rowsOfB, const D& dst, int
     constexpr int row = group * groupRows<T, n>;
     const auto& a = factors(object);
     auto&& b = rowsOfB(object);
-    Sums<Lanes<T>, n, order, row, count, pinnedSums<T, n, A::isCommon>> sums;
+    TileSums<Lanes<T>, n, order, row, count, pinnedSums<T, n, A::isCommon>> sums;
     unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
         const Lanes<T> ofB = b.template get<Small::full, k>();
         unrolled<count>([&](auto g)
@@ -307,7 +303,7 @@ VORM_INLINE void product(const A& factors, const B& rows, const D& dst, int obje
         constexpr int p = across * breadth;
         unrolled<(n + height - 1) / height>([&](auto down) VORM_INLINE_LAMBDA {
             constexpr int i = down * height;
-            tile<T, n, order, i, std::min(height, n - i), p, std::min(breadth, parts - p)>(factors, rows, dst, object);
+            tile<T, n, order, i, min(height, n - i), p, min(breadth, parts - p)>(factors, rows, dst, object);
         });
     });
     if constexpr (Shape::grouping) {
@@ -321,7 +317,7 @@ VORM_INLINE void product(const A& factors, const B& rows, const D& dst, int obje
 
 // A matrix that all of several objects share is prepared for them.
 template <class T, int n, Order order = Order::leftToRight, class A, class B, class D>
-VORM_INLINE void products(const A& a, const B& b, const D& dst, int first, int end)
+VORM_INLINE void squareProducts(const A& a, const B& b, const D& dst, int first, int end)
 {
     constexpr bool several = !D::isCommon;
     const std::conditional_t<A::isCommon && several, CommonFactors<T, n, A>, Factors<T, n, A>> factors{a};
@@ -329,4 +325,4 @@ VORM_INLINE void products(const A& a, const B& b, const D& dst, int first, int e
     for (int object = first; object < end; ++object) product<T, n, order>(factors, rows, dst, object);
 }
 
-}  // namespace vorm
+}  // namespace vorm::products

@@ -13,7 +13,7 @@
     pSrc1, src1Stride1, src1Stride2, src1Width, src1Height, pSrc2, src2Stride1, src2Stride2, src2Width, src2Height, \
         pDst, dstStride1, dstStride2
 
-namespace vorm {
+namespace vorm::products {
 
 // Products with eight terms, four rows or a multiple, and columns that fill registers in pairs; and all
 // products. A kernel passes its arguments on with a jump, hence the strides that are not looked at.
@@ -27,9 +27,8 @@ VORM_INLINE VormStatus generalProduct(MM_PARAMS(T))
 {
     if constexpr (!Kind::transposed2) {
         const auto [m, n, k] = Kind::lengths(src1Width, src1Height, src2Width, src2Height);
-        int other = (k ^ 8) | (m & 3) | (n & (2 * Lanes<T>::width - 1));
-        __asm__("" : "+r"(other));  // opaque, as in Kind::fits
-        if (other == 0) return eightTerms<Kind>(MM_ARGS);
+        const int other = (k ^ 8) | (m & 3) | (n & (2 * Lanes<T>::width - 1));
+        if (opaque(other) == 0) return eightTerms<Kind>(MM_ARGS);
     }
     return anyLengths<Kind>(MM_ARGS);
 }
@@ -51,4 +50,4 @@ VORM_INLINE VormStatus generalProduct(MM_PARAMS(T))
     prefix VORM_GENERAL_PRODUCT(anyLengths, Tt, double)
 VORM_EACH_GENERAL_PRODUCT(extern);
 
-}  // namespace vorm
+}  // namespace vorm::products

@@ -3,64 +3,51 @@
 #pragma once
 
 #include "frame/operands.hpp"
-#include "frame/wrapping.hpp"
+#include "frame/pin.hpp"
 
-namespace vorm {
+namespace vorm::products {
 
 // The shape of a product: D has m rows and n columns, each element is a sum of k terms.
 struct Lengths {
     int m, n, k;
 };
 
-template <bool isTransposed1, bool isTransposed2>
+template <class First, class Second>
 struct Kind {
-    static constexpr bool transposed1 = isTransposed1, transposed2 = isTransposed2;
+    static constexpr bool transposed1 = First::isTransposed, transposed2 = Second::isTransposed;
 
-    // Opaque like the test for contiguous elements (frame/checks.hpp): a compiler that knows two sizes to
-    // be equal passes one for the other.
-    VORM_INLINE static bool fits(int src1Width, int src1Height, int src2Width, int src2Height)
+    // The inner sizes have to be equal.
+    static constexpr Fit fit(int src1Width, int src1Height, int src2Width, int src2Height)
     {
-        int difference = (transposed1 ? src1Height : src1Width) ^ (transposed2 ? src2Width : src2Height);
-        __asm__("" : "+r"(difference));
-        return difference == 0;
+        return {First::columns(src1Width, src1Height), Second::rows(src2Width, src2Height)};
     }
     static constexpr Lengths lengths(int src1Width, int src1Height, int src2Width, int src2Height)
     {
-        return {transposed1 ? src1Width : src1Height, transposed2 ? src2Height : src2Width,
-                transposed1 ? src1Height : src1Width};
+        return {First::rows(src1Width, src1Height), Second::columns(src2Width, src2Height),
+                First::columns(src1Width, src1Height)};
     }
     // And back.
-    static constexpr int width1(Lengths l) { return transposed1 ? l.m : l.k; }
-    static constexpr int height1(Lengths l) { return transposed1 ? l.k : l.m; }
-    static constexpr int width2(Lengths l) { return transposed2 ? l.k : l.n; }
-    static constexpr int height2(Lengths l) { return transposed2 ? l.n : l.k; }
+    static constexpr int width1(Lengths l) { return First::columns(l.k, l.m); }
+    static constexpr int height1(Lengths l) { return First::rows(l.k, l.m); }
+    static constexpr int width2(Lengths l) { return Second::columns(l.n, l.k); }
+    static constexpr int height2(Lengths l) { return Second::rows(l.n, l.k); }
 
     // The stored operands as the product reads them: A(i, k) and B(k, j).
     template <class Stored>
     static auto first(const Stored& stored)
     {
-        return asUsed<transposed1>(stored);
+        return First::used(stored);
     }
     template <class Stored>
     static auto second(const Stored& stored)
     {
-        return asUsed<transposed2>(stored);
-    }
-
-private:
-    template <bool transposed, class Stored>
-    static auto asUsed(const Stored& stored)
-    {
-        if constexpr (transposed)
-            return Transposed{stored};
-        else
-            return stored;
+        return Second::used(stored);
     }
 };
 
-using Mm = Kind<false, false>;
-using Mt = Kind<false, true>;
-using Tm = Kind<true, false>;
-using Tt = Kind<true, true>;
+using Mm = Kind<AsStored, AsStored>;
+using Mt = Kind<AsStored, AsTransposed>;
+using Tm = Kind<AsTransposed, AsStored>;
+using Tt = Kind<AsTransposed, AsTransposed>;
 
-}  // namespace vorm
+}  // namespace vorm::products

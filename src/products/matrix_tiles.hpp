@@ -16,11 +16,12 @@
 //                         ((s0 + s1) + (s2 + s3)) + ((s4 + s5) + (s6 + s7)), then the rest one by one
 #pragma once
 
+#include "frame/pin.hpp"
 #include "frame/small_matrix.hpp"
 
-namespace vorm {
+namespace vorm::products {
 
-enum class Sums { running, evenAndOdd };
+enum class SumOrder { running, evenAndOdd };
 
 // The view from row r and column c on. ---------------------------------------------------------------
 
@@ -40,7 +41,7 @@ VORM_INLINE Transposed<Stored> from(const Transposed<Stored>& view, int r, int c
 template <class T, int some, class View>
 VORM_INLINE Lanes<T> loadAcross(const View& view, int r, int c)
 {
-    if constexpr (adjacentRows<View> && some == Lanes<T>::width)
+    if constexpr (View::isAdjacent && some == Lanes<T>::width)
         return Lanes<T>::load(advance(view.p, std::ptrdiff_t{r} * view.stride1) + c);
     else
         return lanes<T>([&](int l) VORM_INLINE_LAMBDA { return l < some ? T(view(0, r, c + l)) : T(0); });
@@ -49,7 +50,7 @@ VORM_INLINE Lanes<T> loadAcross(const View& view, int r, int c)
 template <class T, int some, class View>
 VORM_INLINE void storeAcross(const View& view, int r, int c, Lanes<T> v)
 {
-    if constexpr (adjacentRows<View> && some == Lanes<T>::width)
+    if constexpr (View::isAdjacent && some == Lanes<T>::width)
         v.store(advance(view.p, std::ptrdiff_t{r} * view.stride1) + c);
     else
         unrolled<some>([&](auto k) VORM_INLINE_LAMBDA { view(0, r, c + k) = firstLane(splat<k>(v)); });
@@ -61,7 +62,7 @@ VORM_INLINE void storeAcross(const View& view, int r, int c, Lanes<T> v)
 template <class T, int height, class A>
 struct TermsOf {
     static constexpr int width = Lanes<T>::width;
-    static constexpr bool inRows = sizeof(T) == sizeof(float) && adjacentRows<A>;
+    static constexpr bool inRows = sizeof(T) == sizeof(float) && A::isAdjacent;
     static constexpr bool inColumns = sizeof(T) == sizeof(float) && isTransposed<A> && height == width;
     const A& a;
     int k;
@@ -104,14 +105,14 @@ VORM_INLINE void addTerm(Lanes<T> (&sum)[all], const Terms& terms, const B& b, i
     unrolled<registers>([&](auto p) VORM_INLINE_LAMBDA { rowOfB[p] = loadAcross<T, some>(b, k, p * Lanes<T>::width); });
     unrolled<all>([&](auto s) VORM_INLINE_LAMBDA {
         sum[s] = sum[s] + terms.template get<s / registers, ahead>() * rowOfB[s % registers];
-        __asm__("" : "+x"(sum[s].v));  // or g++ adds up one sum after the other and spills the rest
+        pin(sum[s]);
     });
 }
 
 // height rows, registers side by side; some of their lanes are in use. A known number of terms, a multiple
 // of four as an integral_constant, makes straight-line code.
-template <class T, Sums sums, int height, int registers, int some, class A, class B, class D, class Terms>
-VORM_INLINE void tileHere(const A& a, const B& b, const D& dst, Terms terms)
+template <class T, SumOrder sums, int height, int registers, int some, class A, class B, class D, class Terms>
+VORM_INLINE void generalTileHere(const A& a, const B& b, const D& dst, Terms terms)
 {
     constexpr int width = Lanes<T>::width, all = height * registers;
     Lanes<T> sum[all];
@@ -128,9 +129,9 @@ VORM_INLINE void tileHere(const A& a, const B& b, const D& dst, Terms terms)
     };
     int k = 0;
     if constexpr (!std::is_integral_v<Terms>) {
-        static_assert(sums == Sums::running && Terms::value % 4 == 0);
+        static_assert(sums == SumOrder::running && Terms::value % 4 == 0);
         unrolled<Terms::value / 4>([&](auto q) VORM_INLINE_LAMBDA { four(4 * q); });
-    } else if constexpr (sums == Sums::running) {
+    } else if constexpr (sums == SumOrder::running) {
         for (; width == 4 && k + width <= terms; k += width) four(k);
     } else {
         Lanes<T> odd[all];
@@ -148,10 +149,10 @@ VORM_INLINE void tileHere(const A& a, const B& b, const D& dst, Terms terms)
 }
 
 // A function of its own for each, so that the many tiles of a product do not share its registers.
-template <class T, Sums sums, int height, int registers, int some, class A, class B, class D>
-[[gnu::noinline]] void tile(const A a, const B b, const D dst, int terms)
+template <class T, SumOrder sums, int height, int registers, int some, class A, class B, class D>
+[[gnu::noinline]] void generalTile(const A a, const B b, const D dst, int terms)
 {
-    tileHere<T, sums, height, registers, some>(a, b, dst, terms);
+    generalTileHere<T, sums, height, registers, some>(a, b, dst, terms);
 }
 
 // The bulk of a product: a multiple of four rows, and of two registers of columns.
@@ -161,7 +162,8 @@ VORM_INLINE void fullTilesHere(const A& a, const B& b, const D& dst, int rows, i
     constexpr int breadth = 2 * Lanes<T>::width;
     for (int r = 0; r < rows; r += 4)
         for (int c = 0; c < columns; c += breadth)
-            tileHere<T, Sums::running, 4, 2, Lanes<T>::width>(from(a, r, 0), from(b, 0, c), from(dst, r, c), terms);
+            generalTileHere<T, SumOrder::running, 4, 2, Lanes<T>::width>(from(a, r, 0), from(b, 0, c), from(dst, r, c),
+                                                                         terms);
 }
 template <class T, class A, class B, class D>
 [[gnu::noinline]] void fullTiles(const A a, const B b, const D dst, int rows, int columns, int terms)
@@ -170,14 +172,14 @@ template <class T, class A, class B, class D>
 }
 
 // Strips of tiles: height rows each from row r up to toRow, columns c up to toColumn.
-template <class T, Sums sums, int height, class A, class B, class D>
+template <class T, SumOrder sums, int height, class A, class B, class D>
 [[gnu::noinline]] void strips(const A a, const B b, const D dst, int r, int toRow, int c, int toColumn, int terms)
 {
     constexpr int width = Lanes<T>::width;
     for (; r < toRow; r += height) {
         const A rows = from(a, r, 0);
         const auto across = [&]<int registers, int some>(int j) VORM_INLINE_LAMBDA {
-            tile<T, sums, height, registers, some>(rows, from(b, 0, j), from(dst, r, j), terms);
+            generalTile<T, sums, height, registers, some>(rows, from(b, 0, j), from(dst, r, j), terms);
         };
         int j = c;
         if constexpr (height != 4)
@@ -199,7 +201,7 @@ VORM_INLINE void tiles(const A& a, const B& b, const D& dst, int rows, int colum
 {
     const int full = columns & -(2 * Lanes<T>::width);
     if (full != 0) fullTiles<T>(a, b, dst, rows, full, terms);
-    if (full != columns) strips<T, Sums::running, 4>(a, b, dst, 0, rows, full, columns, terms);
+    if (full != columns) strips<T, SumOrder::running, 4>(a, b, dst, 0, rows, full, columns, terms);
 }
 
 // Tiles along k, for rows of A and columns of B that both run along it. ---------------------------
@@ -254,4 +256,4 @@ template <class T, int registers, int height, int breadth>
     });
 }
 
-}  // namespace vorm
+}  // namespace vorm::products

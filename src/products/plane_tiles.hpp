@@ -5,9 +5,10 @@
 #pragma once
 
 #include "frame/lanes.hpp"
+#include "frame/pin.hpp"
 #include "frame/unrolled.hpp"
 
-namespace vorm {
+namespace vorm::products {
 
 // Planes that lie at even distances, in bytes.
 template <class T>
@@ -38,7 +39,7 @@ VORM_INLINE void addTerms(Lanes<T> (&sums)[rows][columns], const OfA& a, const O
         for (int j = 0; j < columns; ++j) {
             const Lanes<T> product = ofA * ofB[j];
             sums[i][j] = isFirst ? product : sums[i][j] + product;
-            __asm__("" : "+x"(sums[i][j].v));  // or g++ adds up one sum after the other and spills the rest
+            pin(sums[i][j]);
         }
     }
 }
@@ -53,14 +54,13 @@ template <class T, int terms, int rows, int columns>
             addTerms<k == 0>(
                 sums, [&](int i) VORM_INLINE_LAMBDA { return advance(ofA, i * a.row); },
                 [&](int j) VORM_INLINE_LAMBDA { return advance(ofB, j * b.column); });
-            ofA = advance(ofA, a.column), ofB = advance(ofB, b.row);
-            __asm__("" : "+r"(ofA), "+r"(ofB));  // or all addresses are kept, in memory
+            // Opaque, or the addresses of all terms are kept, in memory.
+            ofA = opaque(advance(ofA, a.column)), ofB = opaque(advance(ofB, b.row));
         });
         T* ofD = d.p;
         for (int i = 0; i < rows; ++i) {
             for (int j = 0; j < columns; ++j) sums[i][j].store(advance(ofD, j * d.column));
-            ofD = advance(ofD, d.row);
-            __asm__("" : "+r"(ofD));
+            ofD = opaque(advance(ofD, d.row));
         }
         a.p = advance(a.p, 16), b.p = advance(b.p, 16), d.p = advance(d.p, 16);
     }
@@ -118,4 +118,4 @@ template <class T, int terms, int rows>
     }
 }
 
-}  // namespace vorm
+}  // namespace vorm::products

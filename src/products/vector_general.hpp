@@ -11,15 +11,14 @@
 //   lists without straight-line bodies: from zero, ascending k
 #pragma once
 
-#include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 
+#include "frame/minmax.hpp"
 #include "frame/operands.hpp"
 #include "frame/unrolled.hpp"
 #include "products/dots.hpp"
 
-namespace vorm {
+namespace vorm::products {
 
 // Calls body(integral_constant<int, count>) for a count from 1 to most.
 template <int most, class Body>
@@ -38,7 +37,7 @@ VORM_INLINE int elementsBeforeAligned(const T* x, int len)
 {
     const auto address = reinterpret_cast<std::uintptr_t>(x);
     if (address % sizeof(T) != 0) return len;
-    return std::min(len, static_cast<int>((16 - address % 16) % 16 / sizeof(T)));
+    return min(len, static_cast<int>((16 - address % 16) % 16 / sizeof(T)));
 }
 
 template <class T>
@@ -192,7 +191,8 @@ VORM_INLINE void runningProducts(const A& a, const X& x, const D& y, int rows, i
     const auto apart = [&](int object) VORM_INLINE_LAMBDA {  // results that overlap are written one after the other
         const auto distance =
             reinterpret_cast<const char*>(y.object(object + 1)) - reinterpret_cast<const char*>(y.object(object));
-        return std::abs(distance) >= rows * static_cast<std::ptrdiff_t>(sizeof(T));
+        const std::ptrdiff_t span = rows * std::ptrdiff_t{sizeof(T)};
+        return distance >= span || distance <= -span;
     };
     for (int object = 0; object < count;) {
         if (object + 1 < count && apart(object)) {
@@ -204,4 +204,4 @@ VORM_INLINE void runningProducts(const A& a, const X& x, const D& y, int rows, i
     }
 }
 
-}  // namespace vorm
+}  // namespace vorm::products

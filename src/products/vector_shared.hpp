@@ -2,17 +2,16 @@
 // several vectors need it.
 #pragma once
 
-#include <algorithm>
-
+#include "frame/minmax.hpp"
 #include "frame/object_lanes.hpp"
 #include "products/vector_sums.hpp"
 
-namespace vorm {
+namespace vorm::products {
 
 // Its columns, as whole registers of rows, and the elements of the last row, each in all lanes.
 template <class T, int n>
 struct Columns {
-    static constexpr int width = Lanes<T>::width, full = std::max(n / width, 1);
+    static constexpr int width = Lanes<T>::width, full = max(n / width, 1);
     Lanes<T> whole[full][n], last[n];
     template <class A>
     VORM_INLINE explicit Columns(const A& a)
@@ -250,4 +249,4 @@ requires(sizeof(T) == sizeof(double)) VORM_INLINE int productsOfCommon(const A& 
     }
 }
 
-}  // namespace vorm
+}  // namespace vorm::products
