@@ -161,13 +161,6 @@ Problem someProblem(const Function& f, const Sizes& sizes, Random& random)
     return p;
 }
 
-int largeCount(const Function& f, const Sizes& s)
-{
-    const bool isCubic = !f.isProduct() && f.operands[0].kind == 'm';
-    const int steps = f.isProduct() ? s.rows * s.columns * s.terms : isCubic ? s.rows * s.rows * s.rows : s.columns;
-    return std::max(20, 400000 / (steps + 5));
-}
-
 namespace {
 
 // Takes elements of object n over into the shadow: NaNs for NaNs, or all of them.

@@ -77,9 +77,6 @@ private:
 // A problem of a function with all that may vary in it drawn by lot, but for its sizes, count and threads.
 Problem someProblem(const Function& f, const Sizes& sizes, Random& random);
 
-// So many objects that the work of a call pays for a team anywhere, some hundred microseconds.
-int largeCount(const Function& f, const Sizes& sizes);
-
 // Makes the call beside the model of its family; all that it may touch has to be as the model left it, and
 // the core library asked as often as its limit says. Returns what is wrong, nothing where all is well.
 std::string check(const Call& call);

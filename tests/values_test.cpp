@@ -66,8 +66,7 @@ TEST_P(AllFamilies, Teams)
             for (int repeat = 0; repeat < 6; ++repeat) {
                 const Sizes& s = sizes[random() % sizes.size()];
                 Problem p = someProblem(*f, s, random);
-                const bool isLarge = repeat == 0 && threads < 8;
-                p.count = isLarge ? largeCount(*f, s) : std::max(countOfDriver(*f, s), threads) + pick(random, 0, 3);
+                p.count = std::max(countOfDriver(*f, s), threads) + pick(random, 0, 3);
                 p.threads = threads;
                 expectModel(*f, p);
                 if (HasFatalFailure()) return;
