@@ -1,14 +1,12 @@
 // Processor features by cpuid.
 
-#include <cpuid.h>
+#include "features.hpp"
 
-#include "vorcore/vorcore.h"
+#include <cpuid.h>
 
 namespace {
 
-struct Registers {
-    unsigned eax, ebx, ecx, edx;
-};
+using vorcore::Registers;
 
 Registers cpuid(unsigned leaf)
 {
@@ -17,34 +15,15 @@ Registers cpuid(unsigned leaf)
     return r;
 }
 
-// Whether the operating system saves the upper halves of the 256-bit registers.
-bool savesYmm(const Registers& leaf1)
+uint32_t xcr0(const Registers& leaf1)
 {
-    if (!(leaf1.ecx & bit_OSXSAVE)) return false;
-    unsigned low, high;
+    if (!(leaf1.ecx & bit_OSXSAVE)) return 0;
+    uint32_t low, high;
     __asm__("xgetbv" : "=a"(low), "=d"(high) : "c"(0));
-    return (low & 6) == 6;
+    return low;
 }
 
-uint64_t detect(const Registers& leaf1)
-{
-    uint64_t mask = 0;
-    const auto feature = [&](bool present, uint64_t bit) { mask |= present ? bit : 0; };
-    feature(leaf1.edx & bit_MMX, VorCpuMmx);
-    feature(leaf1.edx & bit_SSE, VorCpuSse);
-    feature(leaf1.edx & bit_SSE2, VorCpuSse2);
-    feature(leaf1.ecx & bit_SSE3, VorCpuSse3);
-    feature(leaf1.ecx & bit_SSSE3, VorCpuSsse3);
-    feature(leaf1.ecx & bit_SSE4_1, VorCpuSse41);
-    feature(leaf1.ecx & bit_SSE4_2, VorCpuSse42);
-    feature(leaf1.ecx & bit_POPCNT, VorCpuPopcnt);
-    if (savesYmm(leaf1)) {
-        feature(leaf1.ecx & bit_AVX, VorCpuAvx);
-        feature(leaf1.ecx & bit_FMA, VorCpuFma);
-        feature(cpuid(7).ebx & bit_AVX2, VorCpuAvx2);
-    }
-    return mask;
-}
+uint64_t detect(const Registers& leaf1) { return vorcore::featuresOf(leaf1, cpuid(7), xcr0(leaf1)); }
 
 }  // namespace
 

@@ -1,45 +1,55 @@
 // The number of threads a parallel call may use.
 
-#include <sched.h>
-#include <unistd.h>
+#include <pthread.h>
 
+#include <algorithm>
 #include <atomic>
+#include <cstdlib>
 
+#include "default_threads.hpp"
+#include "processors.hpp"
 #include "vorcore/vorcore.h"
 
 namespace {
 
-// The processors this process may run on; the mask grows until the kernel's fits, since machines
-// may have more processors than a cpu_set_t has bits.
-int32_t processors()
+// Each 0 where there is none: the next one holds then.
+thread_local int32_t threadsOfThread __attribute__((tls_model("initial-exec"))) = 0;  // never allocated late
+std::atomic<int32_t> threadsOfProcess{0};
+std::atomic<int32_t> threadsByDefault{0};
+
+int32_t askMachine()
 {
-    for (int size = CPU_SETSIZE; size <= 1 << 20; size *= 2) {
-        cpu_set_t* const mask = CPU_ALLOC(static_cast<size_t>(size));
-        if (!mask) break;
-        const size_t bytes = CPU_ALLOC_SIZE(static_cast<size_t>(size));
-        const bool known = sched_getaffinity(0, bytes, mask) == 0;
-        const int count = known ? CPU_COUNT_S(bytes, mask) : 0;
-        CPU_FREE(mask);
-        if (count > 0) return count;
-    }
-    const long online = sysconf(_SC_NPROCESSORS_ONLN);
-    return online > 0 ? static_cast<int32_t>(online) : 1;
+    const int32_t inMask = vorcore::processorsInMask(), inQuota = vorcore::processorsInQuota("");
+    return vorcore::defaultThreads(std::getenv("VORM_NUM_THREADS"), std::getenv("OMP_NUM_THREADS"),
+                                   inQuota ? std::min(inMask, inQuota) : inMask);
 }
 
-int32_t defaultThreads()
+// Asked without a lock, which a fork could leave locked in the child. The first answer stands.
+int32_t defaultNumber()
 {
-    static const int32_t threads = processors();
-    return threads;
+    int32_t known = threadsByDefault.load(std::memory_order_relaxed);
+    if (known) return known;
+    const int32_t answer = askMachine();
+    return threadsByDefault.compare_exchange_strong(known, answer, std::memory_order_relaxed) ? answer : known;
 }
 
-std::atomic<int32_t> chosenThreads{0};  // 0: the default
+// A child of fork has the parent's memory but none of its threads, and not every OpenMP runtime sees that.
+void startOfChild()
+{
+    threadsByDefault.store(1, std::memory_order_relaxed);
+    threadsOfProcess.store(0, std::memory_order_relaxed);
+    threadsOfThread = 0;
+}
+
+__attribute__((constructor)) void watchForks() { pthread_atfork(nullptr, nullptr, startOfChild); }
 
 }  // namespace
 
 extern "C" int32_t ownGetNumThreads(void)
 {
-    const int32_t chosen = chosenThreads.load(std::memory_order_relaxed);
-    return chosen ? chosen : defaultThreads();
+    if (threadsOfThread) return threadsOfThread;
+    const int32_t ofProcess = threadsOfProcess.load(std::memory_order_relaxed);
+    return ofProcess ? ofProcess : defaultNumber();
 }
 
 extern "C" int vorGetNumThreads(int32_t* threads)
@@ -52,6 +62,13 @@ extern "C" int vorGetNumThreads(int32_t* threads)
 extern "C" int vorSetNumThreads(int32_t threads)
 {
     if (threads < 0) return VorCoreBadArgument;
-    chosenThreads.store(threads, std::memory_order_relaxed);
+    threadsOfProcess.store(threads, std::memory_order_relaxed);
+    return VorCoreOk;
+}
+
+extern "C" int vorSetNumThreadsLocal(int32_t threads)
+{
+    if (threads < 0) return VorCoreBadArgument;
+    threadsOfThread = threads;
     return VorCoreOk;
 }

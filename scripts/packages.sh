@@ -9,11 +9,15 @@ ensurePackages()
     if [ ${#missing[@]} -eq 0 ]; then
         return 0
     fi
-    echo "Installing ${missing[*]}"
     local asRoot=()
     if [ "$(id -u)" -ne 0 ]; then
         asRoot=(sudo)
+        if ! command -v sudo >/dev/null; then
+            echo "Missing, and only root can install them: ${missing[*]}" >&2
+            return 1
+        fi
     fi
+    echo "Installing ${missing[*]}"
     "${asRoot[@]}" apt-get update -qq
     "${asRoot[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"
 }

@@ -38,11 +38,11 @@ const std::map<std::string, std::set<std::string>> gaps = {
 // The size of a source that has to be the inner size of a product, by the letter of the source.
 std::set<std::string> innerSizes(const Function& f)
 {
-    if (f.indexOf("src1Width") < 0) return {};
-    const auto kinds = f.operands();
-    return {kinds[0][0] == 'm' ? "src1Width" : "src1Height", kinds[1][0] == 'v'   ? "src2Len"
-                                                             : kinds[1][0] == 'm' ? "src2Height"
-                                                                                  : "src2Width"};
+    if (!f.isProduct()) return {};
+    const char kind1 = f.operands[0].kind, kind2 = f.operands[1].kind;
+    return {kind1 == 'm' ? "src1Width" : "src1Height", kind2 == 'v'   ? "src2Len"
+                                                       : kind2 == 'm' ? "src2Height"
+                                                                      : "src2Width"};
 }
 
 struct Spoilt {
@@ -155,6 +155,8 @@ TEST(Arguments, CatalogueIsRead)
     EXPECT_EQ(f.family + f.shape + f.type + f.layout, "Addvav32fL");
     EXPECT_EQ(f.parameters[1].operand, "src1");
     EXPECT_EQ(f.parameters.size(), 10u);
+    ASSERT_EQ(f.operands.size(), 3u);
+    EXPECT_TRUE(f.operands[0].isArray && f.operands[0].layout == "L" && !f.operands[1].isArray);
 }
 
 }  // namespace

@@ -59,6 +59,23 @@ TEST(Binary, NamesAndStartUp)
     EXPECT_TRUE(addresses.contains("vormMul_v3_32f"));
 }
 
+// What the library may grow to before somebody has to look.
+TEST(Binary, SizeOfTheCode)
+{
+#ifndef VORM_OPTIMISED
+    GTEST_SKIP() << "not an optimised build without sanitizers";
+#endif
+    constexpr long budget = 2800000;
+    std::istringstream lines(outputOf("size"));
+    std::string heading;
+    std::getline(lines, heading);
+    long text = 0;
+    lines >> text;
+    EXPECT_GT(text, 0) << heading;
+    EXPECT_LT(text, budget);
+    std::printf("%ld bytes, %.0f %% of the budget\n", text, 100.0 * double(text) / budget);
+}
+
 TEST(Binary, LayersOfEveryFunction)
 {
     const auto names = symbols("nm --defined-only", "tTdD");

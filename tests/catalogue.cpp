@@ -37,30 +37,85 @@ Parameter parameterFrom(const std::string& declaration)
 {
     Parameter p{};
     const auto nameAt = declaration.find_last_of(" *") + 1;
-    p.name = declaration.substr(nameAt);
+    p.name = p.operand = declaration.substr(nameAt);
+    p.isConst = declaration.starts_with("const");
+    p.isInteger = declaration.find("int ") != std::string::npos;
     const auto stars = std::count(declaration.begin(), declaration.end(), '*');
-    const auto endsIn = [&](std::string_view end) { return std::string_view(p.name).ends_with(end); };
-    std::string operand = p.name;
-    const auto without = [&](std::size_t tail) { operand.resize(operand.size() - tail); };
+    std::string& operand = p.operand;
+    const auto endsIn = [&](std::string_view end) {
+        if (!std::string_view(operand).ends_with(end)) return false;
+        operand.resize(operand.size() - end.size());
+        return true;
+    };
     if (stars > 0) {
         p.role = stars == 1 ? Role::pointer : Role::table;
         if (operand.size() > 1 && operand[0] == 'p' && (std::isupper(operand[1]) || operand[1] == 'p'))
             operand.erase(0, static_cast<std::size_t>(stars));
-        if (endsIn("Pointers")) without(8);
-        if (endsIn("List")) without(4);
+        if (stars > 1 && !endsIn("Pointers")) endsIn("List");
+        if (!endsIn("Vectors")) endsIn("Vector");  // dstVectors, dstVectorList: their strides are dst's
         operand[0] = static_cast<char>(std::tolower(operand[0]));
     } else if (declaration.starts_with("float") || declaration.starts_with("double")) {
         p.role = Role::value;
     } else if (endsIn("Shift")) {
-        p.role = Role::shift, without(5);
-    } else if (p.name.find("Stride") != std::string::npos) {
-        p.role = Role::stride, p.stride = p.name.back() - '0', without(7);
+        p.role = Role::shift;
+    } else if (endsIn("Stride0") || endsIn("Stride1") || endsIn("Stride2")) {
+        p.role = Role::stride, p.stride = p.name.back() - '0';
     } else {
         p.role = p.name == "count" ? Role::count : Role::size;
-        operand.clear();
+        if (!endsIn("Width") && !endsIn("Height")) endsIn("Len");
+        if (!operand.starts_with("src")) operand.clear();
     }
-    p.operand = operand;
     return p;
+}
+
+// The letters of a shape: "m4v3a" is an m of 4 and an array of v of 3, and "mm4x4" two m of 4.
+std::vector<Operand> operandsOfShape(const std::string& shape)
+{
+    std::vector<Operand> all;
+    for (char c : shape) {
+        if (c == 'x') break;
+        if (c == 'a')
+            all.back().isArray = true;
+        else if (std::isdigit(c))
+            all.back().fixed = c - '0';
+        else
+            all.push_back({.kind = c});
+    }
+    for (std::size_t k = all.size() - 1; k-- > 0;)
+        if (all[k].fixed == 0) all[k].fixed = all[k + 1].fixed;
+    return all;
+}
+
+// The sources take the letters of the shape in order, and the destination is a vector where the last of
+// them is one; what is not in the name is a vector of its own.
+void findOperands(Function& f)
+{
+    const auto letters = operandsOfShape(f.shape);
+    std::size_t next = 0;
+    for (const Parameter& p : f.parameters) {
+        if (p.role == Role::stride) f.operands[f.operandNamed(p.operand)].hasStride[p.stride] = true;
+        if (p.role != Role::pointer && p.role != Role::table && p.role != Role::value) continue;
+        Operand o;
+        if (p.operand == "val" || p.role == Role::value) {
+            for (const Operand& letter : letters)
+                if (letter.kind == 'c') o = letter;
+            o.kind = 'c';
+        } else if (p.operand.starts_with("src")) {
+            while (next < letters.size() && letters[next].kind == 'c') ++next;
+            o = next < letters.size() ? letters[next++] : letters.back();
+        } else if (p.operand == "dst") {
+            for (const Operand& letter : letters)
+                if (letter.kind != 'c') o = letter;
+            if (o.kind == 't') o.kind = 'm';
+            o.isArray = f.isArray();
+        } else {
+            o.isScratch = p.operand == "buffer";
+            o.isArray = letters[0].isArray && !o.isScratch;
+        }
+        o.name = p.operand, o.isInteger = p.isInteger, o.isWritten = p.role != Role::value && !p.isConst;
+        if (p.role == Role::table) o.layout = f.layout;
+        f.operands.push_back(o);
+    }
 }
 
 Function functionFrom(std::string name, std::string text, std::function<VormStatus(const std::vector<Argument>&)> call)
@@ -76,21 +131,17 @@ Function functionFrom(std::string name, std::string text, std::function<VormStat
     std::istringstream list(text.substr(1, text.size() - 2));
     for (std::string declaration; std::getline(list, declaration, ',');)
         f.parameters.push_back(parameterFrom(declaration.substr(declaration.find_first_not_of(' '))));
+    findOperands(f);
     return f;
 }
 
 }  // namespace
 
-std::vector<std::string> Function::operands() const
+std::size_t Function::operandNamed(std::string_view operand) const
 {
-    std::vector<std::string> kinds;
-    for (char c : shape) {
-        if (c == 'a')
-            kinds.back() += c;
-        else
-            kinds.emplace_back(1, c);
-    }
-    return kinds;
+    for (std::size_t k = 0; k < operands.size(); ++k)
+        if (operands[k].name == operand) return k;
+    throw std::out_of_range(name + ": " + std::string(operand));
 }
 
 int Function::indexOf(std::string_view parameter) const

@@ -1,101 +1,21 @@
-// The frame's own pieces: chunks of a team, scratch, wrapping arithmetic, views, lanes.
+// The frame's own pieces: wrapping arithmetic, views, lanes.
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <atomic>
 #include <bit>
 #include <climits>
 #include <cmath>
 #include <cstring>
 #include <limits>
-#include <set>
-#include <vector>
 
-#include "frame/checks.hpp"
+#include "frame/call.hpp"
 #include "frame/lanes.hpp"
 #include "frame/operands.hpp"
 #include "frame/small_vector.hpp"
-#include "frame/team.hpp"
-#include "standin_core.hpp"
 
 using namespace vorm;
 
 namespace {
-
-class Team : public testing::Test {
-protected:
-    ~Team() override { standinThreads = 1; }
-    static std::vector<Chunk> chunksOf(int threads, int count, std::size_t scratch = 0)
-    {
-        standinThreads = threads;
-        std::vector<Chunk> chunks(std::size_t(std::max(threads, 1)), Chunk{-1, 0, -1, nullptr});
-        const auto work = [&](const Chunk& chunk) {
-            chunks[std::size_t(chunk.thread)] = chunk;
-            if (chunk.scratch) std::memset(chunk.scratch, chunk.thread + 1, scratch);
-            return VormStatus{StatusOk};
-        };
-        EXPECT_EQ(inTeam<Kernels::cannotFail>(count, work, scratch), StatusOk);
-        return chunks;
-    }
-};
-
-TEST_F(Team, ContiguousChunksTheFirstOnesLarger)
-{
-    const int firsts[] = {0, 3, 6, 8}, objects[] = {3, 3, 2, 2};
-    const auto chunks = chunksOf(4, 10);
-    for (std::size_t t = 0; t < 4; ++t) {
-        EXPECT_EQ(chunks[t].first, firsts[t]);
-        EXPECT_EQ(chunks[t].objects, objects[t]);
-    }
-    for (int threads : {1, 2, 3, 5, 8})
-        for (int count = threads; count < 3 * threads + 2; ++count) {
-            int next = 0;
-            for (const Chunk& chunk : chunksOf(threads, count)) {
-                EXPECT_EQ(chunk.first, next);
-                next += chunk.objects;
-            }
-            EXPECT_EQ(next, count);
-        }
-}
-
-TEST_F(Team, OneCallWithoutAFork)
-{
-    for (int threads : {-1, 0, 1, 8}) {
-        const auto chunk = chunksOf(threads, 7, 16)[0];
-        EXPECT_EQ(chunk.first, 0);
-        EXPECT_EQ(chunk.objects, 7);
-        EXPECT_EQ(chunk.scratch, nullptr);
-    }
-}
-
-TEST_F(Team, ScratchForEachThread)
-{
-    const auto chunks = chunksOf(5, 50, 4096);
-    std::set<char*> stretches;
-    for (const Chunk& chunk : chunks) stretches.insert(chunk.scratch);
-    EXPECT_EQ(stretches.size(), 5u);
-    EXPECT_FALSE(stretches.contains(nullptr));
-    for (const Chunk& chunk : chunks) EXPECT_EQ(chunk.scratch - chunks[0].scratch, 4096 * chunk.thread);
-}
-
-TEST_F(Team, FailuresStopNoOtherChunk)
-{
-    standinThreads = 6;
-    std::atomic<int> done{0};
-    const auto failing = [&](std::set<int> threads) {
-        return inTeam<Kernels::canFail>(60, [&](const Chunk& chunk) {
-            ++done;
-            return VormStatus{threads.contains(chunk.thread) ? StatusSingular : StatusOk};
-        });
-    };
-    EXPECT_EQ(failing({}), StatusOk);
-    EXPECT_EQ(failing({3}), StatusSingular);
-    EXPECT_EQ(failing({0, 1, 2, 3, 4, 5}), StatusSingular);
-    EXPECT_EQ(done, 18);
-    standinThreads = 1;
-    EXPECT_EQ(failing({0}), StatusSingular);
-}
 
 TEST(Wrapping, As32Bits)
 {
@@ -105,7 +25,48 @@ TEST(Wrapping, As32Bits)
     EXPECT_TRUE((anyBadStride<double>(8, 4)));
     EXPECT_TRUE((anyBadStride<float>(4, INT_MIN)));
     EXPECT_FALSE((anyBadShift<float>(0, 4)));
-    EXPECT_FALSE((contiguous<float>(4, 8, 4)));
+}
+
+// What follows from the parts of a call: tests in order, contiguity, the arguments of a chunk and of one object.
+TEST(Calls, Parts)
+{
+    static float memory[100];
+    static int rows[30];
+    float* const p = memory;
+    const auto call = [&](const float* src, int stride0, int stride2, int len, int other, int count) {
+        return arrayCallOf<float>(workOf(7, 3), count, VectorArray{src, stride0, stride2}, ObjectTable{rows, 5},
+                                  Transposed{MatrixArray{p, 40, 20, 4}}, Size{len}, Fit{len, other});
+    };
+    EXPECT_EQ(tested(call(p, 12, 4, 3, 3, 2)), StatusOk);
+    EXPECT_EQ(tested(call(nullptr, 12, 4, 3, 3, 0)), StatusNullPointer);
+    EXPECT_EQ(tested(call(p, 12, 4, 0, 3, 0)), StatusBadCount);
+    EXPECT_EQ(tested(call(p, 12, 4, 0, 3, 2)), StatusBadSize);
+    EXPECT_EQ(tested(call(p, 10, 4, 3, 4, 2)), StatusSizeMismatch);
+    EXPECT_EQ(tested(call(p, 12, 0, 3, 3, 2)), StatusBadStride);
+    EXPECT_EQ(tested(inOrder<Tests<vorm::Test::stride, vorm::Test::count>>(call(p, 10, 4, 0, 3, 0))), StatusBadStride);
+    EXPECT_TRUE(isContiguous(call(p, 12, 4, 3, 3, 2)));
+    EXPECT_FALSE(isContiguous(call(p, 12, 8, 3, 3, 2)));
+
+    using Kernel = VormStatus(const float*, int, int, int*, float*, int, int, int, int, int);
+    static std::vector<std::ptrdiff_t> seen;
+    Kernel* const kernel = [](const float* src, int stride0, int stride2, int* table, float* dst, int, int, int,
+                              int len, int count) {
+        seen = {src - memory, stride0, stride2, table - rows, dst - memory, len, count};
+        return VormStatus{StatusOk};
+    };
+    call(p, 12, 8, 3, 3, 9).parts.with([&](const auto&... part) {
+        return withArguments(kernel, part.chunk(Chunk{2, 4, 1, nullptr})...);
+    });
+    EXPECT_EQ(seen, (std::vector<std::ptrdiff_t>{6, 12, 8, 10, 20, 3, 4}));
+
+    using Single = VormStatus(const float*, int, int*, float*, int, int, int);
+    Single* const single = [](const float* src, int, int* table, float* dst, int stride1, int, int len) {
+        seen.insert(seen.end(), {src - memory, table - rows, dst - memory, stride1, len});
+        return VormStatus{seen.size() < 10 ? StatusOk : StatusSingular};
+    };
+    seen.clear();
+    EXPECT_EQ(eachSingle(call(p, 12, 8, 3, 3, 4), single), StatusSingular);
+    EXPECT_EQ(seen, (std::vector<std::ptrdiff_t>{0, 0, 0, 20, 3, 3, 5, 10, 20, 3}));
 }
 
 // The address of every kind of operand, against the documented formula.

@@ -1,183 +1,266 @@
-// Operands described once, by role, and laid out in memory in any way a layout allows. Each operand
-// stands in memory of its own that ends, or begins, at an unmapped page; a shadow of that memory lets a
-// naive model run beside the call, so that afterwards every byte has to agree.
+// Operands laid out in memory in any way a layout allows, each for itself. An operand stands in memory of
+// its own that ends, or begins, at an unmapped page; a shadow of that memory lets a naive model run beside
+// the call, so that afterwards every byte has to agree.
 #pragma once
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <map>
 #include <memory>
-#include <random>
 #include <string>
 #include <vector>
 
 #include "catalogue.hpp"
 #include "guarded.hpp"
 
-using Random = std::mt19937_64;
-
-inline int pick(Random& random, int low, int high) { return std::uniform_int_distribution<int>(low, high)(random); }
-inline bool chance(Random& random, int percent) { return pick(random, 1, 100) <= percent; }
-
-// Values that show faults: zeros of both signs, infinities, NaN and denormals among ordinary numbers.
-template <class T>
-T someValue(Random& random)
-{
-    switch (pick(random, 0, 40)) {
-    case 0: return T(0);
-    case 1: return T(-0.0);
-    case 2: return std::numeric_limits<T>::infinity();
-    case 3: return -std::numeric_limits<T>::infinity();
-    case 4: return std::numeric_limits<T>::quiet_NaN();
-    case 5: return std::numeric_limits<T>::denorm_min() * T(pick(random, 1, 1000));
-    case 6: return std::numeric_limits<T>::max();
-    default: return T(std::uniform_real_distribution<double>(-8, 8)(random));
+// The same numbers with every standard library.
+class Random {
+public:
+    using result_type = std::uint64_t;
+    explicit Random(std::uint64_t seed) : state_(seed) {}
+    static constexpr result_type min() { return 0; }
+    static constexpr result_type max() { return ~result_type{0}; }
+    result_type operator()()  // splitmix64
+    {
+        std::uint64_t z = state_ += 0x9e3779b97f4a7c15;
+        z = (z ^ (z >> 30)) * 0xbf58476d1ce4e5b9;
+        z = (z ^ (z >> 27)) * 0x94d049bb133111eb;
+        return z ^ (z >> 31);
     }
+
+private:
+    std::uint64_t state_;
+};
+
+inline int pick(Random& random, int low, int high) { return low + int(random() % std::uint64_t(high - low + 1)); }
+inline bool chance(Random& random, int percent) { return pick(random, 1, 100) <= percent; }
+inline double uniform(Random& random, double low, double high)
+{
+    return low + double(random() >> 11) * 0x1p-53 * (high - low);
+}
+template <class Items>
+void shuffle(Items& items, Random& random)
+{
+    for (std::size_t i = items.size(); i > 1; --i) std::swap(items[i - 1], items[random() % i]);
 }
 
-// The memory of one operand and its shadow.
-struct Room {
-    explicit Room(std::size_t bytes) : memory(bytes) {}
+// The memory of operands and its shadow. Small rooms are used again, since mapping is slow; those of gigabytes
+// are sparse, their shadow too, and are not looked at as a whole.
+class Room {
+public:
+    explicit Room(std::size_t bytes) : isSparse_(bytes > 64u << 20), memory_(take(bytes)), shadow_(take(bytes)) {}
+    ~Room()
+    {
+        if (size() > 1u << 20) return;
+        for (auto* guarded : {&memory_, &shadow_}) unused()[(*guarded)->size()].push_back(std::move(*guarded));
+    }
+    Room(const Room&) = delete;
+    Room& operator=(const Room&) = delete;
+
+    char* data() const { return memory_->data(); }
+    char* shadow() const { return shadow_->data(); }
+    std::size_t size() const { return memory_->size(); }
+
     void fill(Random& random)
     {
-        for (std::size_t i = 0; i < memory.size(); i += 8) {
-            const auto word = random();
-            std::memcpy(memory.data() + i, &word, 8);
-        }
+        if (isSparse_) return;
+        static const std::vector<std::uint64_t> noise = [] {
+            Random source(99);
+            std::vector<std::uint64_t> words(8192);
+            for (auto& word : words) word = source();
+            return words;
+        }();
+        for (std::size_t at = 0; at < size(); at += 4096)
+            std::memcpy(data() + at, noise.data() + random() % (noise.size() - 512), 4096);
     }
-    void shade() { shadow.assign(memory.data(), memory.data() + memory.size()); }
-    bool agrees() const { return std::memcmp(memory.data(), shadow.data(), shadow.size()) == 0; }
+    bool isSparse() const { return isSparse_; }
 
-    Guarded memory;
-    std::vector<char> shadow;
+private:
+    using Memory = std::unique_ptr<Guarded>;
+    static std::map<std::size_t, std::vector<Memory>>& unused()
+    {
+        static std::map<std::size_t, std::vector<Memory>> rooms;
+        return rooms;
+    }
+    Memory take(std::size_t bytes) const
+    {
+        auto& kept = unused()[(bytes + 4095) / 4096 * 4096];
+        if (kept.empty()) return std::make_unique<Guarded>(bytes);
+        auto memory = std::move(kept.back());
+        kept.pop_back();
+        return memory;
+    }
+
+    bool isSparse_;
+    Memory memory_, shadow_;
 };
 
-// Where the elements of one operand are: element (n, e) at offset objects[n] + elements[e] of its room.
-template <class T>
-struct Placed {
-    std::shared_ptr<Room> room;
-    std::ptrdiff_t base = 0;
-    std::vector<std::ptrdiff_t> objects, elements;
-    int stride0 = 0, stride1 = 0, stride2 = 0, shift = 0;
-    std::vector<T*> table;  // of the list or pointer layout
-
-    std::ptrdiff_t offset(int n, int e) const
-    {
-        return base + objects[objects.size() == 1 ? 0 : std::size_t(n)] + elements[std::size_t(e)];
-    }
-    // In the shadow.
-    T get(int n, int e) const
-    {
-        T value;
-        std::memcpy(&value, room->shadow.data() + offset(n, e), sizeof value);
-        return value;
-    }
-    void set(int n, int e, T value) const { std::memcpy(room->shadow.data() + offset(n, e), &value, sizeof value); }
-    // In the memory itself.
-    T found(int n, int e) const
-    {
-        T value;
-        std::memcpy(&value, room->memory.data() + offset(n, e), sizeof value);
-        return value;
-    }
-    void put(int n, int e, T value) const { std::memcpy(room->memory.data() + offset(n, e), &value, sizeof value); }
-    // A NaN in the shadow stands for any NaN.
-    void acceptAnyNan(int count) const
-    {
-        for (int n = 0; n < count; ++n)
-            for (int e = 0; e < int(elements.size()); ++e)
-                if (std::isnan(get(n, e)) && std::isnan(found(n, e))) set(n, e, found(n, e));
-    }
-    bool unaligned() const { return base % std::ptrdiff_t(sizeof(T)) != 0; }
+struct Stored {  // the size of one object; a vector has one row
+    int rows = 1, columns = 1;
 };
+
+enum class Far { nothing, objects, rows, elements };  // what is about a gigabyte apart
 
 // How an operand is to lie. The defaults are packed and aligned at the end of a page.
 struct Lie {
-    int rows = 1, columns = 1;                // as stored; a vector has one row
-    int count = 0;                            // objects of an array, 0: a single object
-    std::string layout = {};                  // "", "L" or "P"
     int gap2 = 1;                             // stride2 in elements
     int padRow = 0, padObject = 0, slot = 0;  // elements behind rows and objects; objects at multiples of slot bytes
     bool planes = false;                      // pointer layout: a plane for each element, objects side by side
-    bool shuffled = false;                    // the order of the list's objects or of the table's planes
+    bool shuffled = false;                    // the order of a list's objects or of a table's planes or elements
     int overlapping = 0;                      // objects so few elements apart, 0 for a place of their own
+    int interleaved = 0;                      // objects so many rows apart, all of them between two rows of one,
+    int among = 0;                            // or only so many, which then overlap
+    bool isRepeated = false;                  // list: some objects are the same one
     bool atFront = false;                     // against the page before
     int misaligned = 0;                       // bytes between the operand and its page
     int shift = 0;
+    Far far = Far::nothing;
 };
 
-// A random way to lie for an operand of a layout.
-inline Lie someLie(Random& random, const std::string& layout, int rows, int columns, int count)
+// A random way to lie.
+inline Lie someLie(Random& random)
 {
-    Lie lie{.rows = rows, .columns = columns, .count = count, .layout = layout};
+    Lie lie;
     if (chance(random, 30)) lie.gap2 = pick(random, 2, 4);
     if (chance(random, 30)) lie.padRow = pick(random, 1, 3);
     if (chance(random, 40)) lie.padObject = pick(random, 1, 5);
     if (chance(random, 25)) lie.slot = 16;
     lie.planes = chance(random, 60);
-    lie.shuffled = chance(random, 60);
+    lie.shuffled = chance(random, 50);
     lie.atFront = chance(random, 30);
     if (chance(random, 30)) lie.misaligned = pick(random, 1, 15);
-    if (chance(random, 40)) lie.shift = pick(random, 1, 4) * 8;
+    if (chance(random, 50)) lie.shift = pick(random, 1, 5) * 8;
     return lie;
 }
 
-// Lays an operand out in a room, one of its own unless one is given. With `element` in bytes.
-template <class T>
-Placed<T> place(Random& random, const Lie& lie, std::shared_ptr<Room> room = nullptr)
-{
-    const auto e = std::ptrdiff_t(sizeof(T));
-    const int objects = std::max(lie.count, 1), stored = lie.rows * lie.columns;
-    Placed<T> p;
-    p.stride2 = int(e) * (lie.layout == "P" ? 1 : lie.gap2);
-    p.stride1 = p.stride2 * lie.columns + int(e) * lie.padRow;
-    std::ptrdiff_t objectBytes = std::ptrdiff_t{lie.rows - 1} * p.stride1 + std::ptrdiff_t{lie.columns} * p.stride2;
-    objectBytes += e * lie.padObject;
-    if (lie.slot) objectBytes = (objectBytes + lie.slot - 1) / lie.slot * lie.slot;
-    const bool planes = lie.layout == "P" && lie.planes && lie.count > 0;
-    p.stride0 = planes ? int(e) : lie.overlapping ? int(e) * lie.overlapping : int(objectBytes);
-    p.shift = lie.shift;
+// Where the elements of an operand are: element (n, e) at offset objects[n] + elements[e] from its base.
+struct Placed {
+    std::shared_ptr<Room> room;
+    std::ptrdiff_t base = 0;
+    std::vector<std::ptrdiff_t> objects, elements;
+    int stride[3] = {}, shift = 0;
+    int columns = 1;
+    std::shared_ptr<Room> table;  // of the list or pointer layout, at the end of its page
+    std::intptr_t tableAddress = 0;
 
-    std::vector<int> order(std::size_t(planes ? stored : objects));
+    std::ptrdiff_t offset(int n, int e) const
+    {
+        return base + objects[objects.size() == 1 ? 0 : std::size_t(n)] + elements[std::size_t(e)];
+    }
+    int count() const { return int(objects.size()); }
+    int size() const { return int(elements.size()); }
+    // In the shadow, and in the memory itself.
+    template <class T>
+    T get(int n, int e) const
+    {
+        return read<T>(room->shadow() + offset(n, e));
+    }
+    template <class T>
+    T found(int n, int e) const
+    {
+        return read<T>(room->data() + offset(n, e));
+    }
+    void set(int n, int e, auto value) const { std::memcpy(room->shadow() + offset(n, e), &value, sizeof value); }
+    void put(int n, int e, auto value) const { std::memcpy(room->data() + offset(n, e), &value, sizeof value); }
+    // Makes the shadow the same as the memory; of a sparse room only the elements, as in the comparison.
+    void shade(std::size_t e) const
+    {
+        eachStretch(e, [&](std::ptrdiff_t at, std::size_t bytes) {
+            std::memcpy(room->shadow() + at, room->data() + at, bytes);
+            return true;
+        });
+    }
+    bool agrees(std::size_t e) const
+    {
+        return eachStretch(e, [&](std::ptrdiff_t at, std::size_t bytes) {
+            return std::memcmp(room->shadow() + at, room->data() + at, bytes) == 0;
+        });
+    }
+    template <class Work>
+    bool eachStretch(std::size_t elementSize, const Work& work) const
+    {
+        if (!room->isSparse()) return work(0, room->size());
+        bool all = true;
+        for (int n = 0; n < count(); ++n)
+            for (int e = 0; e < size(); ++e) all = work(offset(n, e), elementSize) && all;
+        return all;
+    }
+    // Whether elements share memory.
+    bool overlapsItself(int e) const
+    {
+        std::vector<std::ptrdiff_t> all;
+        for (int n = 0; n < count(); ++n)
+            for (int i = 0; i < size(); ++i) all.push_back(offset(n, i));
+        std::sort(all.begin(), all.end());
+        return std::adjacent_find(all.begin(), all.end(), [&](auto a, auto b) { return b - a < e; }) != all.end();
+    }
+    template <class T>
+    static T read(const char* from)
+    {
+        T value;
+        std::memcpy(&value, from, sizeof value);
+        return value;
+    }
+    std::intptr_t address() const { return reinterpret_cast<std::intptr_t>(room->data() + base); }
+};
+
+// Lays out count objects of an operand, whose elements have e bytes. What it has no stride for is packed.
+inline Placed place(Random& random, const Operand& o, Stored stored, int count, int e, Lie lie)
+{
+    const bool inTable = o.layout == "P", isList = o.layout == "L" && o.isArray;
+    if (!inTable && !o.hasStride[2]) lie.gap2 = 1;
+    if (!inTable && !o.hasStride[1]) lie.padRow = 0;
+    if (!isList && !o.hasStride[0]) lie.padObject = lie.slot = lie.overlapping = lie.interleaved = 0;
+    const int number = o.isArray ? count : 1, size = stored.rows * stored.columns;
+    const bool planes = inTable && lie.planes && o.isArray;
+    constexpr int gigabyte = 1 << 30;
+
+    Placed p;
+    p.columns = stored.columns;
+    p.stride[2] = e * lie.gap2;
+    p.stride[1] = p.stride[2] * stored.columns + e * lie.padRow;
+    auto step = std::ptrdiff_t{stored.rows - 1} * p.stride[1] + std::ptrdiff_t{stored.columns} * p.stride[2];
+    step += e * lie.padObject;
+    if (lie.slot) step = (step + lie.slot - 1) / lie.slot * lie.slot;
+    if (planes) step = e;
+    if (lie.interleaved && !planes)
+        step = lie.interleaved * std::ptrdiff_t{p.stride[1]},
+        p.stride[1] = int(step) * (lie.among ? lie.among : number);
+    if (lie.overlapping) step = e * lie.overlapping;
+    if (lie.far == Far::objects) step = gigabyte + 7 * e;
+    if (lie.far == Far::rows) step = p.stride[1], p.stride[1] = gigabyte + 5 * e;
+    if (lie.far == Far::elements) p.stride[1] = e, step = e * stored.rows, p.stride[2] = gigabyte / 2 + 3 * e;
+    p.stride[0] = int(step);
+    if (!o.layout.empty()) p.shift = lie.shift;
+
+    std::vector<int> order(std::size_t(planes ? size : number));
     for (std::size_t i = 0; i < order.size(); ++i) order[i] = int(i);
-    if (lie.shuffled && (planes || lie.layout == "L")) std::shuffle(order.begin(), order.end(), random);
-    const std::ptrdiff_t planeBytes = e * (objects + lie.padObject);
-    for (int n = 0; n < objects; ++n)
-        p.objects.push_back(std::ptrdiff_t{p.stride0} * (planes ? n : order[std::size_t(n)]));
-    for (int i = 0; i < stored; ++i)
-        p.elements.push_back(planes ? order[std::size_t(i)] * planeBytes
-                                    : i / lie.columns * std::ptrdiff_t{p.stride1} +
-                                          i % lie.columns * std::ptrdiff_t{p.stride2});
-    if (lie.layout == "P" && !planes && lie.shuffled) std::shuffle(p.elements.begin(), p.elements.end(), random);
+    if (lie.shuffled && (planes || isList)) shuffle(order, random);
+    if (lie.isRepeated && isList)
+        for (int& object : order) object = pick(random, 0, number - 1);
+    const std::ptrdiff_t plane = e * (number + lie.padObject);
+    for (int n = 0; n < number; ++n) p.objects.push_back(step * (planes ? n : order[std::size_t(n)]));
+    for (int i = 0; i < size; ++i)
+        p.elements.push_back(planes ? order[std::size_t(i)] * plane
+                                    : i / stored.columns * std::ptrdiff_t{p.stride[1]} +
+                                          i % stored.columns * std::ptrdiff_t{p.stride[2]});
+    if (inTable && !planes && lie.shuffled) shuffle(p.elements, random);
 
     const auto span = *std::max_element(p.objects.begin(), p.objects.end()) +
                       *std::max_element(p.elements.begin(), p.elements.end()) + e;
-    if (!room) {
-        room = std::make_shared<Room>(std::size_t(span + lie.misaligned));
-        room->fill(random);
+    p.room = std::make_shared<Room>(std::size_t(span + lie.misaligned));
+    p.room->fill(random);
+    p.base = lie.atFront ? lie.misaligned : std::ptrdiff_t(p.room->size()) - span - lie.misaligned;
+    if (isList || inTable) {
+        const auto& entries = isList ? p.objects : p.elements;
+        const std::size_t bytes = entries.size() * sizeof(char*);
+        p.table = std::make_shared<Room>(bytes);
+        p.tableAddress = reinterpret_cast<std::intptr_t>(p.table->data() + p.table->size() - bytes);
+        for (std::size_t i = 0; i < entries.size(); ++i) {
+            char* const entry = p.room->data() + p.base + entries[i] - p.shift;
+            std::memcpy(p.table->data() + p.table->size() - bytes + i * sizeof entry, &entry, sizeof entry);
+        }
     }
-    p.room = room;
-    p.base = lie.atFront ? lie.misaligned : std::ptrdiff_t(room->memory.size()) - span - lie.misaligned;
-    for (int n = 0; n < objects; ++n)
-        for (int i = 0; i < stored; ++i) p.put(n, i, someValue<T>(random));
-
-    const auto entry = [&](std::ptrdiff_t offset) {
-        return reinterpret_cast<T*>(room->memory.data() + p.base + offset - lie.shift);
-    };
-    if (lie.layout == "L" && lie.count > 0)
-        for (auto offset : p.objects) p.table.push_back(entry(offset));
-    if (lie.layout == "P")
-        for (auto offset : p.elements) p.table.push_back(entry(offset));
     return p;
-}
-
-// The argument a function takes for a parameter of an operand that lies so.
-template <class T>
-Argument argumentFor(const Parameter& parameter, const Placed<T>& p)
-{
-    switch (parameter.role) {
-    case Role::pointer: return {p.room->memory.begin() + p.base};
-    case Role::table: return {reinterpret_cast<std::intptr_t>(p.table.data())};
-    case Role::shift: return {p.shift};
-    default: return {parameter.stride == 0 ? p.stride0 : parameter.stride == 1 ? p.stride1 : p.stride2};
-    }
 }

@@ -10,7 +10,7 @@
 
 extern "C" {
 
-std::atomic<int> standinThreads{1}, standinAsked{0};
+std::atomic<int> standinThreads{1}, standinLater{0}, standinAsked{0};
 char standinLoadCalls[64];
 
 int vorGetCpuFeatures(uint64_t* features, uint32_t* cpuidRegisters)
@@ -28,7 +28,7 @@ uint64_t vorGetEnabledCpuFeatures(void)
 
 int32_t ownGetNumThreads(void)
 {
-    ++standinAsked;
-    return standinThreads;
+    const int before = standinAsked++;
+    return before > 0 && standinLater != 0 ? standinLater : standinThreads;
 }
 }

@@ -6,16 +6,22 @@
 
 extern "C" {
 extern std::atomic<int> standinThreads;  // what ownGetNumThreads answers
+extern std::atomic<int> standinLater;    // and from the second question on, where this is not 0
 extern std::atomic<int> standinAsked;    // how often it was asked
 extern char standinLoadCalls[64];        // the calls made while libraries were loaded, a letter each
 }
 
 // How often a call asks for the threads where there are that many; outside of it there is one.
 template <class Call>
+int askedDuring(int threads, int later, const Call& call)
+{
+    standinThreads = threads, standinLater = later, standinAsked = 0;
+    call();
+    standinThreads = 1, standinLater = 0;
+    return standinAsked;
+}
+template <class Call>
 int askedDuring(int threads, const Call& call)
 {
-    standinThreads = threads, standinAsked = 0;
-    call();
-    standinThreads = 1;
-    return standinAsked;
+    return askedDuring(threads, 0, call);
 }

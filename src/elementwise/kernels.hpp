@@ -6,9 +6,10 @@
 #include "elementwise/packed.hpp"
 #include "elementwise/runs.hpp"
 #include "frame/minmax.hpp"
+#include "frame/overlap.hpp"
 #include "frame/planes.hpp"
 
-namespace vorm {
+namespace vorm::elementwise {
 
 // Elements side by side: the contiguous and the _L kernels. ---------------------------------------
 
@@ -210,4 +211,4 @@ VORM_INLINE VormStatus pointerObjects(const A& a, const B& b, const VectorArrayP
     return StatusOk;
 }
 
-}  // namespace vorm
+}  // namespace vorm::elementwise

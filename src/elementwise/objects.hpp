@@ -7,7 +7,7 @@
 #include "frame/operations.hpp"
 #include "frame/small_vector.hpp"
 
-namespace vorm {
+namespace vorm::elementwise {
 
 // An operand as whole vectors of type V. What all objects share is loaded once.
 template <class V, class View>
@@ -74,4 +74,4 @@ VORM_INLINE void eachElement(const A& a, const B& b, const D& dst, int len, int 
     }
 }
 
-}  // namespace vorm
+}  // namespace vorm::elementwise

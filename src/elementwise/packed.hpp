@@ -7,7 +7,7 @@
 #include "elementwise/objects.hpp"
 #include "elementwise/runs.hpp"
 
-namespace vorm {
+namespace vorm::elementwise {
 
 // Constants side by side, so that a register of them is one load.
 template <class T>
@@ -126,4 +126,4 @@ constexpr bool isRun<VectorArray<T, Adjacent>> = true;
 template <class T>
 constexpr bool isRun<Constant<T>> = true;
 
-}  // namespace vorm
+}  // namespace vorm::elementwise

@@ -5,7 +5,7 @@
 #include "frame/operands.hpp"
 #include "frame/operations.hpp"
 
-namespace vorm {
+namespace vorm::elementwise {
 
 // A source of a run: elements side by side, or one value everywhere.
 template <class T>
@@ -63,4 +63,4 @@ VORM_INLINE bool runsAsLoop(const T* src, const T* dst)
     return ahead - 1 >= sizeof(Lanes<T>) - 1;  // 0 and everything behind the source wrap to large values
 }
 
-}  // namespace vorm
+}  // namespace vorm::elementwise

@@ -2,10 +2,8 @@
 // the same with the operation turned round, dst[n][i] = val[n] - src[i].
 #pragma once
 
-#include "elementwise/kernels.hpp"
 #include "elementwise/layers.hpp"
-#include "frame/checks.hpp"
-#include "frame/team.hpp"
+#include "frame/call.hpp"
 
 // The operands by layout, in the order and with the names of the exported prototypes.
 #define VCA_PARAMS(T)                                                                                               \
@@ -21,126 +19,27 @@
         int len, int count
 #define VCA_ARGS_P ppSrc, srcShift, pVal, valStride0, ppDst, dstShift, dstStride0, len, count
 
-namespace vorm {
+namespace vorm::elementwise {
+
+constexpr Work vcaWork(int len, int count) { return workOf(wrapAdd(wrapMul(len, count), len, count), 250); }
 
 template <class T>
-using VcaLayer = VormStatus(VCA_PARAMS(T));
+VORM_INLINE auto vca(VCA_PARAMS(T))
+{
+    return arrayCallOf<T>(vcaWork(len, count), count, Vector{pSrc, srcStride2}, ConstantArray{pVal, valStride0},
+                          VectorArray{pDst, dstStride0, dstStride2}, Size{len});
+}
 template <class T>
-using VcaLayerL = VormStatus(VCA_PARAMS_L(T));
+VORM_INLINE auto vcaL(VCA_PARAMS_L(T))
+{
+    return arrayCallOf<T>(vcaWork(len, count), count, Vector{pSrc, srcStride2}, ConstantList{ppVal, valShift},
+                          VectorList{ppDst, dstShift, dstStride2}, Size{len});
+}
 template <class T>
-using VcaLayerP = VormStatus(VCA_PARAMS_P(T));
-
-// len count + len + count
-constexpr int vcaWork(int len, int count) { return wrapAdd(wrapMul(len, count), len, count); }
-
-// Public layers. ----------------------------------------------------------------------------------
-
-template <int teamLimit, class T>
-VORM_INLINE VormStatus vcaChecked(VcaLayer<T>* driver, VcaLayer<T>* kernel, VcaLayer<T>* kernelS2, VCA_PARAMS(T))
+VORM_INLINE auto vcaP(VCA_PARAMS_P(T))
 {
-    if (anyNull(pSrc, pVal, pDst)) return StatusNullPointer;
-    if (count < 1) return StatusBadCount;
-    if (len < 1) return StatusBadSize;
-    if (anyBadStride<T>(srcStride2, valStride0, dstStride0, dstStride2)) return StatusBadStride;
-
-    if (vcaWork(len, count) > teamLimit) return driver(VCA_ARGS);
-    if (contiguous<T>(srcStride2, dstStride2)) return kernel(VCA_ARGS);
-    return kernelS2(VCA_ARGS);
+    return arrayCallOf<T>(vcaWork(len, count), count, VectorPointers{ppSrc, srcShift}, ConstantArray{pVal, valStride0},
+                          VectorArrayPointers{ppDst, dstShift, dstStride0}, Size{len});
 }
 
-template <int teamLimit, class T>
-VORM_INLINE VormStatus vcaCheckedL(VcaLayerL<T>* driver, VcaLayerL<T>* kernel, VcaLayerL<T>* kernelS2, VCA_PARAMS_L(T))
-{
-    if (anyNull(pSrc, ppVal, ppDst)) return StatusNullPointer;
-    if (count < 1) return StatusBadCount;
-    if (len < 1) return StatusBadSize;
-    if (anyBadStride<T>(srcStride2, dstStride2)) return StatusBadStride;
-    if (anyBadShift<T>(valShift, dstShift)) return StatusBadShift;
-
-    if (vcaWork(len, count) > teamLimit) return driver(VCA_ARGS_L);
-    if (contiguous<T>(srcStride2, dstStride2)) return kernel(VCA_ARGS_L);
-    return kernelS2(VCA_ARGS_L);
-}
-
-template <int teamLimit, Untested untested = Untested::none, class T>
-VORM_INLINE VormStatus vcaCheckedP(VcaLayerP<T>* driver, VcaLayerP<T>* kernel, VCA_PARAMS_P(T))
-{
-    if (anyNull(ppSrc, pVal, ppDst)) return StatusNullPointer;
-    if (count < 1) return StatusBadCount;
-    if (len < 1) return StatusBadSize;
-    if (anyBadStride<T>(valStride0, dstStride0)) return StatusBadStride;
-    if (untested != Untested::shifts && anyBadShift<T>(srcShift, dstShift)) return StatusBadShift;
-
-    if (vcaWork(len, count) > teamLimit) return driver(VCA_ARGS_P);
-    return kernel(VCA_ARGS_P);
-}
-
-// Drivers. ----------------------------------------------------------------------------------------
-
-template <class T>
-VORM_INLINE VormStatus vcaTeam(VcaLayer<T>* contiguousKernel, VcaLayer<T>* kernelS2, VCA_PARAMS(T))
-{
-    auto* const kernel = contiguous<T>(srcStride2, dstStride2) ? contiguousKernel : kernelS2;
-    return inTeam<Kernels::cannotFail>(count, [=](const Chunk& chunk) {
-        return kernel(pSrc, srcStride2, advance(pVal, wrapMul(chunk.first, valStride0)), valStride0,
-                      advance(pDst, wrapMul(chunk.first, dstStride0)), dstStride0, dstStride2, len, chunk.objects);
-    });
-}
-
-template <class T>
-VORM_INLINE VormStatus vcaTeamL(VcaLayerL<T>* contiguousKernel, VcaLayerL<T>* kernelS2, VCA_PARAMS_L(T))
-{
-    auto* const kernel = contiguous<T>(srcStride2, dstStride2) ? contiguousKernel : kernelS2;
-    return inTeam<Kernels::cannotFail>(count, [=](const Chunk& chunk) {
-        return kernel(pSrc, srcStride2, ppVal + chunk.first, valShift, ppDst + chunk.first, dstShift, dstStride2, len,
-                      chunk.objects);
-    });
-}
-
-template <class T>
-VORM_INLINE VormStatus vcaTeamP(VcaLayerP<T>* kernel, VCA_PARAMS_P(T))
-{
-    return inTeam<Kernels::cannotFail>(count, [=](const Chunk& chunk) {
-        return kernel(ppSrc, srcShift, advance(pVal, wrapMul(chunk.first, valStride0)), valStride0, ppDst,
-                      wrapAdd(dstShift, wrapMul(chunk.first, dstStride0)), dstStride0, len, chunk.objects);
-    });
-}
-
-// Kernels. ----------------------------------------------------------------------------------------
-
-template <class Op, class T>
-VORM_INLINE VormStatus vcaContiguous(VCA_PARAMS(T))
-{
-    return contiguousObjects<Op>(Vector{pSrc, adjacent}, ConstantArray{pVal, valStride0},
-                                 VectorArray{pDst, dstStride0, adjacent}, len, count);
-}
-
-template <class Op, class T>
-VORM_INLINE VormStatus vcaContiguousL(VCA_PARAMS_L(T))
-{
-    return contiguousObjects<Op>(Vector{pSrc, adjacent}, ConstantList{ppVal, valShift},
-                                 VectorList{ppDst, dstShift, adjacent}, len, count);
-}
-
-template <class Op, class T>
-VORM_INLINE VormStatus vcaAnyStride(VCA_PARAMS(T))
-{
-    return anyStride<Op>(Vector{pSrc, srcStride2}, ConstantArray{pVal, valStride0},
-                         VectorArray{pDst, dstStride0, dstStride2}, len, count);
-}
-
-template <class Op, class T>
-VORM_INLINE VormStatus vcaAnyStrideL(VCA_PARAMS_L(T))
-{
-    return anyStride<Op>(Vector{pSrc, srcStride2}, ConstantList{ppVal, valShift},
-                         VectorList{ppDst, dstShift, dstStride2}, len, count);
-}
-
-template <class Op, class T>
-VORM_INLINE VormStatus vcaPointers(VCA_PARAMS_P(T))
-{
-    return pointerObjects<Op>(VectorPointers{ppSrc, srcShift}, ConstantArray{pVal, valStride0},
-                              VectorArrayPointers{ppDst, dstShift, dstStride0}, len, count);
-}
-
-}  // namespace vorm
+}  // namespace vorm::elementwise

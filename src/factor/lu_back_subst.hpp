@@ -3,9 +3,7 @@
 #pragma once
 
 #include "factor/layers.hpp"
-#include "factor/lu_solve_general.hpp"
-#include "frame/checks.hpp"
-#include "frame/team.hpp"
+#include "frame/call.hpp"
 
 // The operands by layout, in the order and with the names of the exported prototypes.
 #define LU_MV_PARAMS(T)                                                                                          \
@@ -53,340 +51,74 @@
     srcPointers, srcShift, srcStride0, pivotIndex, src2Pointers, src2Shift, src2Stride0, dstPointers, dstShift, \
         dstStride0, order, count
 
-namespace vorm {
+namespace vorm::factor {
 
-template <class T>
-using LuMvLayer = VormStatus(LU_MV_PARAMS(T));
-template <class T>
-using LuMvLayerP = VormStatus(LU_MV_PARAMS_P(T));
-template <class T>
-using LuMvaLayer = VormStatus(LU_MVA_PARAMS(T));
-template <class T>
-using LuMvaLayerL = VormStatus(LU_MVA_PARAMS_L(T));
-template <class T>
-using LuMvaLayerP = VormStatus(LU_MVA_PARAMS_P(T));
-template <class T>
-using LuMavaLayer = VormStatus(LU_MAVA_PARAMS(T));
-template <class T>
-using LuMavaLayerL = VormStatus(LU_MAVA_PARAMS_L(T));
-template <class T>
-using LuMavaLayerP = VormStatus(LU_MAVA_PARAMS_P(T));
+// The common matrix of mv and mva has its row numbers once.
+constexpr int sameRows = 0;
 
-// (2 count + order) order and (order + 2) order count; from here on a team
-constexpr int luMvaWork(int order, int count) { return wrapMul(wrapAdd(wrapMul(2, count), order), order); }
-constexpr int luMavaWork(int order, int count) { return wrapMul(wrapAdd(order, 2), order, count); }
-constexpr int luMvaTeamFrom = 701, luMavaTeamFrom = 1201;
-
-// Public layers. ----------------------------------------------------------------------------------
-
-template <class T>
-VORM_INLINE VormStatus luMvChecked(LuMvLayer<T>* kernel, LuMvLayer<T>* kernelS2, LU_MV_PARAMS(T))
+// (2 count + order) order and (order + 2) order count
+constexpr Work luMvaWork(int order, int count)
 {
-    if (anyNull(src, src2, dst, pivotIndex)) return StatusNullPointer;
-    if (order < 1) return StatusBadSize;
-    if (anyBadStride<T>(srcStride1, srcStride2, src2Stride2, dstStride2)) return StatusBadStride;
+    return workOf(wrapMul(wrapAdd(wrapMul(2, count), order), order), 1000);
+}
+constexpr Work luMavaWork(int order, int count) { return workOf(wrapMul(wrapAdd(order, 2), order, count), 1000); }
 
-    if (contiguous<T>(srcStride2, src2Stride2, dstStride2)) return kernel(LU_MV_ARGS);
-    return kernelS2(LU_MV_ARGS);
+template <class T>
+VORM_INLINE auto luMv(LU_MV_PARAMS(T))
+{
+    return callOf<T>(Matrix{src, srcStride1, srcStride2}, ObjectTable{pivotIndex, sameRows}, Vector{src2, src2Stride2},
+                     Vector{dst, dstStride2}, Size{order});
+}
+template <class T>
+VORM_INLINE auto luMvP(LU_MV_PARAMS_P(T))
+{
+    return callOf<T>(MatrixPointers{srcPointers, srcShift, order}, ObjectTable{pivotIndex, sameRows},
+                     VectorPointers{src2Pointers, src2Shift}, VectorPointers{dstPointers, dstShift}, Size{order});
 }
 
 template <class T>
-VORM_INLINE VormStatus luMvCheckedP(LuMvLayerP<T>* kernel, LU_MV_PARAMS_P(T))
+VORM_INLINE auto luMva(LU_MVA_PARAMS(T))
 {
-    if (anyNull(srcPointers, src2Pointers, dstPointers, pivotIndex)) return StatusNullPointer;
-    if (order < 1) return StatusBadSize;
-    if (anyBadShift<T>(srcShift, src2Shift, dstShift)) return StatusBadShift;
-
-    return kernel(LU_MV_ARGS_P);
+    return arrayCallOf<T>(luMvaWork(order, count), count, Matrix{src, srcStride1, srcStride2},
+                          ObjectTable{pivotIndex, sameRows}, VectorArray{src2, src2Stride0, src2Stride2},
+                          VectorArray{dst, dstStride0, dstStride2}, Size{order});
+}
+template <class T>
+VORM_INLINE auto luMvaL(LU_MVA_PARAMS_L(T))
+{
+    return arrayCallOf<T>(luMvaWork(order, count), count, Matrix{src, srcStride1, srcStride2},
+                          ObjectTable{pivotIndex, sameRows}, VectorList{src2List, src2Shift, src2Stride2},
+                          VectorList{dstList, dstShift, dstStride2}, Size{order});
+}
+template <class T>
+VORM_INLINE auto luMvaP(LU_MVA_PARAMS_P(T))
+{
+    return arrayCallOf<T>(luMvaWork(order, count), count, MatrixPointers{srcPointers, srcShift, order},
+                          ObjectTable{pivotIndex, sameRows}, VectorArrayPointers{src2Pointers, src2Shift, src2Stride0},
+                          VectorArrayPointers{dstPointers, dstShift, dstStride0}, Size{order});
 }
 
 template <class T>
-VORM_INLINE VormStatus luMvaChecked(LuMvaLayer<T>* driver, LuMvaLayer<T>* kernel, LuMvaLayer<T>* kernelS2,
-                                    LU_MVA_PARAMS(T))
+VORM_INLINE auto luMava(LU_MAVA_PARAMS(T))
 {
-    if (anyNull(src, src2, dst, pivotIndex)) return StatusNullPointer;
-    if (count < 1) return StatusBadCount;
-    if (order < 1) return StatusBadSize;
-    if (anyBadStride<T>(srcStride1, srcStride2, src2Stride0, src2Stride2, dstStride0, dstStride2))
-        return StatusBadStride;
-
-    if (luMvaWork(order, count) >= luMvaTeamFrom) return driver(LU_MVA_ARGS);
-    if (contiguous<T>(srcStride2, src2Stride2, dstStride2)) return kernel(LU_MVA_ARGS);
-    return kernelS2(LU_MVA_ARGS);
-}
-
-template <class T>
-VORM_INLINE VormStatus luMvaCheckedL(LuMvaLayerL<T>* driver, LuMvaLayerL<T>* kernel, LuMvaLayerL<T>* kernelS2,
-                                     LU_MVA_PARAMS_L(T))
-{
-    if (anyNull(src, src2List, dstList, pivotIndex)) return StatusNullPointer;
-    if (count < 1) return StatusBadCount;
-    if (order < 1) return StatusBadSize;
-    if (anyBadStride<T>(srcStride1, srcStride2, src2Stride2, dstStride2)) return StatusBadStride;
-    if (anyBadShift<T>(src2Shift, dstShift)) return StatusBadShift;
-
-    if (luMvaWork(order, count) >= luMvaTeamFrom) return driver(LU_MVA_ARGS_L);
-    if (contiguous<T>(srcStride2, src2Stride2, dstStride2)) return kernel(LU_MVA_ARGS_L);
-    return kernelS2(LU_MVA_ARGS_L);
-}
-
-template <class T>
-VORM_INLINE VormStatus luMvaCheckedP(LuMvaLayerP<T>* driver, LuMvaLayerP<T>* kernel, LU_MVA_PARAMS_P(T))
-{
-    if (anyNull(srcPointers, src2Pointers, dstPointers, pivotIndex)) return StatusNullPointer;
-    if (count < 1) return StatusBadCount;
-    if (order < 1) return StatusBadSize;
-    if (anyBadStride<T>(src2Stride0, dstStride0)) return StatusBadStride;
-    if (anyBadShift<T>(srcShift, src2Shift, dstShift)) return StatusBadShift;
-
-    if (luMvaWork(order, count) >= luMvaTeamFrom) return driver(LU_MVA_ARGS_P);
-    return kernel(LU_MVA_ARGS_P);
-}
-
-template <class T>
-VORM_INLINE VormStatus luMavaChecked(LuMavaLayer<T>* driver, LuMavaLayer<T>* kernel, LuMavaLayer<T>* kernelS2,
-                                     LU_MAVA_PARAMS(T))
-{
-    if (anyNull(src, src2, dst, pivotIndex)) return StatusNullPointer;
-    if (count < 1) return StatusBadCount;
-    if (order < 1) return StatusBadSize;
-    if (anyBadStride<T>(srcStride0, srcStride1, srcStride2, src2Stride0, src2Stride2, dstStride0, dstStride2))
-        return StatusBadStride;
-
-    if (luMavaWork(order, count) >= luMavaTeamFrom) return driver(LU_MAVA_ARGS);
-    if (contiguous<T>(srcStride2, src2Stride2, dstStride2)) return kernel(LU_MAVA_ARGS);
-    return kernelS2(LU_MAVA_ARGS);
-}
-
-template <class T>
-VORM_INLINE VormStatus luMavaCheckedL(LuMavaLayerL<T>* driver, LuMavaLayerL<T>* kernel, LuMavaLayerL<T>* kernelS2,
-                                      LU_MAVA_PARAMS_L(T))
-{
-    if (anyNull(srcList, src2List, dstList, pivotIndex)) return StatusNullPointer;
-    if (count < 1) return StatusBadCount;
-    if (order < 1) return StatusBadSize;
-    if (anyBadStride<T>(srcStride1, srcStride2, src2Stride2, dstStride2)) return StatusBadStride;
-    if (anyBadShift<T>(srcShift, src2Shift, dstShift)) return StatusBadShift;
-
-    if (luMavaWork(order, count) >= luMavaTeamFrom) return driver(LU_MAVA_ARGS_L);
-    if (contiguous<T>(srcStride2, src2Stride2, dstStride2)) return kernel(LU_MAVA_ARGS_L);
-    return kernelS2(LU_MAVA_ARGS_L);
-}
-
-template <class T>
-VORM_INLINE VormStatus luMavaCheckedP(LuMavaLayerP<T>* driver, LuMavaLayerP<T>* kernel, LU_MAVA_PARAMS_P(T))
-{
-    if (anyNull(srcPointers, src2Pointers, dstPointers, pivotIndex)) return StatusNullPointer;
-    if (count < 1) return StatusBadCount;
-    if (order < 1) return StatusBadSize;
-    if (anyBadStride<T>(srcStride0, src2Stride0, dstStride0)) return StatusBadStride;
-    if (anyBadShift<T>(srcShift, src2Shift, dstShift)) return StatusBadShift;
-
-    if (luMavaWork(order, count) >= luMavaTeamFrom) return driver(LU_MAVA_ARGS_P);
-    return kernel(LU_MAVA_ARGS_P);
-}
-
-// Drivers. The common matrix of mva stays, with its row numbers; those of mava advance with the objects. -
-
-template <class T>
-VORM_INLINE VormStatus luMvaTeam(LuMvaLayer<T>* contiguousKernel, LuMvaLayer<T>* kernelS2, LU_MVA_PARAMS(T))
-{
-    auto* const kernel = contiguous<T>(srcStride2, src2Stride2, dstStride2) ? contiguousKernel : kernelS2;
-    return inTeam<Kernels::cannotFail>(count, [=](const Chunk& chunk) {
-        return kernel(src, srcStride1, srcStride2, pivotIndex, advance(src2, wrapMul(chunk.first, src2Stride0)),
-                      src2Stride0, src2Stride2, advance(dst, wrapMul(chunk.first, dstStride0)), dstStride0, dstStride2,
-                      order, chunk.objects);
-    });
-}
-
-template <class T>
-VORM_INLINE VormStatus luMvaTeamL(LuMvaLayerL<T>* contiguousKernel, LuMvaLayerL<T>* kernelS2, LU_MVA_PARAMS_L(T))
-{
-    auto* const kernel = contiguous<T>(srcStride2, src2Stride2, dstStride2) ? contiguousKernel : kernelS2;
-    return inTeam<Kernels::cannotFail>(count, [=](const Chunk& chunk) {
-        return kernel(src, srcStride1, srcStride2, pivotIndex, src2List + chunk.first, src2Shift, src2Stride2,
-                      dstList + chunk.first, dstShift, dstStride2, order, chunk.objects);
-    });
-}
-
-template <class T>
-VORM_INLINE VormStatus luMvaTeamP(LuMvaLayerP<T>* kernel, LU_MVA_PARAMS_P(T))
-{
-    return inTeam<Kernels::cannotFail>(count, [=](const Chunk& chunk) {
-        return kernel(srcPointers, srcShift, pivotIndex, src2Pointers,
-                      wrapAdd(src2Shift, wrapMul(chunk.first, src2Stride0)), src2Stride0, dstPointers,
-                      wrapAdd(dstShift, wrapMul(chunk.first, dstStride0)), dstStride0, order, chunk.objects);
-    });
-}
-
-template <class T>
-VORM_INLINE VormStatus luMavaTeam(LuMavaLayer<T>* contiguousKernel, LuMavaLayer<T>* kernelS2, LU_MAVA_PARAMS(T))
-{
-    auto* const kernel = contiguous<T>(srcStride2, src2Stride2, dstStride2) ? contiguousKernel : kernelS2;
-    return inTeam<Kernels::cannotFail>(count, [=](const Chunk& chunk) {
-        return kernel(advance(src, wrapMul(chunk.first, srcStride0)), srcStride0, srcStride1, srcStride2,
-                      pivotIndex + wrapMul(chunk.first, order), advance(src2, wrapMul(chunk.first, src2Stride0)),
-                      src2Stride0, src2Stride2, advance(dst, wrapMul(chunk.first, dstStride0)), dstStride0, dstStride2,
-                      order, chunk.objects);
-    });
-}
-
-template <class T>
-VORM_INLINE VormStatus luMavaTeamL(LuMavaLayerL<T>* contiguousKernel, LuMavaLayerL<T>* kernelS2, LU_MAVA_PARAMS_L(T))
-{
-    auto* const kernel = contiguous<T>(srcStride2, src2Stride2, dstStride2) ? contiguousKernel : kernelS2;
-    return inTeam<Kernels::cannotFail>(count, [=](const Chunk& chunk) {
-        return kernel(srcList + chunk.first, srcShift, srcStride1, srcStride2, pivotIndex + wrapMul(chunk.first, order),
-                      src2List + chunk.first, src2Shift, src2Stride2, dstList + chunk.first, dstShift, dstStride2,
-                      order, chunk.objects);
-    });
-}
-
-template <class T>
-VORM_INLINE VormStatus luMavaTeamP(LuMavaLayerP<T>* kernel, LU_MAVA_PARAMS_P(T))
-{
-    return inTeam<Kernels::cannotFail>(count, [=](const Chunk& chunk) {
-        return kernel(srcPointers, wrapAdd(srcShift, wrapMul(chunk.first, srcStride0)), srcStride0,
-                      pivotIndex + wrapMul(chunk.first, order), src2Pointers,
-                      wrapAdd(src2Shift, wrapMul(chunk.first, src2Stride0)), src2Stride0, dstPointers,
-                      wrapAdd(dstShift, wrapMul(chunk.first, dstStride0)), dstStride0, order, chunk.objects);
-    });
-}
-
-// Kernels. The order's code is chosen once, outside the loop over the objects. ------------------------
-
-template <class T, class M, class B, class X>
-VORM_INLINE VormStatus luMvKernel(const M& matrix, const int* pivotIndex, const B& b, const X& dst, int order)
-{
-    switch (order) {
-    case 3: luSolveObject<3, T>(matrix, b, dst, 0, pivotIndex); break;
-    case 4: luSolveObject<4, T>(matrix, b, dst, 0, pivotIndex); break;
-    case 5: luSolveObject<5, T>(matrix, b, dst, 0, pivotIndex); break;
-    case 6: luSolveObject<6, T>(matrix, b, dst, 0, pivotIndex); break;
-    default: luSolveGeneral<T>(matrix, b, dst, 0, order, pivotIndex);
-    }
-    return StatusOk;
-}
-
-template <class T, class M, class B, class X>
-VORM_INLINE VormStatus luMvaKernel(const M& matrix, const int* pivotIndex, const B& b, const X& dst, int order,
-                                   int count)
-{
-    switch (order) {
-    case 3: luSolveVectors<3, T>(matrix, b, dst, pivotIndex, count); break;
-    case 4: luSolveVectors<4, T>(matrix, b, dst, pivotIndex, count); break;
-    case 5: luSolveVectors<5, T>(matrix, b, dst, pivotIndex, count); break;
-    case 6: luSolveVectors<6, T>(matrix, b, dst, pivotIndex, count); break;
-    default: luSolveVectorsGeneral<T>(matrix, b, dst, pivotIndex, order, count);
-    }
-    return StatusOk;
-}
-
-template <class T, class M, class B, class X>
-VORM_INLINE VormStatus luMavaKernel(const M& matrix, const int* pivotIndex, const B& b, const X& dst, int order,
-                                    int count)
-{
-    switch (order) {
-    case 3: luSolvePairs<3, T>(matrix, b, dst, pivotIndex, count); break;
-    case 4: luSolvePairs<4, T>(matrix, b, dst, pivotIndex, count); break;
-    case 5: luSolvePairs<5, T>(matrix, b, dst, pivotIndex, count); break;
-    case 6: luSolvePairs<6, T>(matrix, b, dst, pivotIndex, count); break;
-    default: luSolvePairsGeneral<T>(matrix, b, dst, pivotIndex, order, count);
-    }
-    return StatusOk;
-}
-
-template <class T>
-VORM_INLINE VormStatus luMvContiguous(LU_MV_PARAMS(T))
-{
-    return luMvKernel<T>(Matrix{src, srcStride1, adjacent}, pivotIndex, Vector{src2, adjacent}, Vector{dst, adjacent},
-                         order);
+    return arrayCallOf<T>(luMavaWork(order, count), count, MatrixArray{src, srcStride0, srcStride1, srcStride2},
+                          ObjectTable{pivotIndex, order}, VectorArray{src2, src2Stride0, src2Stride2},
+                          VectorArray{dst, dstStride0, dstStride2}, Size{order});
 }
 template <class T>
-VORM_INLINE VormStatus luMvAnyStride(LU_MV_PARAMS(T))
+VORM_INLINE auto luMavaL(LU_MAVA_PARAMS_L(T))
 {
-    return luMvKernel<T>(Matrix{src, srcStride1, srcStride2}, pivotIndex, Vector{src2, src2Stride2},
-                         Vector{dst, dstStride2}, order);
+    return arrayCallOf<T>(luMavaWork(order, count), count, MatrixList{srcList, srcShift, srcStride1, srcStride2},
+                          ObjectTable{pivotIndex, order}, VectorList{src2List, src2Shift, src2Stride2},
+                          VectorList{dstList, dstShift, dstStride2}, Size{order});
 }
 template <class T>
-VORM_INLINE VormStatus luMvPointers(LU_MV_PARAMS_P(T))
+VORM_INLINE auto luMavaP(LU_MAVA_PARAMS_P(T))
 {
-    return luMvKernel<T>(MatrixPointers{srcPointers, srcShift, order}, pivotIndex,
-                         VectorPointers{src2Pointers, src2Shift}, VectorPointers{dstPointers, dstShift}, order);
+    return arrayCallOf<T>(luMavaWork(order, count), count,
+                          MatrixArrayPointers{srcPointers, srcShift, srcStride0, order}, ObjectTable{pivotIndex, order},
+                          VectorArrayPointers{src2Pointers, src2Shift, src2Stride0},
+                          VectorArrayPointers{dstPointers, dstShift, dstStride0}, Size{order});
 }
 
-template <class T>
-VORM_INLINE VormStatus luMvaContiguous(LU_MVA_PARAMS(T))
-{
-    return luMvaKernel<T>(Matrix{src, srcStride1, adjacent}, pivotIndex, VectorArray{src2, src2Stride0, adjacent},
-                          VectorArray{dst, dstStride0, adjacent}, order, count);
-}
-template <class T>
-VORM_INLINE VormStatus luMvaContiguousL(LU_MVA_PARAMS_L(T))
-{
-    return luMvaKernel<T>(Matrix{src, srcStride1, adjacent}, pivotIndex, VectorList{src2List, src2Shift, adjacent},
-                          VectorList{dstList, dstShift, adjacent}, order, count);
-}
-template <class T>
-VORM_INLINE VormStatus luMvaAnyStride(LU_MVA_PARAMS(T))
-{
-    return luMvaKernel<T>(Matrix{src, srcStride1, srcStride2}, pivotIndex, VectorArray{src2, src2Stride0, src2Stride2},
-                          VectorArray{dst, dstStride0, dstStride2}, order, count);
-}
-template <class T>
-VORM_INLINE VormStatus luMvaAnyStrideL(LU_MVA_PARAMS_L(T))
-{
-    return luMvaKernel<T>(Matrix{src, srcStride1, srcStride2}, pivotIndex, VectorList{src2List, src2Shift, src2Stride2},
-                          VectorList{dstList, dstShift, dstStride2}, order, count);
-}
-template <class T>
-VORM_INLINE VormStatus luMvaPointers(LU_MVA_PARAMS_P(T))
-{
-    const MatrixPointers matrix{srcPointers, srcShift, order};
-    const VectorArrayPointers b{src2Pointers, src2Shift, src2Stride0};
-    const VectorArrayPointers x{dstPointers, dstShift, dstStride0};
-    if (order <= luLanesOrder && inPlanes(b) && storableAsPlanes(x, order, 1, count))
-        return luMvaKernel<T>(matrix, pivotIndex, asPlanes(b), asPlanes(x), order, count);
-    return luMvaKernel<T>(matrix, pivotIndex, b, x, order, count);
-}
-
-template <class T>
-VORM_INLINE VormStatus luMavaContiguous(LU_MAVA_PARAMS(T))
-{
-    return luMavaKernel<T>(MatrixArray{src, srcStride0, srcStride1, adjacent}, pivotIndex,
-                           VectorArray{src2, src2Stride0, adjacent}, VectorArray{dst, dstStride0, adjacent}, order,
-                           count);
-}
-template <class T>
-VORM_INLINE VormStatus luMavaContiguousL(LU_MAVA_PARAMS_L(T))
-{
-    return luMavaKernel<T>(MatrixList{srcList, srcShift, srcStride1, adjacent}, pivotIndex,
-                           VectorList{src2List, src2Shift, adjacent}, VectorList{dstList, dstShift, adjacent}, order,
-                           count);
-}
-template <class T>
-VORM_INLINE VormStatus luMavaAnyStride(LU_MAVA_PARAMS(T))
-{
-    return luMavaKernel<T>(MatrixArray{src, srcStride0, srcStride1, srcStride2}, pivotIndex,
-                           VectorArray{src2, src2Stride0, src2Stride2}, VectorArray{dst, dstStride0, dstStride2}, order,
-                           count);
-}
-template <class T>
-VORM_INLINE VormStatus luMavaAnyStrideL(LU_MAVA_PARAMS_L(T))
-{
-    return luMavaKernel<T>(MatrixList{srcList, srcShift, srcStride1, srcStride2}, pivotIndex,
-                           VectorList{src2List, src2Shift, src2Stride2}, VectorList{dstList, dstShift, dstStride2},
-                           order, count);
-}
-template <class T>
-VORM_INLINE VormStatus luMavaPointers(LU_MAVA_PARAMS_P(T))
-{
-    const MatrixArrayPointers matrices{srcPointers, srcShift, srcStride0, order};
-    const VectorArrayPointers b{src2Pointers, src2Shift, src2Stride0};
-    const VectorArrayPointers x{dstPointers, dstShift, dstStride0};
-    if (order <= luLanesOrder && inPlanes(matrices) && inPlanes(b) && storableAsPlanes(x, order, 1, count))
-        return luMavaKernel<T>(asPlanes(matrices), pivotIndex, asPlanes(b), asPlanes(x), order, count);
-    return luMavaKernel<T>(matrices, pivotIndex, b, x, order, count);
-}
-
-}  // namespace vorm
+}  // namespace vorm::factor

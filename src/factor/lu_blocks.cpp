@@ -4,26 +4,24 @@
 #include <cstdint>
 
 #include "factor/lu.hpp"
-#include "factor/lu_elimination.hpp"
 #include "factor/lu_solve_general.hpp"
 
-namespace vorm {
+namespace vorm::factor {
 namespace {
 
 // Row by row: lane k of a multiplier's row is the multiplier f, the lanes before keep x, those behind are y.
 template <int k>
 VORM_INLINE Lanes<float> withFactor(Lanes<float> x, Lanes<float> f, Lanes<float> y)
 {
-    const auto joined = [](__m128 low, __m128 high) VORM_INLINE_LAMBDA { return _mm_shuffle_ps(low, high, 0xe4); };
-    if constexpr (k == 0) return _mm_move_ss(y.v, f.v);
-    if constexpr (k == 1) return joined(_mm_unpacklo_ps(x.v, f.v), y.v);
-    if constexpr (k == 2) return joined(x.v, _mm_unpackhi_ps(f.v, y.v));
-    return _mm_movelh_ps(x.v, _mm_unpackhi_ps(x.v, f.v));
+    if constexpr (k == 0) return withFirst(f, y);
+    if constexpr (k == 1) return shuffle<0, 1, 2, 3>(interleaveLow(x, f), y);
+    if constexpr (k == 2) return shuffle<0, 1, 2, 3>(x, interleaveHigh(f, y));
+    if constexpr (k == 3) return lowPairs(x, interleaveHigh(x, f));
 }
 template <int k>
 VORM_INLINE Lanes<double> withFactor(Lanes<double> x, Lanes<double> f, Lanes<double> y)
 {
-    return k == 0 ? _mm_move_sd(y.v, f.v) : _mm_move_sd(f.v, x.v);
+    return k == 0 ? withFirst(f, y) : withFirst(x, f);
 }
 
 // Lane k of each.
@@ -31,27 +29,25 @@ template <int k>
 VORM_INLINE Lanes<float> lanesOf(const Lanes<float> (&x)[4])
 {
     const auto pair = [](Lanes<float> a, Lanes<float> b)
-                          VORM_INLINE_LAMBDA { return k < 2 ? _mm_unpacklo_ps(a.v, b.v) : _mm_unpackhi_ps(a.v, b.v); };
-    const __m128 low = pair(x[0], x[1]), high = pair(x[2], x[3]);
-    return k % 2 == 0 ? _mm_movelh_ps(low, high) : _mm_movehl_ps(high, low);
+                          VORM_INLINE_LAMBDA { return k < 2 ? interleaveLow(a, b) : interleaveHigh(a, b); };
+    const Lanes<float> front = pair(x[0], x[1]), back = pair(x[2], x[3]);
+    return k % 2 == 0 ? lowPairs(front, back) : highPairs(front, back);
 }
 template <int k>
 VORM_INLINE Lanes<double> lanesOf(const Lanes<double> (&x)[2])
 {
-    return k == 0 ? _mm_unpacklo_pd(x[0].v, x[1].v) : _mm_unpackhi_pd(x[0].v, x[1].v);
+    return k == 0 ? interleaveLow(x[0], x[1]) : interleaveHigh(x[0], x[1]);
 }
 
 // Finds the pivots of a column as its elements go by, row after row: lane by lane the first of the largest.
 template <class T>
 struct PivotSearch {
-    Lanes<T> largest;
-    __m128i rows;
-    VORM_INLINE PivotSearch(Lanes<T> element, int row) : largest(abs(element)), rows(bitsOf(rowNumber<T>(row).v)) {}
+    Lanes<T> largest, rows;
+    VORM_INLINE PivotSearch(Lanes<T> element, int row) : largest(abs(element)), rows(Lanes<T>::integer(row)) {}
     VORM_INLINE void see(Lanes<T> element, int row)
     {
         const Lanes<T> magnitude = abs(element);
-        const __m128i displaced = bitsOf((magnitude > largest).bits);
-        rows = _mm_max_epi16(rows, _mm_and_si128(displaced, bitsOf(rowNumber<T>(row).v)));
+        rows = largerInteger(rows, where(magnitude > largest, Lanes<T>::integer(row)));
         largest = larger(magnitude, largest);
     }
 };
@@ -92,12 +88,12 @@ bool luFactoriseRows(Lanes<T>* a, int* order, int n)
         constexpr int nextLane = (lane + 1) % width, next = lane + 1 < width ? j : j + 1;
         if (k >= n - 1) return true;
         if (any(search.largest <= epsilon)) return false;
-        int numbers[4];
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(numbers), search.rows);
+        Integer<T> numbers[width];
+        storeIntegers(search.rows, numbers);
         const Lanes<T>* pivotRows[width];
         Lanes<T> pivots[width], reciprocals[width];
         for (int l = 0; l < width; ++l) {
-            rows[l].exchange(k, numbers[l * (4 / width)]);
+            rows[l].exchange(k, static_cast<int>(numbers[l]));
             pivotRows[l] = objects[l] + rows[l][k] * registers;
             pivots[l] = pivotRows[l][j];
         }
@@ -144,14 +140,14 @@ int luFactorise(LuBlock<n, Number>& lu)
 template <class T>
 bool luFactorise(Lanes<T>* a, int* order, int n)
 {
-    switch (luRegistersOf<T>(n)) {
+    switch (registersOf<T>(n)) {
     case 1: return luFactoriseRows<1>(a, order, n);
     case 2: return luFactoriseRows<2>(a, order, n);
     case 3: return luFactoriseRows<3>(a, order, n);
     case 4: return luFactoriseRows<4>(a, order, n);
     default: break;
     }
-    if constexpr (Lanes<T>::width == 2) switch (luRegistersOf<T>(n)) {
+    if constexpr (Lanes<T>::width == 2) switch (registersOf<T>(n)) {
         case 5: return luFactoriseRows<5>(a, order, n);
         case 6: return luFactoriseRows<6>(a, order, n);
         case 7: return luFactoriseRows<7>(a, order, n);
@@ -163,55 +159,50 @@ bool luFactorise(Lanes<T>* a, int* order, int n)
 template bool luFactorise(Lanes<float>* a, int* order, int n);
 template bool luFactorise(Lanes<double>* a, int* order, int n);
 
-// Sums of up to luLanesOrder - 1 products, from zero, whose number of terms is known: loops over so few
-// terms cost as much as the terms. Eight terms go to sums of their own, as sumOfProducts has it. Several
-// registers of vectors are summed up at once, as every sum waits for its last unknown.
-template <int several, class T>
-struct Sums {
-    Lanes<T> total[several];
-};
-template <int terms, int several, class T>
-Sums<several, T> sumsOf(const Lanes<T>* row, const Lanes<T>* x)
+namespace {
+
+// Sums of up to bufferedOrder - 1 products, from zero, whose number of terms is known: loops over so few
+// terms cost as much as the terms. Eight terms go to sums of their own, as sumOfProducts has it.
+template <int terms, class Factor, class Number>
+Number sumOf(const Factor* row, const Number* x)
 {
     static_assert(terms < 16);
     constexpr int group = terms >= 8 ? 8 : 0;
-    Sums<several, T> sums;
-    auto& total = sums.total;
-    for (int r = 0; r < several; ++r) {
-        const auto term = [&](int j) VORM_INLINE_LAMBDA { return Lanes<T>(T(0)) + row[j] * x[j * several + r]; };
-        total[r] = T(0);
-        if constexpr (group == 8)
-            total[r] = ((term(0) + term(1)) + (term(2) + term(3))) + ((term(4) + term(5)) + (term(6) + term(7)));
+    const Number zero = Factor(Element<Number>(0));
+    Number total = zero;
+    if constexpr (group == 8) {
+        const auto term = [&](int j) VORM_INLINE_LAMBDA { return zero + row[j] * x[j]; };
+        total = ((term(0) + term(1)) + (term(2) + term(3))) + ((term(4) + term(5)) + (term(6) + term(7)));
     }
-    unrolled<terms - group>([&](auto j) VORM_INLINE_LAMBDA {
-        for (int r = 0; r < several; ++r) total[r] = total[r] + row[group + j] * x[(group + j) * several + r];
-    });
-    return sums;
+    unrolled<terms - group>([&](auto j) VORM_INLINE_LAMBDA { total = total + row[group + j] * x[group + j]; });
+    return total;
 }
-template <class T, int several, int... terms>
+template <class Factor, class Number, int... terms>
 constexpr auto sumsByTerms(std::integer_sequence<int, terms...>)
 {
-    return std::array{sumsOf<terms, several, T>...};
+    return std::array{sumOf<terms, Factor, Number>...};
 }
 
-template <int several, class T>
-void luSubstitute(const Lanes<T>* lu, Lanes<T>* x, int n)
+}  // namespace
+
+template <class Factor, class Number>
+void luSubstituteBuffered(const Factor* lu, Number* x, int n)
 {
-    static constexpr auto byTerms = sumsByTerms<T, several>(std::make_integer_sequence<int, luLanesOrder>{});
-    for (int i = 1; i < n; ++i) {
-        const auto sums = byTerms[std::size_t(i)](lu + i * n, x);
-        for (int r = 0; r < several; ++r) x[i * several + r] = x[i * several + r] - sums.total[r];
-    }
-    for (int r = 0; r < several; ++r) x[(n - 1) * several + r] = x[(n - 1) * several + r] / lu[n * n - 1];
-    for (int i = n - 2; i >= 0; --i) {
-        const auto sums = byTerms[std::size_t(n - 1 - i)](lu + i * n + i + 1, x + (i + 1) * several);
-        for (int r = 0; r < several; ++r) x[i * several + r] = (x[i * several + r] - sums.total[r]) / lu[i * n + i];
-    }
+    static constexpr auto byTerms = sumsByTerms<Factor, Number>(std::make_integer_sequence<int, bufferedOrder>{});
+    for (int i = 1; i < n; ++i) x[i] = x[i] - byTerms[std::size_t(i)](lu + i * n, x);
+    x[n - 1] = x[n - 1] / lu[n * n - 1];
+    for (int i = n - 2; i >= 0; --i)
+        x[i] = (x[i] - byTerms[std::size_t(n - 1 - i)](lu + i * n + i + 1, x + i + 1)) / lu[i * n + i];
 }
-template void luSubstitute<1>(const Lanes<float>* lu, Lanes<float>* x, int n);
-template void luSubstitute<1>(const Lanes<double>* lu, Lanes<double>* x, int n);
-template void luSubstitute<luRegisters>(const Lanes<float>* lu, Lanes<float>* x, int n);
-template void luSubstitute<luRegisters>(const Lanes<double>* lu, Lanes<double>* x, int n);
+
+#define LU_SUBSTITUTE(Factor, Number) template void luSubstituteBuffered(const Factor* lu, Number* x, int n);
+#define LU_SUBSTITUTES(T)                   \
+    LU_SUBSTITUTE(Lanes<T>, Lanes<T>)       \
+    LU_SUBSTITUTE(Lanes<T>, LuOneMatrix<T>) \
+    LU_SUBSTITUTE(LuOwnMatrices<T>, LuOwnMatrices<T>)
+
+LU_SUBSTITUTES(float)
+LU_SUBSTITUTES(double)
 
 #define LU_BLOCKS(n, T)                                  \
     template int luFactorise<false>(LuBlock<n, T> & lu); \
@@ -225,4 +216,4 @@ template int luFactorise<true>(LuBlock<5, Lanes<float>>& lu);
 template int luFactorise<true>(LuBlock<5, Lanes<double>>& lu);
 template int luFactorise<true>(LuBlock<6, Lanes<float>>& lu);
 
-}  // namespace vorm
+}  // namespace vorm::factor

@@ -7,63 +7,36 @@
 #include "frame/lanes.hpp"
 #include "frame/unrolled.hpp"
 
-namespace vorm {
+namespace vorm::factor {
 
 // One object or a register of them: matrices in logical row order, and the source row each row came from,
 // whose number in lanes is bits that are only moved.
 template <int n, class Number>
 struct LuBlock {
     Number a[n][n];
-    std::conditional_t<std::is_arithmetic_v<Number>, int, Number> rows[n];
+    std::conditional_t<inLanes<Number>, Number, int> rows[n];
 };
 
 // A pivot below this is singular: 2^-125 and 2^-1021. Single precision orders the magnitudes as
 // double precision would, denormals and NaN included, since widening is exact.
 template <class T>
 constexpr T tiny = sizeof(T) == sizeof(float) ? T(0x1p-125) : T(0x1p-1021);
-template <class T>
-VORM_INLINE T tinyFor(T)
-{
-    return tiny<T>;
-}
-template <class T>
-VORM_INLINE Lanes<T> tinyFor(Lanes<T>)
-{
-    return tiny<T>;
-}
 
-inline __m128 both(__m128 a, __m128 b) { return _mm_and_ps(a, b); }
-inline __m128d both(__m128d a, __m128d b) { return _mm_and_pd(a, b); }
-inline __m128 either(__m128 a, __m128 b) { return _mm_or_ps(a, b); }
-inline __m128d either(__m128d a, __m128d b) { return _mm_or_pd(a, b); }
-inline __m128 differing(__m128 a, __m128 b) { return _mm_xor_ps(a, b); }
-inline __m128d differing(__m128d a, __m128d b) { return _mm_xor_pd(a, b); }
-inline __m128 without(__m128 a, __m128 b) { return _mm_andnot_ps(b, a); }
-inline __m128d without(__m128d a, __m128d b) { return _mm_andnot_pd(b, a); }
-inline __m128i bitsOf(__m128 a) { return _mm_castps_si128(a); }
-inline __m128i bitsOf(__m128d a) { return _mm_castpd_si128(a); }
-
-// Row numbers in lanes, as bits.
-template <class T>
-VORM_INLINE Lanes<T> rowNumber(int r)
+// A row number, as the lanes of objects have it.
+template <class Number>
+VORM_INLINE void number(Number& to, int row)
 {
-    if constexpr (Lanes<T>::width == 4)
-        return _mm_castsi128_ps(_mm_set1_epi32(r));
+    if constexpr (std::is_same_v<Number, int>)
+        to = row;
     else
-        return _mm_castsi128_pd(_mm_set1_epi64x(r));
+        to = Number::integer(row);
 }
-template <class T>
-VORM_INLINE Lanes<T> numbered(Lanes<T>, int r)
-{
-    return rowNumber<T>(r);
-}
-VORM_INLINE int numbered(int, int r) { return r; }
 
 // 1 / pivot, whose division need not wait for the pivot: the sign is all that the magnitude lacks.
-template <class T>
-VORM_INLINE Lanes<T> reciprocalOf(Lanes<T> pivot, Lanes<T> magnitude)
+template <class T, int W>
+VORM_INLINE Lanes<T, W> reciprocalOf(Lanes<T, W> pivot, Lanes<T, W> magnitude)
 {
-    return timesSignOf(Lanes<T>(T(1)) / magnitude, pivot);
+    return timesSignOf(Lanes<T, W>(T(1)) / magnitude, pivot);
 }
 
 // The pivots of step k, the first of the largest magnitudes of a column from row k on: finds them and lets row k and
@@ -89,40 +62,40 @@ struct Pivot {
 
 // Lane by lane, without a branch or an address that depends on the pivots: every row is looked at, and
 // changes places in the lanes whose pivot it is.
-template <int n, class T>
-struct Pivot<n, Lanes<T>> {
-    using Bits = decltype(LaneMask<T>::bits);
-    Bits is[n];
-    Lanes<T> magnitude;
+template <int n, class T, int W>
+struct Pivot<n, Lanes<T, W>> {
+    using Number = Lanes<T, W>;
+    typename Number::Mask is[n];
+    Number magnitude;
     template <int k, class Element>
     VORM_INLINE void find(const Element& element)
     {
         magnitude = abs(element(k));
         for (int i = k + 1; i < n; ++i) {
-            const Lanes<T> other = abs(element(i));
-            is[i] = (other > magnitude).bits;
+            const Number other = abs(element(i));
+            is[i] = other > magnitude;
             magnitude = larger(other, magnitude);
         }
-        Bits later = is[n - 1];  // the last one to displace the largest is the pivot
+        auto later = is[n - 1];  // the last one to displace the largest is the pivot
         for (int i = n - 2; i > k; --i) {
-            const Bits own = is[i];
+            const auto own = is[i];
             is[i] = without(own, later);
-            later = either(later, own);
+            later = later | own;
         }
     }
     template <int k, class Element>
     VORM_INLINE void exchange(const Element& element) const
     {
-        const auto top = element(k).v;
-        auto changes = differing(top, top);
+        const Number top = element(k);
+        Number changes;
         for (int i = k + 1; i < n; ++i) {
-            const auto change = both(is[i], differing(top, element(i).v));
-            element(i) = differing(element(i).v, change);
-            changes = i == k + 1 ? change : either(changes, change);
+            const Number change = difference(is[i], top, element(i));
+            element(i) = changed(element(i), change);
+            changes = i == k + 1 ? change : united(changes, change);
         }
-        element(k) = differing(top, changes);
+        element(k) = changed(top, changes);
     }
-    VORM_INLINE Lanes<T> reciprocal(Lanes<T> pivot) const { return reciprocalOf(pivot, magnitude); }
+    VORM_INLINE Number reciprocal(Number pivot) const { return reciprocalOf(pivot, magnitude); }
 };
 
 // Factorises a block in place, until a pivot is singular in any of its objects. Returns how many rows
@@ -134,11 +107,11 @@ template <bool rowsStay, int n, class Number>
 VORM_INLINE int luFactoriseHere(LuBlock<n, Number>& lu)
 {
     auto& a = lu.a;
-    for (int r = 0; r < n; ++r) lu.rows[r] = numbered(lu.rows[r], r);
+    for (int r = 0; r < n; ++r) number(lu.rows[r], r);
     Pivot<n, Number> pivots[n - 1];
     int passed = 0;
     const auto passes = [&](Number magnitude) VORM_INLINE_LAMBDA {
-        if (any(magnitude < tinyFor(magnitude))) return false;
+        if (any(magnitude < Number(tiny<Element<Number>>))) return false;
         ++passed;
         return true;
     };
@@ -189,4 +162,4 @@ VORM_INLINE int luFactoriseHere(LuBlock<n, Number>& lu)
     return passed;
 }
 
-}  // namespace vorm
+}  // namespace vorm::factor

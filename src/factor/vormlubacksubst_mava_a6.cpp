@@ -1,12 +1,15 @@
 // vormLUBackSubst_mava: the kernels for contiguous elements, single precision.
 
-#include "factor/lu_back_subst.hpp"
+#include "factor/lu_back_subst_kernels.hpp"
 
 using namespace vorm;
+using namespace vorm::factor;
 
 extern "C" {
 
-VormStatus n8_ownvormLUBackSubst_mava_32f(LU_MAVA_PARAMS(float)) { return luMavaContiguous(LU_MAVA_ARGS); }
-VormStatus n8_ownvormLUBackSubst_mava_32f_L(LU_MAVA_PARAMS_L(float)) { return luMavaContiguousL(LU_MAVA_ARGS_L); }
-
+VormStatus n8_ownvormLUBackSubst_mava_32f(LU_MAVA_PARAMS(float)) { return contiguousKernel(luMava(LU_MAVA_ARGS)); }
+VormStatus n8_ownvormLUBackSubst_mava_32f_L(LU_MAVA_PARAMS_L(float))
+{
+    return contiguousKernel(luMavaL(LU_MAVA_ARGS_L));
+}
 }

@@ -1,12 +1,15 @@
 // vormLUBackSubst_mava: the kernels for contiguous elements, double precision.
 
-#include "factor/lu_back_subst.hpp"
+#include "factor/lu_back_subst_kernels.hpp"
 
 using namespace vorm;
+using namespace vorm::factor;
 
 extern "C" {
 
-VormStatus n8_ownvormLUBackSubst_mava_64f(LU_MAVA_PARAMS(double)) { return luMavaContiguous(LU_MAVA_ARGS); }
-VormStatus n8_ownvormLUBackSubst_mava_64f_L(LU_MAVA_PARAMS_L(double)) { return luMavaContiguousL(LU_MAVA_ARGS_L); }
-
+VormStatus n8_ownvormLUBackSubst_mava_64f(LU_MAVA_PARAMS(double)) { return contiguousKernel(luMava(LU_MAVA_ARGS)); }
+VormStatus n8_ownvormLUBackSubst_mava_64f_L(LU_MAVA_PARAMS_L(double))
+{
+    return contiguousKernel(luMavaL(LU_MAVA_ARGS_L));
+}
 }

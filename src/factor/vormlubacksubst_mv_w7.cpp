@@ -1,11 +1,11 @@
 // vormLUBackSubst_mv: the kernel for contiguous elements, double precision.
 
-#include "factor/lu_back_subst.hpp"
+#include "factor/lu_back_subst_kernels.hpp"
 
 using namespace vorm;
+using namespace vorm::factor;
 
 extern "C" {
 
-VormStatus n8_ownvormLUBackSubst_mv_64f(LU_MV_PARAMS(double)) { return luMvContiguous(LU_MV_ARGS); }
-
+VormStatus n8_ownvormLUBackSubst_mv_64f(LU_MV_PARAMS(double)) { return contiguousKernel(luMv(LU_MV_ARGS)); }
 }

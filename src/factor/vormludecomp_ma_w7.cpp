@@ -1,18 +1,18 @@
 // vormLUDecomp_ma: the kernels for contiguous elements, double precision.
 
-#include "factor/lu_decomp.hpp"
+#include "factor/lu_decomp_kernels.hpp"
 
 using namespace vorm;
+using namespace vorm::factor;
 
 extern "C" {
 
 VormStatus n8_ownvormLUDecomp_ma_64f(LU_DECOMP_MA_PARAMS(double))
 {
-    return luDecompMaContiguous(n8_ownvormLUDecomp_64f_S_com, LU_DECOMP_MA_ARGS);
+    return contiguousKernel(luDecompMa(LU_DECOMP_MA_ARGS), n8_ownvormLUDecomp_64f_S_com);
 }
 VormStatus n8_ownvormLUDecomp_ma_64f_L(LU_DECOMP_MA_PARAMS_L(double))
 {
-    return luDecompMaContiguousL(n8_ownvormLUDecomp_64f_S_com, LU_DECOMP_MA_ARGS_L);
+    return contiguousKernel(luDecompMaL(LU_DECOMP_MA_ARGS_L), n8_ownvormLUDecomp_64f_S_com);
 }
-
 }

@@ -2,7 +2,9 @@
 // type runs one object or a register of them. Each lane does exactly the operation the scalar would.
 #pragma once
 
+#include <cstdint>
 #include <type_traits>
+#include <utility>
 
 #include "frame/memory.hpp"
 #include "frame/registers.hpp"
@@ -21,6 +23,10 @@ struct LaneMask {
     friend bool any(LaneMask mask) { return R::maskBits(mask.bits) != 0; }
     friend bool all(LaneMask mask) { return R::maskBits(mask.bits) == (1 << W) - 1; }
 };
+
+// Integers as large as an element.
+template <class T>
+using Integer = std::conditional_t<sizeof(T) == 4, std::int32_t, std::int64_t>;
 
 // Without W it has 128 bits, as everything must whose results depend on the number of lanes.
 template <class T, int W = narrow<T>>
@@ -55,6 +61,17 @@ struct Lanes {
     friend Lanes timesSignOf(Lanes a, Lanes b) { return R::differing(a.v, R::both(b.v, R::all(-T(0)))); }
     // Lane by lane: a where the mask is set, b elsewhere.
     friend Lanes select(Mask mask, Lanes a, Lanes b) { return R::select(mask.bits, a.v, b.v); }
+    friend Lanes where(Mask mask, Lanes a) { return R::where(mask.bits, a.v); }  // zero elsewhere
+
+    // To exchange numbers where a mask is set: the bits in which they differ, to be united with those of other masks,
+    // and a number with such bits changed.
+    friend Lanes difference(Mask mask, Lanes a, Lanes b) { return R::difference(mask.bits, a.v, b.v); }
+    friend Lanes united(Lanes difference, Lanes other) { return R::either(difference.v, other.v); }
+    friend Lanes changed(Lanes a, Lanes difference) { return R::differing(a.v, difference.v); }
+    // Small integers of no sign, which are only moved, selected and compared with each other.
+    static Lanes integer(int x) { return R::bits(x); }
+    friend Lanes largerInteger(Lanes a, Lanes b) { return R::largerInteger(a.v, b.v); }
+    friend void storeIntegers(Lanes a, Integer<T>* to) { a.store(reinterpret_cast<T*>(to)); }
 
     // 1/a and 1/sqrt(a) to about twelve bits, which are the processor's own; single precision only.
     friend Lanes estimateReciprocal(Lanes a) { return R::estimateReciprocal(a.v); }
@@ -83,6 +100,11 @@ constexpr T select(bool mask, T a, T b)
 {
     return mask ? a : b;
 }
+template <class T>
+constexpr T where(bool mask, T a)
+{
+    return mask ? a : T(0);
+}
 constexpr bool any(bool mask) { return mask; }
 constexpr bool all(bool mask) { return mask; }
 constexpr bool without(bool a, bool b) { return a && !b; }
@@ -97,6 +119,67 @@ inline double timesSignOf(double a, double b) { return __builtin_signbit(b) ? -a
 inline float estimateReciprocal(float a) { return _mm_cvtss_f32(_mm_rcp_ss(_mm_set_ss(a))); }
 inline float estimateReciprocalRoot(float a) { return _mm_cvtss_f32(_mm_rsqrt_ss(_mm_set_ss(a))); }
 
+// A few registers as one number, whose operations keep the processor busy where those of one wait for each other.
+template <class L, int registers>
+struct Several {
+    using One = L;
+    static constexpr int count = registers;
+    L part[registers];
+
+    template <class Each>
+    VORM_INLINE static Several each(const Each& register_)
+    {
+        Several r;
+        unrolled<registers>([&](auto k) VORM_INLINE_LAMBDA { r.part[k] = register_(k); });
+        return r;
+    }
+    Several() = default;
+    VORM_INLINE Several(const L& all) : Several(each([&](int) VORM_INLINE_LAMBDA { return all; })) {}
+    VORM_INLINE friend Several operator+(const Several& a, const Several& b)
+    {
+        return each([&](auto k) VORM_INLINE_LAMBDA { return a.part[k] + b.part[k]; });
+    }
+    VORM_INLINE friend Several operator-(const Several& a, const Several& b)
+    {
+        return each([&](auto k) VORM_INLINE_LAMBDA { return a.part[k] - b.part[k]; });
+    }
+    VORM_INLINE friend Several operator*(const Several& a, const Several& b)
+    {
+        return each([&](auto k) VORM_INLINE_LAMBDA { return a.part[k] * b.part[k]; });
+    }
+    VORM_INLINE friend Several operator/(const Several& a, const Several& b)
+    {
+        return each([&](auto k) VORM_INLINE_LAMBDA { return a.part[k] / b.part[k]; });
+    }
+};
+template <class L, int registers>
+struct ElementOf<Several<L, registers>> : ElementOf<L> {
+};
+
+// How many objects, and registers of them, a number holds; its k-th register.
+template <class Number>
+constexpr int objectsIn = 1;
+template <class T, int W>
+constexpr int objectsIn<Lanes<T, W>> = W;
+template <class L, int registers>
+constexpr int objectsIn<Several<L, registers>> = registers* L::width;
+template <class Number>
+constexpr bool inLanes = (objectsIn<Number> > 1);
+template <class Number>
+constexpr int registersIn = 1;
+template <class L, int registers>
+constexpr int registersIn<Several<L, registers>> = registers;
+template <class Number>
+VORM_INLINE auto& registerOf(Number& a, int k)
+{
+    if constexpr (registersIn<std::remove_const_t<Number>> == 1)
+        return a;
+    else
+        return a.part[k];
+}
+template <class Number>
+using RegisterIn = std::remove_cvref_t<decltype(registerOf(std::declval<Number&>(), 0))>;
+
 // A register of parts of 128 bits, part(q) being the q-th of them; and each of them by itself, store(q, part).
 template <class L, class Part>
 VORM_INLINE L joined(const Part& part)
@@ -108,6 +191,16 @@ VORM_INLINE void eachPart(Lanes<T, W> a, const Store& store)
 {
     unrolled<Lanes<T, W>::parts>([&](auto q)
                                      VORM_INLINE_LAMBDA { store(q, Lanes<T>(Register<T, W>::template part<q>(a.v))); });
+}
+
+// The first lanes of a register.
+template <class To, class T, int W>
+VORM_INLINE To firstLanes(Lanes<T, W> a)
+{
+    if constexpr (To::width == W)
+        return a;
+    else
+        return Register<T, W>::template part<0>(a.v);
 }
 
 // The first Count elements of a register, which touch no other memory. Three floats lie in lanes 0,

@@ -40,4 +40,11 @@ VORM_INLINE decltype(auto) elementAt(T* p, std::ptrdiff_t bytes)
         return (*reinterpret_cast<Loose<Value>*>(advance(p, bytes)));
 }
 
+// Entry i of a table of the caller's.
+template <class T>
+VORM_INLINE decltype(auto) entry(T* table, std::ptrdiff_t i)
+{
+    return elementAt(table, i * std::ptrdiff_t{sizeof(T)});
+}
+
 }  // namespace vorm

@@ -1,27 +1,16 @@
 // Lanes of objects: the same element of as many consecutive objects as a register has lanes, one
 // object in each lane. Loads and stores for every layout; nothing but the elements is touched.
+//
+// Adjacent rows are turned in registers, a part of 128 bits at a time; planes are loaded as they lie; elements
+// anywhere else are gathered one by one. n is a number of the program's run, or an std::integral_constant.
 #pragma once
+
+#include <type_traits>
 
 #include "frame/planes.hpp"
 #include "frame/shuffles.hpp"
-#include "frame/small_matrix.hpp"
 
 namespace vorm {
-
-// Structure of arrays: a pointer layout whose objects lie side by side, a plane for each element.
-template <class View>
-struct InPlanes : View {
-};
-template <class View>
-constexpr bool isInPlanes = false;
-template <class View>
-constexpr bool isInPlanes<InPlanes<View>> = true;
-
-template <class View>
-constexpr InPlanes<View> asPlanes(const View& view)
-{
-    return {view};
-}
 
 // The addresses of consecutive objects.
 template <class View, class T, int objects>
@@ -32,97 +21,66 @@ VORM_INLINE void objectsAt(const View& view, int first, T* (&to)[objects])
     else
         for (int l = 0; l < objects; ++l) to[l] = view.object(first + l);
 }
-
-// n elements from each of several addresses, one address for each lane. --------------------------------
-
-template <int n>
-VORM_INLINE void loadRows(const float* const (&from)[4], Lanes<float> (&to)[n])
-{
-    constexpr int full = n / 4 * 4, even = n / 2 * 2;
-    for (int c = 0; c < full; c += 4) {
-        Lanes<float> block[4];
-        for (int l = 0; l < 4; ++l) block[l] = Lanes<float>::load(from[l] + c);
-        transpose(block);
-        for (int i = 0; i < 4; ++i) to[c + i] = block[i];
-    }
-    if constexpr (full < even) {
-        const __m128 ab = loadPairs(from[0] + full, from[1] + full).v, cd = loadPairs(from[2] + full, from[3] + full).v;
-        to[full] = _mm_shuffle_ps(ab, cd, _MM_SHUFFLE(2, 0, 2, 0));
-        to[full + 1] = _mm_shuffle_ps(ab, cd, _MM_SHUFFLE(3, 1, 3, 1));
-    }
-    if constexpr (even < n)
-        to[even] = lanes<float>([&](int l) VORM_INLINE_LAMBDA { return elementAt(from[l] + even, 0); });
-}
-template <int n>
-VORM_INLINE void loadRows(const double* const (&from)[2], Lanes<double> (&to)[n])
-{
-    for (int c = 0; c + 2 <= n; c += 2) {
-        Lanes<double> block[2] = {Lanes<double>::load(from[0] + c), Lanes<double>::load(from[1] + c)};
-        transpose(block);
-        to[c] = block[0], to[c + 1] = block[1];
-    }
-    if constexpr (n % 2 == 1)
-        to[n - 1] = lanes<double>([&](int l) VORM_INLINE_LAMBDA { return elementAt(from[l] + n - 1, 0); });
-}
-
-template <int n>
-VORM_INLINE void storeRows(float* const (&to)[4], const Lanes<float> (&from)[n])
-{
-    constexpr int full = n / 4 * 4, even = n / 2 * 2;
-    for (int c = 0; c < full; c += 4) {
-        Lanes<float> block[4] = {from[c], from[c + 1], from[c + 2], from[c + 3]};
-        transpose(block);
-        for (int l = 0; l < 4; ++l) block[l].store(to[l] + c);
-    }
-    if constexpr (full < even) {
-        storePairs(to[0] + full, to[1] + full, _mm_unpacklo_ps(from[full].v, from[full + 1].v));
-        storePairs(to[2] + full, to[3] + full, _mm_unpackhi_ps(from[full].v, from[full + 1].v));
-    }
-    if constexpr (even < n)
-        unrolled<4>([&](auto l) VORM_INLINE_LAMBDA { elementAt(to[l] + even, 0) = lane<l>(from[even]); });
-}
-template <int n>
-VORM_INLINE void storeRows(double* const (&to)[2], const Lanes<double> (&from)[n])
-{
-    for (int c = 0; c + 2 <= n; c += 2) {
-        Lanes<double> block[2] = {from[c], from[c + 1]};
-        transpose(block);
-        block[0].store(to[0] + c), block[1].store(to[1] + c);
-    }
-    if constexpr (n % 2 == 1)
-        unrolled<2>([&](auto l) VORM_INLINE_LAMBDA { elementAt(to[l] + n - 1, 0) = lane<l>(from[n - 1]); });
-}
-
-// The same with a length of the program's run.
-template <class T, int width>
-VORM_INLINE void loadRows(const T* const (&from)[width], Lanes<T>* to, int n)
-{
-    int c = 0;
-    for (; c + width <= n; c += width) {
-        Lanes<T> block[width];
-        for (int l = 0; l < width; ++l) block[l] = Lanes<T>::load(from[l] + c);
-        transpose(block);
-        for (int i = 0; i < width; ++i) to[c + i] = block[i];
-    }
-    for (; c < n; ++c) to[c] = lanes<T>([&](int l) VORM_INLINE_LAMBDA { return elementAt(from[l] + c, 0); });
-}
-template <class T, int width>
-VORM_INLINE void storeRows(T* const (&to)[width], const Lanes<T>* from, int n)
-{
-    int c = 0;
-    for (; c + width <= n; c += width) {
-        Lanes<T> block[width];
-        for (int i = 0; i < width; ++i) block[i] = from[c + i];
-        transpose(block);
-        for (int l = 0; l < width; ++l) block[l].store(to[l] + c);
-    }
-    for (; c < n; ++c) unrolled<width>([&](auto l) VORM_INLINE_LAMBDA { elementAt(to[l] + c, 0) = lane<l>(from[c]); });
-}
-
 template <class View>
 VORM_INLINE auto* rowAt(const View& view, int object, std::ptrdiff_t row)
 {
     return advance(view.object(object), row * view.stride1);
+}
+
+// n elements from each of several addresses, one address for each lane, to to(0), to(1), ...; and back. -----------
+
+template <class T, int W, class To, class N>
+VORM_INLINE void loadRows(const T* const (&from)[W], const To& to, N n)
+{
+    using L = Lanes<T, W>;
+    constexpr int some = narrow<T>;  // elements of a part
+    const auto parts = [&](auto load) VORM_INLINE_LAMBDA {
+        return joined<L>([&](int q) VORM_INLINE_LAMBDA { return load(&from[some * q]); });
+    };
+    int c = 0;
+    for (; c + some <= n; c += some) {
+        L block[some];
+        for (int l = 0; l < some; ++l)
+            block[l] = parts([&](auto* at) VORM_INLINE_LAMBDA { return Lanes<T>::load(at[l] + c); });
+        transpose(block);
+        for (int i = 0; i < some; ++i) to(c + i) = block[i];
+    }
+    if constexpr (some == 4)
+        if (c + 2 <= n) {
+            const L ab = parts([&](auto* at) VORM_INLINE_LAMBDA { return loadPairs(at[0] + c, at[1] + c); });
+            const L cd = parts([&](auto* at) VORM_INLINE_LAMBDA { return loadPairs(at[2] + c, at[3] + c); });
+            to(c) = shuffle<0, 2, 0, 2>(ab, cd);
+            to(c + 1) = shuffle<1, 3, 1, 3>(ab, cd);
+            c += 2;
+        }
+    if (c < n) to(c) = lanes<L>([&](int l) VORM_INLINE_LAMBDA { return elementAt(from[l] + c, 0); });
+}
+
+template <class T, int W, class From, class N>
+VORM_INLINE void storeRows(T* const (&to)[W], const From& from, N n)
+{
+    using L = Lanes<T, W>;
+    constexpr int some = narrow<T>;
+    int c = 0;
+    for (; c + some <= n; c += some) {
+        L block[some];
+        for (int i = 0; i < some; ++i) block[i] = from(c + i);
+        transpose(block);
+        for (int l = 0; l < some; ++l)
+            eachPart(block[l], [&](int q, Lanes<T> part) VORM_INLINE_LAMBDA { part.store(to[some * q + l] + c); });
+    }
+    if constexpr (some == 4)
+        if (c + 2 <= n) {
+            const auto store = [&](L pairs, int l) VORM_INLINE_LAMBDA {
+                eachPart(pairs, [&](int q, Lanes<T> part) VORM_INLINE_LAMBDA {
+                    storePairs(to[some * q + l] + c, to[some * q + l + 1] + c, part);
+                });
+            };
+            store(interleaveLow(L(from(c)), L(from(c + 1))), 0);
+            store(interleaveHigh(L(from(c)), L(from(c + 1))), 2);
+            c += 2;
+        }
+    if (c < n) unrolled<W>([&](auto l) VORM_INLINE_LAMBDA { elementAt(to[l] + c, 0) = lane<l>(L(from(c))); });
 }
 
 // Elements anywhere, of one object or of a block of them: element (r, c) of object l lies at
@@ -147,35 +105,182 @@ template <class T, class View>
     for (int l = 0; l < objects; ++l)
         for (int i = 0; i < n; ++i) view(first + l, i) = from[i * objects + l];
 }
-
-// Whether the objects from n on that share a register share no memory, so that their elements may be
-// stored in any order.
-template <class View>
-VORM_INLINE bool objectsApart(const View& view, int n, int rows, int len)
+// Row r of object l is row rows[l * n + r] of the matrix; the same of vectors.
+template <class T, class View>
+[[gnu::noinline]] void gatherVectors(const View& view, int first, int objects, int n, const int* rows, T* to)
 {
-    using T = std::remove_const_t<std::remove_pointer_t<decltype(view.object(n))>>;
-    constexpr int width = Lanes<T>::width;
-    const std::ptrdiff_t row = len * std::ptrdiff_t{sizeof(T)};
-    std::ptrdiff_t stride1 = 0;
-    if constexpr (requires { view.stride1; }) stride1 = view.stride1;
-    const std::ptrdiff_t span = (rows - 1) * stride1 + row;
-    if constexpr (requires { view.stride0; }) {
-        return view.stride0 >= span ||
-               (view.stride0 >= row && (width - 1) * std::ptrdiff_t{view.stride0} + row <= stride1);
-    } else {
-        const auto at = [&](int l) VORM_INLINE_LAMBDA { return reinterpret_cast<const char*>(view.object(n + l)); };
-        for (int i = 1; i < width; ++i)
-            for (int j = 0; j < i; ++j)
-                if (const std::ptrdiff_t distance = at(i) - at(j); - span < distance && distance < span) return false;
-        return true;
-    }
+    for (int l = 0; l < objects; ++l)
+        for (int i = 0; i < n; ++i) to[i * objects + l] = view(first + l, entry(rows, l * n + i));
+}
+template <class T, class View>
+[[gnu::noinline]] void gatherMatrices(const View& view, int first, int objects, int n, const int* rows, T* to)
+{
+    for (int l = 0; l < objects; ++l)
+        for (int r = 0; r < n; ++r)
+            for (int c = 0; c < n; ++c) to[(r * n + c) * objects + l] = view(first + l, entry(rows, l * n + r), c);
+}
+template <class T, class View>
+[[gnu::noinline]] void scatterMatrices(const View& view, int first, int objects, int n, const T* from)
+{
+    for (int l = 0; l < objects; ++l)
+        for (int r = 0; r < n; ++r)
+            for (int c = 0; c < n; ++c) view(first + l, r, c) = from[(r * n + c) * objects + l];
+}
+// Some rows, the first ones: row r of object l is row rows[l * n + r] of the result.
+template <class T, class View>
+[[gnu::noinline]] void scatterRows(const View& view, int first, int objects, int n, int some, const int* rows,
+                                   const T* from)
+{
+    for (int l = 0; l < objects; ++l)
+        for (int r = 0; r < some; ++r)
+            for (int c = 0; c < n; ++c) view(first + l, entry(rows, l * n + r), c) = from[(r * n + c) * objects + l];
 }
 
-// Whether an array lies in planes, and registers of objects stored to it never overlap each other.
-template <class View>
-VORM_INLINE bool storableAsPlanes(const View& dst, int rows, int columns, int count)
+// As many objects as a number holds, from the first on. ---------------------------------------------------------
+
+// Row row(l) of the object of lane l.
+template <class View, class Row, class T, int W>
+VORM_INLINE void rowsAt(const View& view, int first, const Row& row, T* (&to)[W])
 {
-    return inPlanes(dst) && planesApart(dst.pp, rows, columns, int{sizeof(__m128)}, std::int64_t{count} * rows);
+    for (int l = 0; l < W; ++l) to[l] = rowAt(view, first + l, row(l));
+}
+
+// Each register of a number, k-th of them with the objects from first on; written out where sizes are constants.
+template <class Number, class N, class Body>
+VORM_INLINE void eachRegister(N, int first, const Body& body)
+{
+    constexpr int registers = registersIn<Number>, width = RegisterIn<Number>::width;
+    if constexpr (std::is_same_v<N, int>)
+        for (int k = 0; k < registers; ++k) body(k, first + k * width);
+    else
+        unrolled<registers>([&](auto k) VORM_INLINE_LAMBDA { body(k, first + k * width); });
+}
+
+// Element i of each vector is at x[i].
+template <class Number, class View, class N>
+VORM_INLINE void loadVectors(const View& view, int first, Number* x, N n)
+{
+    using T = Element<Number>;
+    if constexpr (inLanes<Number> && (isAdjacent<View> || isInPlanes<View>))
+        eachRegister<Number>(n, first, [&](auto k, int object) VORM_INLINE_LAMBDA {
+            if constexpr (isAdjacent<View>) {
+                const T* from[RegisterIn<Number>::width];
+                objectsAt(view, object, from);
+                loadRows(
+                    from, [&](int i) VORM_INLINE_LAMBDA -> auto& { return registerOf(x[i], k); }, n);
+            } else {
+                for (int i = 0; i < n; ++i) registerOf(x[i], k) = RegisterIn<Number>::load(view.element(i) + object);
+            }
+        });
+    else if constexpr (!inLanes<Number>)
+        repeat(n, [&](int i) VORM_INLINE_LAMBDA { x[i] = view(first, i); });
+    else
+        gatherVectors(view, first, objectsIn<Number>, n, reinterpret_cast<T*>(x));
+}
+template <class Number, class View, class N>
+VORM_INLINE void storeVectors(const View& view, int first, const Number* x, N n)
+{
+    using T = Element<Number>;
+    if constexpr (inLanes<Number> && (isAdjacent<View> || isInPlanes<View>))
+        eachRegister<Number>(n, first, [&](auto k, int object) VORM_INLINE_LAMBDA {
+            if constexpr (isAdjacent<View>) {
+                T* to[RegisterIn<Number>::width];
+                objectsAt(view, object, to);
+                storeRows(
+                    to, [&](int i) VORM_INLINE_LAMBDA { return registerOf(x[i], k); }, n);
+            } else {
+                for (int i = 0; i < n; ++i) registerOf(x[i], k).store(view.element(i) + object);
+            }
+        });
+    else if constexpr (!inLanes<Number>)
+        repeat(n, [&](int i) VORM_INLINE_LAMBDA { view(first, i) = x[i]; });  // a loop would go through memory
+    else
+        scatterVectors(view, first, objectsIn<Number>, n, reinterpret_cast<const T*>(x));
+}
+
+// Element (r, c) of each matrix is at a[r][c].
+template <class Number, class View, int n>
+VORM_INLINE void loadMatrices(const View& view, int first, Number (&a)[n][n])
+{
+    using T = Element<Number>;
+    if constexpr (inLanes<Number> && isAdjacent<View>)
+        unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
+            const T* from[Number::width];
+            rowsAt(
+                view, first, [r](int) VORM_INLINE_LAMBDA { return int{r}; }, from);
+            loadRows(
+                from, [&](int c) VORM_INLINE_LAMBDA -> auto& { return a[r][c]; }, constant<n>);
+        });
+    else if constexpr (inLanes<Number> && isInPlanes<View>)
+        unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
+            for (int c = 0; c < n; ++c) a[r][c] = Number::load(view.element(r, c) + first);
+        });
+    else
+        gatherMatrices(view, first, objectsIn<Number>, n, reinterpret_cast<T*>(a));
+}
+
+template <class Number, class View, int n>
+VORM_INLINE void storeMatrices(const View& view, int first, const Number (&a)[n][n])
+{
+    using T = Element<Number>;
+    if constexpr (inLanes<Number> && isAdjacent<View>)
+        unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
+            T* to[Number::width];
+            rowsAt(
+                view, first, [r](int) VORM_INLINE_LAMBDA { return int{r}; }, to);
+            storeRows(
+                to, [&](int c) VORM_INLINE_LAMBDA { return a[r][c]; }, constant<n>);
+        });
+    else if constexpr (inLanes<Number> && isInPlanes<View>)
+        unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
+            for (int c = 0; c < n; ++c) a[r][c].store(view.element(r, c) + first);
+        });
+    else
+        scatterMatrices(view, first, objectsIn<Number>, n, reinterpret_cast<const T*>(a));
+}
+// The same, where a[r] is row rows[l * n + r] of object l.
+template <class Number, class View, int n>
+VORM_INLINE void storeMatrices(const View& view, int first, const Number (&a)[n][n], const int* rows)
+{
+    using T = Element<Number>;
+    const auto row = [&](int l, int r) VORM_INLINE_LAMBDA { return int{entry(rows, l * n + r)}; };
+    if constexpr (inLanes<Number> && isAdjacent<View>)
+        unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
+            T* to[Number::width];
+            rowsAt(
+                view, first, [&](int l) VORM_INLINE_LAMBDA { return row(l, r); }, to);
+            storeRows(
+                to, [&](int c) VORM_INLINE_LAMBDA { return a[r][c]; }, constant<n>);
+        });
+    else if constexpr (inLanes<Number> && isInPlanes<View>)
+        unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
+            unrolled<Number::width>([&](auto l) VORM_INLINE_LAMBDA {
+                T* const* const planes = view.pp + row(l, r) * std::ptrdiff_t{n};
+                const std::ptrdiff_t offset = view.shift + first * std::ptrdiff_t{sizeof(T)};
+                for (int c = 0; c < n; ++c) elementAt(planes[c] + l, offset) = lane<l>(a[r][c]);
+            });
+        });
+    else
+        scatterRows(view, first, objectsIn<Number>, n, n, rows, reinterpret_cast<const T*>(a));
+}
+
+// Small integers in lanes, integer k of object l to to[l * n + k].
+template <int n, class T, int W>
+VORM_INLINE void storeIntegers(const Lanes<T, W> (&integers)[n], int* to)
+{
+    if constexpr (std::is_same_v<T, float>) {
+        float* objects[W];
+        for (int l = 0; l < W; ++l) objects[l] = reinterpret_cast<float*>(to) + l * n;
+        storeRows(
+            objects, [&](int k) VORM_INLINE_LAMBDA { return integers[k]; }, constant<n>);
+    } else if constexpr (W == narrow<T>) {
+        for (int k = 0; k < n; ++k)
+            unrolled<W>([&](auto l) VORM_INLINE_LAMBDA { entry(to, l * n + k) = integerInLane<l>(integers[k]); });
+    } else {
+        Lanes<float, W> halves[n];
+        for (int k = 0; k < n; ++k) halves[k] = lowHalves(integers[k]);
+        storeIntegers(halves, to);
+    }
 }
 
 }  // namespace vorm

@@ -4,12 +4,15 @@
 // A view of a const type reads elements by value, one of a plain type gives a reference to assign
 // to. Single operands ignore n, so that a kernel need not know which of its operands are arrays;
 // isCommon tells it where it matters. isAdjacent: the elements of a vector, or of each row, lie side by side.
+//
+// As parts of a call (call.hpp) views know the arguments they are made of, themselves from the first object of a
+// chunk on (the offset has 32 bits), the view of their n-th object alone, and themselves with adjacent elements.
 #pragma once
 
 #include <type_traits>
 #include <utility>
 
-#include "frame/memory.hpp"
+#include "frame/arguments.hpp"
 
 namespace vorm {
 
@@ -28,6 +31,18 @@ constexpr std::ptrdiff_t bytes(Adjacent)
     return sizeof(T);
 }
 
+// The arguments of a view end with stride2, where it has one.
+template <class Body, class... Argument>
+VORM_INLINE constexpr auto withElementStride(const Body& body, int stride2, Argument... before)
+{
+    return body(before..., ElementStride{stride2});
+}
+template <class Body, class... Argument>
+VORM_INLINE constexpr auto withElementStride(const Body& body, Adjacent, Argument... before)
+{
+    return body(before...);
+}
+
 // Standard layout. Step is int or Adjacent. ----------------------------------------------------
 
 template <class T, class Step>
@@ -37,6 +52,14 @@ struct Vector {  // v
     Step stride2;
     T* object(int) const { return p; }
     decltype(auto) operator()(int, int i) const { return elementAt(p, i * bytes<T>(stride2)); }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return withElementStride(body, stride2, Pointer<T>{p});
+    }
+    VORM_INLINE constexpr Vector chunk(const Chunk&) const { return *this; }
+    VORM_INLINE constexpr auto single(int) const { return *this; }
+    VORM_INLINE constexpr auto withAdjacent() const { return Vector<T, Adjacent>{p, adjacent}; }
 };
 
 template <class T, class Step>
@@ -47,6 +70,17 @@ struct VectorArray {  // va
     Step stride2;
     T* object(int n) const { return advance(p, std::ptrdiff_t{n} * stride0); }
     decltype(auto) operator()(int n, int i) const { return elementAt(object(n), i * bytes<T>(stride2)); }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return withElementStride(body, stride2, Pointer<T>{p}, Stride{stride0});
+    }
+    VORM_INLINE constexpr VectorArray chunk(const Chunk& chunk) const
+    {
+        return {advance(p, wrapMul(chunk.first, stride0)), stride0, stride2};
+    }
+    VORM_INLINE constexpr auto single(int n) const { return Vector<T, Step>{object(n), stride2}; }
+    VORM_INLINE constexpr auto withAdjacent() const { return VectorArray<T, Adjacent>{p, stride0, adjacent}; }
 };
 
 template <class T, class Step>
@@ -60,6 +94,14 @@ struct Matrix {  // m
     {
         return elementAt(p, std::ptrdiff_t{r} * stride1 + c * bytes<T>(stride2));
     }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return withElementStride(body, stride2, Pointer<T>{p}, Stride{stride1});
+    }
+    VORM_INLINE constexpr Matrix chunk(const Chunk&) const { return *this; }
+    VORM_INLINE constexpr auto single(int) const { return *this; }
+    VORM_INLINE constexpr auto withAdjacent() const { return Matrix<T, Adjacent>{p, stride1, adjacent}; }
 };
 
 template <class T, class Step>
@@ -73,6 +115,17 @@ struct MatrixArray {  // ma
     {
         return elementAt(object(n), std::ptrdiff_t{r} * stride1 + c * bytes<T>(stride2));
     }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return withElementStride(body, stride2, Pointer<T>{p}, Stride{stride0}, Stride{stride1});
+    }
+    VORM_INLINE constexpr MatrixArray chunk(const Chunk& chunk) const
+    {
+        return {advance(p, wrapMul(chunk.first, stride0)), stride0, stride1, stride2};
+    }
+    VORM_INLINE constexpr auto single(int n) const { return Matrix<T, Step>{object(n), stride1, stride2}; }
+    VORM_INLINE constexpr auto withAdjacent() const { return MatrixArray<T, Adjacent>{p, stride0, stride1, adjacent}; }
 };
 
 // List layout: one pointer per object. ---------------------------------------------------------
@@ -85,6 +138,14 @@ struct VectorList {  // va
     Step stride2;
     T* object(int n) const { return advance(pp[n], shift); }
     decltype(auto) operator()(int n, int i) const { return elementAt(object(n), i * bytes<T>(stride2)); }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return withElementStride(body, stride2, Pointer<T* const>{pp}, Shift{shift});
+    }
+    VORM_INLINE constexpr VectorList chunk(const Chunk& chunk) const { return {pp + chunk.first, shift, stride2}; }
+    VORM_INLINE constexpr auto single(int n) const { return Vector<T, Step>{object(n), stride2}; }
+    VORM_INLINE constexpr auto withAdjacent() const { return VectorList<T, Adjacent>{pp, shift, adjacent}; }
 };
 
 template <class T, class Step>
@@ -98,6 +159,17 @@ struct MatrixList {  // ma
     {
         return elementAt(object(n), std::ptrdiff_t{r} * stride1 + c * bytes<T>(stride2));
     }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return withElementStride(body, stride2, Pointer<T* const>{pp}, Shift{shift}, Stride{stride1});
+    }
+    VORM_INLINE constexpr MatrixList chunk(const Chunk& chunk) const
+    {
+        return {pp + chunk.first, shift, stride1, stride2};
+    }
+    VORM_INLINE constexpr auto single(int n) const { return Matrix<T, Step>{object(n), stride1, stride2}; }
+    VORM_INLINE constexpr auto withAdjacent() const { return MatrixList<T, Adjacent>{pp, shift, stride1, adjacent}; }
 };
 
 // Pointer layout: one pointer per element of the stored object. ----------------------------------
@@ -109,6 +181,13 @@ struct VectorPointers {  // v
     int shift;
     T* element(int i) const { return advance(pp[i], shift); }
     decltype(auto) operator()(int, int i) const { return elementAt(element(i), 0); }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return body(Pointer<T* const>{pp}, Shift{shift});
+    }
+    VORM_INLINE constexpr VectorPointers chunk(const Chunk&) const { return *this; }
+    VORM_INLINE constexpr auto withAdjacent() const { return *this; }
 };
 
 template <class T>
@@ -118,6 +197,16 @@ struct VectorArrayPointers {  // va
     int shift, stride0;
     T* element(int i) const { return advance(pp[i], shift); }  // of object 0
     decltype(auto) operator()(int n, int i) const { return elementAt(element(i), std::ptrdiff_t{n} * stride0); }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return body(Pointer<T* const>{pp}, Shift{shift}, Stride{stride0});
+    }
+    VORM_INLINE constexpr VectorArrayPointers chunk(const Chunk& chunk) const
+    {
+        return {pp, wrapAdd(shift, wrapMul(chunk.first, stride0)), stride0};
+    }
+    VORM_INLINE constexpr auto withAdjacent() const { return *this; }
 };
 
 template <class T>
@@ -127,6 +216,13 @@ struct MatrixPointers {  // m; width is that of the stored matrix
     int shift, width;
     T* element(int r, int c) const { return advance(pp[std::ptrdiff_t{r} * width + c], shift); }
     decltype(auto) operator()(int, int r, int c) const { return elementAt(element(r, c), 0); }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return body(Pointer<T* const>{pp}, Shift{shift});
+    }
+    VORM_INLINE constexpr MatrixPointers chunk(const Chunk&) const { return *this; }
+    VORM_INLINE constexpr auto withAdjacent() const { return *this; }
 };
 
 template <class T>
@@ -139,6 +235,16 @@ struct MatrixArrayPointers {  // ma; width is that of the stored matrix
     {
         return elementAt(element(r, c), std::ptrdiff_t{n} * stride0);
     }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return body(Pointer<T* const>{pp}, Shift{shift}, Stride{stride0});
+    }
+    VORM_INLINE constexpr MatrixArrayPointers chunk(const Chunk& chunk) const
+    {
+        return {pp, wrapAdd(shift, wrapMul(chunk.first, stride0)), stride0, width};
+    }
+    VORM_INLINE constexpr auto withAdjacent() const { return *this; }
 };
 
 // Transposed: any matrix view read with its indices swapped. -------------------------------------
@@ -148,6 +254,21 @@ struct Transposed {  // t, ta
     static constexpr bool isCommon = Stored::isCommon, isAdjacent = false;
     Stored stored;
     decltype(auto) operator()(int n, int r, int c) const { return stored(n, c, r); }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return stored.arguments(body);
+    }
+    VORM_INLINE constexpr Transposed chunk(const Chunk& chunk) const { return {stored.chunk(chunk)}; }
+    VORM_INLINE constexpr auto single(int n) const { return transposed(stored.single(n)); }
+    VORM_INLINE constexpr auto withAdjacent() const { return transposed(stored.withAdjacent()); }
+
+private:
+    template <class Other>
+    static constexpr Transposed<Other> transposed(const Other& other)
+    {
+        return {other};
+    }
 };
 
 template <class View>
@@ -156,8 +277,7 @@ template <class Stored>
 constexpr bool isTransposed<Transposed<Stored>> = true;
 
 // How a matrix operand is read, m or t in the name of its shape: the view that shows it so, and its rows and columns
-// then, out of the sizes it is stored with; the same two functions lead back. fits: a vector behind it has as many
-// elements as its rows.
+// then, out of the sizes it is stored with; the same two functions lead back.
 struct AsStored {
     static constexpr bool isTransposed = false;
     template <class Stored>
@@ -167,7 +287,6 @@ struct AsStored {
     }
     static constexpr int rows(int /*width*/, int height) { return height; }
     static constexpr int columns(int width, int /*height*/) { return width; }
-    static constexpr bool fits(int width, int /*height*/, int len) { return width == len; }
 };
 struct AsTransposed {
     static constexpr bool isTransposed = true;
@@ -178,7 +297,6 @@ struct AsTransposed {
     }
     static constexpr int rows(int width, int /*height*/) { return width; }
     static constexpr int columns(int /*width*/, int height) { return height; }
-    static constexpr bool fits(int /*width*/, int height, int len) { return height == len; }
 };
 
 // Constants. -------------------------------------------------------------------------------------
@@ -188,6 +306,14 @@ struct Constant {  // c
     static constexpr bool isCommon = true, isAdjacent = false, isConstant = true;
     T val;
     T operator()(int, int) const { return val; }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return body(Value<T>{val});
+    }
+    VORM_INLINE constexpr Constant chunk(const Chunk&) const { return *this; }
+    VORM_INLINE constexpr auto single(int) const { return *this; }
+    VORM_INLINE constexpr auto withAdjacent() const { return *this; }
 };
 
 template <class T>
@@ -196,6 +322,17 @@ struct ConstantArray {  // ca, standard and pointer layout
     const T* p;
     int stride0;
     T operator()(int n, int) const { return elementAt(p, std::ptrdiff_t{n} * stride0); }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return body(Pointer<const T>{p}, Stride{stride0});
+    }
+    VORM_INLINE constexpr ConstantArray chunk(const Chunk& chunk) const
+    {
+        return {advance(p, wrapMul(chunk.first, stride0)), stride0};
+    }
+    VORM_INLINE constexpr auto single(int n) const { return Constant<T>{(*this)(n, 0)}; }
+    VORM_INLINE constexpr auto withAdjacent() const { return *this; }
 };
 
 template <class T>
@@ -204,12 +341,23 @@ struct ConstantList {  // ca, list layout
     const T* const* pp;
     int shift;
     T operator()(int n, int) const { return elementAt(pp[n], shift); }
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return body(Pointer<const T* const>{pp}, Shift{shift});
+    }
+    VORM_INLINE constexpr ConstantList chunk(const Chunk& chunk) const { return {pp + chunk.first, shift}; }
+    VORM_INLINE constexpr auto single(int n) const { return Constant<T>{(*this)(n, 0)}; }
+    VORM_INLINE constexpr auto withAdjacent() const { return *this; }
 };
 
 template <class View>
 constexpr bool isAdjacent = View::isAdjacent;
 template <class View>
-constexpr bool adjacentRows = View::isAdjacent;
+constexpr bool adjacentRows = View::isAdjacent&& requires(View view)
+{
+    view.stride1;
+};
 template <class View>
 constexpr bool isConstant = requires
 {

@@ -28,8 +28,7 @@ constexpr int registerBytes = 16;
 template <class T>
 constexpr int widest = registerBytes / int{sizeof(T)};
 
-// V holds numbers; Mask says for each lane whether a comparison holds: as bits of a V, or, if masksApart, in a register
-// of another kind.
+// V holds numbers; Mask says for each lane whether a comparison holds.
 template <class T, int width>
 struct Register;
 
@@ -37,7 +36,6 @@ template <>
 struct Register<float, 4> {
     using V = __m128;
     using Mask = __m128;
-    static constexpr bool masksApart = false;
 
     static V all(float x) { return _mm_set1_ps(x); }
     static V bits(int x) { return _mm_castsi128_ps(_mm_set1_epi32(x)); }
@@ -50,6 +48,10 @@ struct Register<float, 4> {
     static V div(V a, V b) { return _mm_div_ps(a, b); }
     static V root(V a) { return _mm_sqrt_ps(a); }
     static V larger(V a, V b) { return _mm_max_ps(a, b); }
+    static V largerInteger(V a, V b)
+    {
+        return _mm_castsi128_ps(_mm_max_epi16(_mm_castps_si128(a), _mm_castps_si128(b)));
+    }
     static V estimateReciprocal(V a) { return _mm_rcp_ps(a); }
     static V estimateReciprocalRoot(V a) { return _mm_rsqrt_ps(a); }
 
@@ -63,6 +65,8 @@ struct Register<float, 4> {
     static Mask equal(V a, V b) { return _mm_cmpeq_ps(a, b); }
     static int maskBits(Mask m) { return _mm_movemask_ps(m); }
     static V select(Mask m, V a, V b) { return _mm_or_ps(_mm_and_ps(m, a), _mm_andnot_ps(m, b)); }
+    static V where(Mask m, V a) { return both(m, a); }
+    static V difference(Mask m, V a, V b) { return both(m, differing(a, b)); }
 
     static V low(V a, V b) { return _mm_unpacklo_ps(a, b); }
     static V high(V a, V b) { return _mm_unpackhi_ps(a, b); }
@@ -95,7 +99,6 @@ template <>
 struct Register<double, 2> {
     using V = __m128d;
     using Mask = __m128d;
-    static constexpr bool masksApart = false;
 
     static V all(double x) { return _mm_set1_pd(x); }
     static V bits(int x) { return _mm_castsi128_pd(_mm_set1_epi64x(x)); }
@@ -108,6 +111,10 @@ struct Register<double, 2> {
     static V div(V a, V b) { return _mm_div_pd(a, b); }
     static V root(V a) { return _mm_sqrt_pd(a); }
     static V larger(V a, V b) { return _mm_max_pd(a, b); }
+    static V largerInteger(V a, V b)
+    {
+        return _mm_castsi128_pd(_mm_max_epi16(_mm_castpd_si128(a), _mm_castpd_si128(b)));
+    }
 
     static V both(V a, V b) { return _mm_and_pd(a, b); }
     static V either(V a, V b) { return _mm_or_pd(a, b); }
@@ -119,6 +126,8 @@ struct Register<double, 2> {
     static Mask equal(V a, V b) { return _mm_cmpeq_pd(a, b); }
     static int maskBits(Mask m) { return _mm_movemask_pd(m); }
     static V select(Mask m, V a, V b) { return _mm_or_pd(_mm_and_pd(m, a), _mm_andnot_pd(m, b)); }
+    static V where(Mask m, V a) { return both(m, a); }
+    static V difference(Mask m, V a, V b) { return both(m, differing(a, b)); }
 
     static V low(V a, V b) { return _mm_unpacklo_pd(a, b); }
     static V high(V a, V b) { return _mm_unpackhi_pd(a, b); }

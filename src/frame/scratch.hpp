@@ -2,13 +2,13 @@
 // threads need it. The result is not tested, as in every driver's contract.
 #pragma once
 
-#include <omp.h>
-
 #include <cstddef>
 
 #ifdef VORM_HAVE_KMPC_MALLOC  // LLVM's runtime; found out when CMake configures
 extern "C" void* kmpc_malloc(std::size_t size);
 extern "C" void kmpc_free(void* memory);
+#else
+#include <omp.h>
 #endif
 
 namespace vorm {

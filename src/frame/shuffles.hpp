@@ -83,6 +83,25 @@ VORM_INLINE T lane(Lanes<T, W> a)
     return firstLane(splat<k % narrow<T>>(part));
 }
 
+// The integer of a lane of two; and those of four or eight lanes in half the register.
+template <int k>
+VORM_INLINE int integerInLane(Lanes<double> a)
+{
+    return _mm_cvtsi128_si32(_mm_castpd_si128(k == 0 ? a.v : interleaveHigh(a, a).v));
+}
+template <int W>
+VORM_INLINE Lanes<float, W> lowHalves(Lanes<double, W> a)
+{
+    Lanes<float> parts[W / 2];
+    eachPart(a, [&](int q, Lanes<double> part) VORM_INLINE_LAMBDA { parts[q] = _mm_castpd_ps(part.v); });
+    return joined<Lanes<float, W>>(
+        [&](int q) VORM_INLINE_LAMBDA { return shuffle<0, 2, 0, 2>(parts[2 * q], parts[2 * q + 1]); });
+}
+
+// b with the first lane of a.
+VORM_INLINE Lanes<float> withFirst(Lanes<float> a, Lanes<float> b) { return _mm_move_ss(b.v, a.v); }
+VORM_INLINE Lanes<double> withFirst(Lanes<double> a, Lanes<double> b) { return _mm_move_sd(b.v, a.v); }
+
 // a1 a2 a3 0: the lanes behind the first.
 VORM_INLINE Lanes<float> behindFirst(Lanes<float> a)
 {
@@ -121,6 +140,11 @@ VORM_INLINE Lanes<float> loadTwice(const float* p)
 VORM_INLINE Lanes<float> loadPairs(const float* p, const float* q)
 {
     return _mm_loadh_pi(loadFirst<2>(p).v, reinterpret_cast<const __m64*>(q));
+}
+// The first two of a, then two at q.
+VORM_INLINE Lanes<float> withPair(Lanes<float> a, const float* q)
+{
+    return _mm_loadh_pi(a.v, reinterpret_cast<const __m64*>(q));
 }
 VORM_INLINE void storePairs(float* p, float* q, Lanes<float> a)
 {

@@ -1,4 +1,5 @@
-// Loops whose index is a constant of the program: body(0), body(1), ... written out.
+// Loops whose index is a constant of the program: body(0), body(1), ... written out; and sizes that are either a
+// constant of the program, an std::integral_constant, or a number of its run.
 #pragma once
 
 #include <type_traits>
@@ -18,6 +19,19 @@ VORM_INLINE void unrolled(const Body& body)
     if constexpr (n > first + 4) body(std::integral_constant<int, first + 4>{});
     if constexpr (n > first + 5) body(std::integral_constant<int, first + 5>{});
     if constexpr (n > first + 6) unrolled<n, first + 6>(body);
+}
+
+template <int n>
+constexpr std::integral_constant<int, n> constant;
+
+// Written out if the size is a constant, a loop otherwise.
+template <class N, class Body>
+VORM_INLINE void repeat(N n, const Body& body)
+{
+    if constexpr (std::is_same_v<N, int>)
+        for (int i = 0; i < n; ++i) body(i);
+    else
+        unrolled<N::value>(body);
 }
 
 }  // namespace vorm

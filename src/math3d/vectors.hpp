@@ -6,7 +6,7 @@
 #include "frame/small_vector.hpp"
 #include "math3d/layers.hpp"
 
-namespace vorm {
+namespace vorm::math3d {
 
 struct Mul {
     template <class Number>
@@ -54,4 +54,4 @@ VORM_INLINE VormStatus divideByLength(const float* pSrc, float lengthSquared, fl
     return StatusOk;
 }
 
-}  // namespace vorm
+}  // namespace vorm::math3d

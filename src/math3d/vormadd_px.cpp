@@ -3,6 +3,7 @@
 #include "math3d/vectors.hpp"
 
 using namespace vorm;
+using namespace vorm::math3d;
 
 extern "C" {
 

@@ -2,11 +2,10 @@
 // either one transposed and so makes the shapes mat, tam and tat of it.
 #pragma once
 
-#include "frame/checks.hpp"
-#include "frame/team.hpp"
+#include "frame/call.hpp"
 #include "products/layers.hpp"
-#include "products/matrix_kernels.hpp"
-#include "products/mm.hpp"
+#include "products/matrix_kinds.hpp"
+#include "products/paths.hpp"
 
 // The operands by layout, in the order and with the names of the exported prototypes.
 #define MAM_PARAMS(T)                                                                                                 \
@@ -30,159 +29,43 @@
     ppSrc1, src1Shift, src1Stride0, src1Width, src1Height, ppSrc2, src2Shift, src2Width, src2Height, ppDst, dstShift, \
         dstStride0, count
 
-namespace vorm {
-
-template <class T>
-using MamLayer = VormStatus(MAM_PARAMS(T));
-template <class T>
-using MamLayerL = VormStatus(MAM_PARAMS_L(T));
-template <class T>
-using MamLayerP = VormStatus(MAM_PARAMS_P(T));
+namespace vorm::products {
 
 // W2 H2 + (N + K) M count
 template <class Kind>
-constexpr int mamWork(int src1Width, int src1Height, int src2Width, int src2Height, int count)
+constexpr Work mamWork(int src1Width, int src1Height, int src2Width, int src2Height, int count)
 {
     const Lengths d = Kind::lengths(src1Width, src1Height, src2Width, src2Height);
-    return wrapAdd(wrapMul(src2Width, src2Height), wrapMul(wrapAdd(d.n, d.k), d.m, count));
-}
-
-// Public layers. ----------------------------------------------------------------------------------
-
-template <class Kind, int teamLimit, class T>
-VORM_INLINE VormStatus mamChecked(MamLayer<T>* driver, MamLayer<T>* kernel, MamLayer<T>* kernelS2, MAM_PARAMS(T))
-{
-    if (anyNull(pSrc1, pSrc2, pDst)) return StatusNullPointer;
-    if (count < 1) return StatusBadCount;
-    if (anyBelowOne(src1Width, src1Height, src2Width, src2Height)) return StatusBadSize;
-    if (!Kind::fits(src1Width, src1Height, src2Width, src2Height)) return StatusSizeMismatch;
-    if (anyBadStride<T>(src1Stride0, src1Stride1, src1Stride2, src2Stride1, src2Stride2, dstStride0, dstStride1,
-                        dstStride2))
-        return StatusBadStride;
-
-    const int work = mamWork<Kind>(src1Width, src1Height, src2Width, src2Height, count);
-    const bool isContiguous = contiguous<T>(src1Stride2, src2Stride2, dstStride2);
-    if (work > (isContiguous ? teamLimit : teamLimitAnyStride)) return driver(MAM_ARGS);
-    if (isContiguous) return kernel(MAM_ARGS);
-    return kernelS2(MAM_ARGS);
+    return workOf(wrapAdd(wrapMul(src2Width, src2Height), wrapMul(wrapAdd(d.n, d.k), d.m, count)), 250);
 }
 
 template <class Kind, class T>
-VORM_INLINE VormStatus mamCheckedL(MamLayerL<T>* driver, MamLayerL<T>* kernel, MamLayerL<T>* kernelS2, MAM_PARAMS_L(T))
+VORM_INLINE auto mam(MAM_PARAMS(T))
 {
-    if (anyNull(ppSrc1, pSrc2, ppDst)) return StatusNullPointer;
-    if (count < 1) return StatusBadCount;
-    if (anyBelowOne(src1Width, src1Height, src2Width, src2Height)) return StatusBadSize;
-    if (!Kind::fits(src1Width, src1Height, src2Width, src2Height)) return StatusSizeMismatch;
-    if (anyBadStride<T>(src1Stride1, src1Stride2, src2Stride1, src2Stride2, dstStride1, dstStride2))
-        return StatusBadStride;
-    if (anyBadShift<T>(src1Shift, dstShift)) return StatusBadShift;
-
-    const int work = mamWork<Kind>(src1Width, src1Height, src2Width, src2Height, count);
-    const bool isContiguous = contiguous<T>(src1Stride2, src2Stride2, dstStride2);
-    if (work > (isContiguous ? teamLimitList : teamLimitAnyStride)) return driver(MAM_ARGS_L);
-    if (isContiguous) return kernel(MAM_ARGS_L);
-    return kernelS2(MAM_ARGS_L);
+    return arrayCallOf<T>(mamWork<Kind>(src1Width, src1Height, src2Width, src2Height, count), count,
+                          MatrixArray{pSrc1, src1Stride0, src1Stride1, src1Stride2}, Size{src1Width}, Size{src1Height},
+                          Matrix{pSrc2, src2Stride1, src2Stride2}, Size{src2Width}, Size{src2Height},
+                          MatrixArray{pDst, dstStride0, dstStride1, dstStride2},
+                          Kind::fit(src1Width, src1Height, src2Width, src2Height));
 }
-
 template <class Kind, class T>
-VORM_INLINE VormStatus mamCheckedP(MamLayerP<T>* driver, MamLayerP<T>* kernel, MAM_PARAMS_P(T))
+VORM_INLINE auto mamL(MAM_PARAMS_L(T))
 {
-    if (anyNull(ppSrc1, ppSrc2, ppDst)) return StatusNullPointer;
-    if (count < 1) return StatusBadCount;
-    if (anyBelowOne(src1Width, src1Height, src2Width, src2Height)) return StatusBadSize;
-    if (!Kind::fits(src1Width, src1Height, src2Width, src2Height)) return StatusSizeMismatch;
-    if (anyBadStride<T>(src1Stride0, dstStride0)) return StatusBadStride;
-    if (anyBadShift<T>(src1Shift, src2Shift, dstShift)) return StatusBadShift;
-
-    const int work = mamWork<Kind>(src1Width, src1Height, src2Width, src2Height, count);
-    if (work > teamLimitPointers) return driver(MAM_ARGS_P);
-    return kernel(MAM_ARGS_P);
+    return arrayCallOf<T>(mamWork<Kind>(src1Width, src1Height, src2Width, src2Height, count), count,
+                          MatrixList{ppSrc1, src1Shift, src1Stride1, src1Stride2}, Size{src1Width}, Size{src1Height},
+                          Matrix{pSrc2, src2Stride1, src2Stride2}, Size{src2Width}, Size{src2Height},
+                          MatrixList{ppDst, dstShift, dstStride1, dstStride2},
+                          Kind::fit(src1Width, src1Height, src2Width, src2Height));
 }
-
-// Drivers. ----------------------------------------------------------------------------------------
-
-template <class T>
-VORM_INLINE VormStatus mamTeam(MamLayer<T>* contiguousKernel, MamLayer<T>* kernelS2, MAM_PARAMS(T))
-{
-    auto* const kernel = contiguous<T>(src1Stride2, src2Stride2, dstStride2) ? contiguousKernel : kernelS2;
-    return inTeam<Kernels::cannotFail>(count, [=](const Chunk& chunk) {
-        return kernel(advance(pSrc1, wrapMul(chunk.first, src1Stride0)), src1Stride0, src1Stride1, src1Stride2,
-                      src1Width, src1Height, pSrc2, src2Stride1, src2Stride2, src2Width, src2Height,
-                      advance(pDst, wrapMul(chunk.first, dstStride0)), dstStride0, dstStride1, dstStride2,
-                      chunk.objects);
-    });
-}
-
-template <class T>
-VORM_INLINE VormStatus mamTeamL(MamLayerL<T>* contiguousKernel, MamLayerL<T>* kernelS2, MAM_PARAMS_L(T))
-{
-    auto* const kernel = contiguous<T>(src1Stride2, src2Stride2, dstStride2) ? contiguousKernel : kernelS2;
-    return inTeam<Kernels::cannotFail>(count, [=](const Chunk& chunk) {
-        return kernel(ppSrc1 + chunk.first, src1Shift, src1Stride1, src1Stride2, src1Width, src1Height, pSrc2,
-                      src2Stride1, src2Stride2, src2Width, src2Height, ppDst + chunk.first, dstShift, dstStride1,
-                      dstStride2, chunk.objects);
-    });
-}
-
-template <class T>
-VORM_INLINE VormStatus mamTeamP(MamLayerP<T>* kernel, MAM_PARAMS_P(T))
-{
-    return inTeam<Kernels::cannotFail>(count, [=](const Chunk& chunk) {
-        return kernel(ppSrc1, wrapAdd(src1Shift, wrapMul(chunk.first, src1Stride0)), src1Stride0, src1Width, src1Height,
-                      ppSrc2, src2Shift, src2Width, src2Height, ppDst,
-                      wrapAdd(dstShift, wrapMul(chunk.first, dstStride0)), dstStride0, chunk.objects);
-    });
-}
-
-// Kernels. ----------------------------------------------------------------------------------------
-
-template <class Kind, Bodies bodies = Bodies::upTo6, class T>
-VORM_INLINE VormStatus mamContiguous(MAM_PARAMS(T))
-{
-    return contiguousProducts<Kind, bodies, T>(MatrixArray{pSrc1, src1Stride0, src1Stride1, adjacent},
-                                               Matrix{pSrc2, src2Stride1, adjacent},
-                                               MatrixArray{pDst, dstStride0, dstStride1, adjacent},
-                                               Kind::lengths(src1Width, src1Height, src2Width, src2Height), count);
-}
-
-template <class Kind, Bodies bodies = Bodies::upTo6, class T>
-VORM_INLINE VormStatus mamContiguousL(MAM_PARAMS_L(T))
-{
-    return contiguousProducts<Kind, bodies, T>(MatrixList{ppSrc1, src1Shift, src1Stride1, adjacent},
-                                               Matrix{pSrc2, src2Stride1, adjacent},
-                                               MatrixList{ppDst, dstShift, dstStride1, adjacent},
-                                               Kind::lengths(src1Width, src1Height, src2Width, src2Height), count);
-}
-
 template <class Kind, class T>
-VORM_INLINE VormStatus mamAnyStride(MAM_PARAMS(T))
+VORM_INLINE auto mamP(MAM_PARAMS_P(T))
 {
-    return productsAnywhere<T>(Kind::first(MatrixArray{pSrc1, src1Stride0, src1Stride1, src1Stride2}),
-                               Kind::second(Matrix{pSrc2, src2Stride1, src2Stride2}),
-                               MatrixArray{pDst, dstStride0, dstStride1, dstStride2},
-                               Kind::lengths(src1Width, src1Height, src2Width, src2Height), 0, count);
+    return arrayCallOf<T>(
+        mamWork<Kind>(src1Width, src1Height, src2Width, src2Height, count), count,
+        MatrixArrayPointers{ppSrc1, src1Shift, src1Stride0, src1Width}, Size{src1Width}, Size{src1Height},
+        MatrixPointers{ppSrc2, src2Shift, src2Width}, Size{src2Width}, Size{src2Height},
+        MatrixArrayPointers{ppDst, dstShift, dstStride0, Kind::lengths(src1Width, src1Height, src2Width, src2Height).n},
+        Kind::fit(src1Width, src1Height, src2Width, src2Height));
 }
 
-// Object by object through the single-object kernel.
-template <class T>
-VORM_INLINE VormStatus mamEachSingle(MmLayer<T>* single, MAM_PARAMS_L(T))
-{
-    const MatrixList src1{ppSrc1, src1Shift, src1Stride1, src1Stride2};
-    const MatrixList dst{ppDst, dstShift, dstStride1, dstStride2};
-    for (int n = 0; n < count; ++n)
-        single(src1.object(n), src1Stride1, src1Stride2, src1Width, src1Height, pSrc2, src2Stride1, src2Stride2,
-               src2Width, src2Height, dst.object(n), dstStride1, dstStride2);
-    return StatusOk;
-}
-
-template <class Kind, Outermost outermost = Outermost::rows, class T>
-VORM_INLINE VormStatus mamPointers(MAM_PARAMS_P(T))
-{
-    const Lengths lengths = Kind::lengths(src1Width, src1Height, src2Width, src2Height);
-    return pointerProducts<T, outermost>(Kind::first(MatrixArrayPointers{ppSrc1, src1Shift, src1Stride0, src1Width}),
-                                         Kind::second(MatrixPointers{ppSrc2, src2Shift, src2Width}),
-                                         MatrixArrayPointers{ppDst, dstShift, dstStride0, lengths.n}, lengths, count);
-}
-
-}  // namespace vorm
+}  // namespace vorm::products

@@ -16,11 +16,10 @@ template <class First, class Second>
 struct Kind {
     static constexpr bool transposed1 = First::isTransposed, transposed2 = Second::isTransposed;
 
-    // Opaque like the test for contiguous elements (frame/checks.hpp): a compiler that knows two sizes to
-    // be equal passes one for the other.
-    VORM_INLINE static bool fits(int src1Width, int src1Height, int src2Width, int src2Height)
+    // The inner sizes have to be equal.
+    static constexpr Fit fit(int src1Width, int src1Height, int src2Width, int src2Height)
     {
-        return opaque(First::columns(src1Width, src1Height) ^ Second::rows(src2Width, src2Height)) == 0;
+        return {First::columns(src1Width, src1Height), Second::rows(src2Width, src2Height)};
     }
     static constexpr Lengths lengths(int src1Width, int src1Height, int src2Width, int src2Height)
     {

@@ -2,9 +2,9 @@
 // either one transposed and so makes the shapes mt, tm and tt of it.
 #pragma once
 
-#include "frame/checks.hpp"
+#include "frame/call.hpp"
 #include "products/layers.hpp"
-#include "products/matrix_kernels.hpp"
+#include "products/matrix_calls.hpp"
 
 // The operands of the pointer layout, in the order and with the names of the exported prototypes; those
 // of the standard layout are in matrix_general.hpp.
@@ -13,40 +13,25 @@
         int src2Width, int src2Height, T *const *ppDst, int dstShift
 #define MM_ARGS_P ppSrc1, src1Shift, src1Width, src1Height, ppSrc2, src2Shift, src2Width, src2Height, ppDst, dstShift
 
-namespace vorm {
-
-template <class T>
-using MmLayer = VormStatus(MM_PARAMS(T));
-template <class T>
-using MmLayerP = VormStatus(MM_PARAMS_P(T));
-
-// Public layers. ----------------------------------------------------------------------------------
+namespace vorm::products {
 
 template <class Kind, class T>
-VORM_INLINE VormStatus mmChecked(MmLayer<T>* kernel, MmLayer<T>* kernelS2, MM_PARAMS(T))
+VORM_INLINE auto mm(MM_PARAMS(T))
 {
-    if (anyNull(pSrc1, pSrc2, pDst)) return StatusNullPointer;
-    if (anyBelowOne(src1Width, src1Height, src2Width, src2Height)) return StatusBadSize;
-    if (!Kind::fits(src1Width, src1Height, src2Width, src2Height)) return StatusSizeMismatch;
-    if (anyBadStride<T>(src1Stride1, src1Stride2, src2Stride1, src2Stride2, dstStride1, dstStride2))
-        return StatusBadStride;
-
-    if (contiguous<T>(src1Stride2, src2Stride2, dstStride2)) return kernel(MM_ARGS);
-    return kernelS2(MM_ARGS);
+    return callOf<T>(Matrix{pSrc1, src1Stride1, src1Stride2}, Size{src1Width}, Size{src1Height},
+                     Matrix{pSrc2, src2Stride1, src2Stride2}, Size{src2Width}, Size{src2Height},
+                     Matrix{pDst, dstStride1, dstStride2}, Kind::fit(src1Width, src1Height, src2Width, src2Height));
 }
-
 template <class Kind, class T>
-VORM_INLINE VormStatus mmCheckedP(MmLayerP<T>* kernel, MM_PARAMS_P(T))
+VORM_INLINE auto mmP(MM_PARAMS_P(T))
 {
-    if (anyNull(ppSrc1, ppSrc2, ppDst)) return StatusNullPointer;
-    if (anyBelowOne(src1Width, src1Height, src2Width, src2Height)) return StatusBadSize;
-    if (!Kind::fits(src1Width, src1Height, src2Width, src2Height)) return StatusSizeMismatch;
-    if (anyBadShift<T>(src1Shift, src2Shift, dstShift)) return StatusBadShift;
-
-    return kernel(MM_ARGS_P);
+    return callOf<T>(MatrixPointers{ppSrc1, src1Shift, src1Width}, Size{src1Width}, Size{src1Height},
+                     MatrixPointers{ppSrc2, src2Shift, src2Width}, Size{src2Width}, Size{src2Height},
+                     MatrixPointers{ppDst, dstShift, Kind::lengths(src1Width, src1Height, src2Width, src2Height).n},
+                     Kind::fit(src1Width, src1Height, src2Width, src2Height));
 }
 
-// Kernels. ----------------------------------------------------------------------------------------
+// The contiguous kernel, over plain arguments: jumps all the way. --------------------------------------------
 
 // A function of its own for each order, so that none pays for the registers and memory of another.
 template <class Kind, int n, Order order, class T>
@@ -77,21 +62,4 @@ VORM_INLINE VormStatus mmContiguous(MM_PARAMS(T))
     return mmSquare<Kind, bodies>(MM_ARGS);
 }
 
-template <class Kind, class T>
-VORM_INLINE VormStatus mmAnyStride(MM_PARAMS(T))
-{
-    return productsAnywhere<T>(
-        Kind::first(Matrix{pSrc1, src1Stride1, src1Stride2}), Kind::second(Matrix{pSrc2, src2Stride1, src2Stride2}),
-        Matrix{pDst, dstStride1, dstStride2}, Kind::lengths(src1Width, src1Height, src2Width, src2Height), 0, 1);
-}
-
-template <class Kind, Outermost outermost = Outermost::rows, class T>
-VORM_INLINE VormStatus mmPointers(MM_PARAMS_P(T))
-{
-    const Lengths lengths = Kind::lengths(src1Width, src1Height, src2Width, src2Height);
-    return productsAnywhere<T, outermost>(Kind::first(MatrixPointers{ppSrc1, src1Shift, src1Width}),
-                                          Kind::second(MatrixPointers{ppSrc2, src2Shift, src2Width}),
-                                          MatrixPointers{ppDst, dstShift, lengths.n}, lengths, 0, 1);
-}
-
-}  // namespace vorm
+}  // namespace vorm::products

@@ -2,11 +2,10 @@
 // either one transposed and so makes the shapes mta, tma and tta of it.
 #pragma once
 
-#include "frame/checks.hpp"
-#include "frame/team.hpp"
+#include "frame/call.hpp"
 #include "products/layers.hpp"
-#include "products/matrix_kernels.hpp"
-#include "products/mm.hpp"
+#include "products/matrix_kinds.hpp"
+#include "products/paths.hpp"
 
 // The operands by layout, in the order and with the names of the exported prototypes.
 #define MMA_PARAMS(T)                                                                                                 \
@@ -30,159 +29,43 @@
     ppSrc1, src1Shift, src1Width, src1Height, ppSrc2, src2Shift, src2Stride0, src2Width, src2Height, ppDst, dstShift, \
         dstStride0, count
 
-namespace vorm {
-
-template <class T>
-using MmaLayer = VormStatus(MMA_PARAMS(T));
-template <class T>
-using MmaLayerL = VormStatus(MMA_PARAMS_L(T));
-template <class T>
-using MmaLayerP = VormStatus(MMA_PARAMS_P(T));
+namespace vorm::products {
 
 // W1 H1 + (M + K) N count
 template <class Kind>
-constexpr int mmaWork(int src1Width, int src1Height, int src2Width, int src2Height, int count)
+constexpr Work mmaWork(int src1Width, int src1Height, int src2Width, int src2Height, int count)
 {
     const Lengths d = Kind::lengths(src1Width, src1Height, src2Width, src2Height);
-    return wrapAdd(wrapMul(src1Width, src1Height), wrapMul(wrapAdd(d.m, d.k), d.n, count));
-}
-
-// Public layers. ----------------------------------------------------------------------------------
-
-template <class Kind, int teamLimit, class T>
-VORM_INLINE VormStatus mmaChecked(MmaLayer<T>* driver, MmaLayer<T>* kernel, MmaLayer<T>* kernelS2, MMA_PARAMS(T))
-{
-    if (anyNull(pSrc1, pSrc2, pDst)) return StatusNullPointer;
-    if (count < 1) return StatusBadCount;
-    if (anyBelowOne(src1Width, src1Height, src2Width, src2Height)) return StatusBadSize;
-    if (!Kind::fits(src1Width, src1Height, src2Width, src2Height)) return StatusSizeMismatch;
-    if (anyBadStride<T>(src1Stride1, src1Stride2, src2Stride0, src2Stride1, src2Stride2, dstStride0, dstStride1,
-                        dstStride2))
-        return StatusBadStride;
-
-    const int work = mmaWork<Kind>(src1Width, src1Height, src2Width, src2Height, count);
-    const bool isContiguous = contiguous<T>(src1Stride2, src2Stride2, dstStride2);
-    if (work > (isContiguous ? teamLimit : teamLimitAnyStride)) return driver(MMA_ARGS);
-    if (isContiguous) return kernel(MMA_ARGS);
-    return kernelS2(MMA_ARGS);
+    return workOf(wrapAdd(wrapMul(src1Width, src1Height), wrapMul(wrapAdd(d.m, d.k), d.n, count)), 250);
 }
 
 template <class Kind, class T>
-VORM_INLINE VormStatus mmaCheckedL(MmaLayerL<T>* driver, MmaLayerL<T>* kernel, MmaLayerL<T>* kernelS2, MMA_PARAMS_L(T))
+VORM_INLINE auto mma(MMA_PARAMS(T))
 {
-    if (anyNull(pSrc1, ppSrc2, ppDst)) return StatusNullPointer;
-    if (count < 1) return StatusBadCount;
-    if (anyBelowOne(src1Width, src1Height, src2Width, src2Height)) return StatusBadSize;
-    if (!Kind::fits(src1Width, src1Height, src2Width, src2Height)) return StatusSizeMismatch;
-    if (anyBadStride<T>(src1Stride1, src1Stride2, src2Stride1, src2Stride2, dstStride1, dstStride2))
-        return StatusBadStride;
-    if (anyBadShift<T>(src2Shift, dstShift)) return StatusBadShift;
-
-    const int work = mmaWork<Kind>(src1Width, src1Height, src2Width, src2Height, count);
-    const bool isContiguous = contiguous<T>(src1Stride2, src2Stride2, dstStride2);
-    if (work > (isContiguous ? teamLimitList : teamLimitAnyStride)) return driver(MMA_ARGS_L);
-    if (isContiguous) return kernel(MMA_ARGS_L);
-    return kernelS2(MMA_ARGS_L);
+    return arrayCallOf<T>(mmaWork<Kind>(src1Width, src1Height, src2Width, src2Height, count), count,
+                          Matrix{pSrc1, src1Stride1, src1Stride2}, Size{src1Width}, Size{src1Height},
+                          MatrixArray{pSrc2, src2Stride0, src2Stride1, src2Stride2}, Size{src2Width}, Size{src2Height},
+                          MatrixArray{pDst, dstStride0, dstStride1, dstStride2},
+                          Kind::fit(src1Width, src1Height, src2Width, src2Height));
 }
-
 template <class Kind, class T>
-VORM_INLINE VormStatus mmaCheckedP(MmaLayerP<T>* driver, MmaLayerP<T>* kernel, MMA_PARAMS_P(T))
+VORM_INLINE auto mmaL(MMA_PARAMS_L(T))
 {
-    if (anyNull(ppSrc1, ppSrc2, ppDst)) return StatusNullPointer;
-    if (count < 1) return StatusBadCount;
-    if (anyBelowOne(src1Width, src1Height, src2Width, src2Height)) return StatusBadSize;
-    if (!Kind::fits(src1Width, src1Height, src2Width, src2Height)) return StatusSizeMismatch;
-    if (anyBadStride<T>(src2Stride0, dstStride0)) return StatusBadStride;
-    if (anyBadShift<T>(src1Shift, src2Shift, dstShift)) return StatusBadShift;
-
-    const int work = mmaWork<Kind>(src1Width, src1Height, src2Width, src2Height, count);
-    if (work > teamLimitPointers) return driver(MMA_ARGS_P);
-    return kernel(MMA_ARGS_P);
+    return arrayCallOf<T>(mmaWork<Kind>(src1Width, src1Height, src2Width, src2Height, count), count,
+                          Matrix{pSrc1, src1Stride1, src1Stride2}, Size{src1Width}, Size{src1Height},
+                          MatrixList{ppSrc2, src2Shift, src2Stride1, src2Stride2}, Size{src2Width}, Size{src2Height},
+                          MatrixList{ppDst, dstShift, dstStride1, dstStride2},
+                          Kind::fit(src1Width, src1Height, src2Width, src2Height));
 }
-
-// Drivers. ----------------------------------------------------------------------------------------
-
-template <class T>
-VORM_INLINE VormStatus mmaTeam(MmaLayer<T>* contiguousKernel, MmaLayer<T>* kernelS2, MMA_PARAMS(T))
-{
-    auto* const kernel = contiguous<T>(src1Stride2, src2Stride2, dstStride2) ? contiguousKernel : kernelS2;
-    return inTeam<Kernels::cannotFail>(count, [=](const Chunk& chunk) {
-        return kernel(pSrc1, src1Stride1, src1Stride2, src1Width, src1Height,
-                      advance(pSrc2, wrapMul(chunk.first, src2Stride0)), src2Stride0, src2Stride1, src2Stride2,
-                      src2Width, src2Height, advance(pDst, wrapMul(chunk.first, dstStride0)), dstStride0, dstStride1,
-                      dstStride2, chunk.objects);
-    });
-}
-
-template <class T>
-VORM_INLINE VormStatus mmaTeamL(MmaLayerL<T>* contiguousKernel, MmaLayerL<T>* kernelS2, MMA_PARAMS_L(T))
-{
-    auto* const kernel = contiguous<T>(src1Stride2, src2Stride2, dstStride2) ? contiguousKernel : kernelS2;
-    return inTeam<Kernels::cannotFail>(count, [=](const Chunk& chunk) {
-        return kernel(pSrc1, src1Stride1, src1Stride2, src1Width, src1Height, ppSrc2 + chunk.first, src2Shift,
-                      src2Stride1, src2Stride2, src2Width, src2Height, ppDst + chunk.first, dstShift, dstStride1,
-                      dstStride2, chunk.objects);
-    });
-}
-
-template <class T>
-VORM_INLINE VormStatus mmaTeamP(MmaLayerP<T>* kernel, MMA_PARAMS_P(T))
-{
-    return inTeam<Kernels::cannotFail>(count, [=](const Chunk& chunk) {
-        return kernel(ppSrc1, src1Shift, src1Width, src1Height, ppSrc2,
-                      wrapAdd(src2Shift, wrapMul(chunk.first, src2Stride0)), src2Stride0, src2Width, src2Height, ppDst,
-                      wrapAdd(dstShift, wrapMul(chunk.first, dstStride0)), dstStride0, chunk.objects);
-    });
-}
-
-// Kernels. ----------------------------------------------------------------------------------------
-
-template <class Kind, Bodies bodies = Bodies::upTo6, class T>
-VORM_INLINE VormStatus mmaContiguous(MMA_PARAMS(T))
-{
-    return contiguousProducts<Kind, bodies, T>(Matrix{pSrc1, src1Stride1, adjacent},
-                                               MatrixArray{pSrc2, src2Stride0, src2Stride1, adjacent},
-                                               MatrixArray{pDst, dstStride0, dstStride1, adjacent},
-                                               Kind::lengths(src1Width, src1Height, src2Width, src2Height), count);
-}
-
-template <class Kind, Bodies bodies = Bodies::upTo6, class T>
-VORM_INLINE VormStatus mmaContiguousL(MMA_PARAMS_L(T))
-{
-    return contiguousProducts<Kind, bodies, T>(Matrix{pSrc1, src1Stride1, adjacent},
-                                               MatrixList{ppSrc2, src2Shift, src2Stride1, adjacent},
-                                               MatrixList{ppDst, dstShift, dstStride1, adjacent},
-                                               Kind::lengths(src1Width, src1Height, src2Width, src2Height), count);
-}
-
 template <class Kind, class T>
-VORM_INLINE VormStatus mmaAnyStride(MMA_PARAMS(T))
+VORM_INLINE auto mmaP(MMA_PARAMS_P(T))
 {
-    return productsAnywhere<T>(Kind::first(Matrix{pSrc1, src1Stride1, src1Stride2}),
-                               Kind::second(MatrixArray{pSrc2, src2Stride0, src2Stride1, src2Stride2}),
-                               MatrixArray{pDst, dstStride0, dstStride1, dstStride2},
-                               Kind::lengths(src1Width, src1Height, src2Width, src2Height), 0, count);
+    return arrayCallOf<T>(
+        mmaWork<Kind>(src1Width, src1Height, src2Width, src2Height, count), count,
+        MatrixPointers{ppSrc1, src1Shift, src1Width}, Size{src1Width}, Size{src1Height},
+        MatrixArrayPointers{ppSrc2, src2Shift, src2Stride0, src2Width}, Size{src2Width}, Size{src2Height},
+        MatrixArrayPointers{ppDst, dstShift, dstStride0, Kind::lengths(src1Width, src1Height, src2Width, src2Height).n},
+        Kind::fit(src1Width, src1Height, src2Width, src2Height));
 }
 
-// Object by object through the single-object kernel.
-template <class T>
-VORM_INLINE VormStatus mmaEachSingle(MmLayer<T>* single, MMA_PARAMS_L(T))
-{
-    const MatrixList src2{ppSrc2, src2Shift, src2Stride1, src2Stride2};
-    const MatrixList dst{ppDst, dstShift, dstStride1, dstStride2};
-    for (int n = 0; n < count; ++n)
-        single(pSrc1, src1Stride1, src1Stride2, src1Width, src1Height, src2.object(n), src2Stride1, src2Stride2,
-               src2Width, src2Height, dst.object(n), dstStride1, dstStride2);
-    return StatusOk;
-}
-
-template <class Kind, Outermost outermost = Outermost::rows, class T>
-VORM_INLINE VormStatus mmaPointers(MMA_PARAMS_P(T))
-{
-    const Lengths lengths = Kind::lengths(src1Width, src1Height, src2Width, src2Height);
-    return pointerProducts<T, outermost>(Kind::first(MatrixPointers{ppSrc1, src1Shift, src1Width}),
-                                         Kind::second(MatrixArrayPointers{ppSrc2, src2Shift, src2Stride0, src2Width}),
-                                         MatrixArrayPointers{ppDst, dstShift, dstStride0, lengths.n}, lengths, count);
-}
-
-}  // namespace vorm
+}  // namespace vorm::products

@@ -2,11 +2,9 @@
 // the shape tva of it.
 #pragma once
 
-#include "frame/checks.hpp"
-#include "frame/team.hpp"
+#include "frame/call.hpp"
 #include "products/layers.hpp"
-#include "products/mv.hpp"
-#include "products/vector_kernels.hpp"
+#include "products/paths.hpp"
 
 // The operands by layout, in the order and with the names of the exported prototypes.
 #define MVA_PARAMS(T)                                                                                                 \
@@ -28,146 +26,36 @@
     ppSrc1, src1Shift, src1Width, src1Height, ppSrc2, src2Shift, src2Stride0, src2Len, ppDst, dstShift, dstStride0, \
         count
 
-namespace vorm {
-
-template <class T>
-using MvaLayer = VormStatus(MVA_PARAMS(T));
-template <class T>
-using MvaLayerL = VormStatus(MVA_PARAMS_L(T));
-template <class T>
-using MvaLayerP = VormStatus(MVA_PARAMS_P(T));
+namespace vorm::products {
 
 // W H + (W + H) count
-constexpr int mvaWork(int src1Width, int src1Height, int count)
+constexpr Work mvaWork(int src1Width, int src1Height, int count)
 {
-    return wrapAdd(wrapMul(src1Width, src1Height), wrapMul(wrapAdd(src1Width, src1Height), count));
+    return workOf(wrapAdd(wrapMul(src1Width, src1Height), wrapMul(wrapAdd(src1Width, src1Height), count)), 250);
 }
 
-// Public layers. ----------------------------------------------------------------------------------
-
-template <class Form, int teamLimit, class T>
-VORM_INLINE VormStatus mvaChecked(MvaLayer<T>* driver, MvaLayer<T>* kernel, MvaLayer<T>* kernelS2, MVA_PARAMS(T))
+template <class As, class T>
+VORM_INLINE auto mva(MVA_PARAMS(T))
 {
-    if (anyNull(pSrc1, pSrc2, pDst)) return StatusNullPointer;
-    if (count < 1) return StatusBadCount;
-    if (anyBelowOne(src2Len, src1Width, src1Height)) return StatusBadSize;
-    if (!Form::fits(src1Width, src1Height, src2Len)) return StatusSizeMismatch;
-    if (anyBadStride<T>(src1Stride1, src1Stride2, src2Stride0, src2Stride2, dstStride0, dstStride2))
-        return StatusBadStride;
-
-    const int work = mvaWork(src1Width, src1Height, count);
-    if (contiguous<T>(src1Stride2, src2Stride2, dstStride2))
-        return work > teamLimit ? driver(MVA_ARGS) : kernel(MVA_ARGS);
-    return work > teamLimitAnyStride ? driver(MVA_ARGS) : kernelS2(MVA_ARGS);
+    return arrayCallOf<T>(mvaWork(src1Width, src1Height, count), count, Matrix{pSrc1, src1Stride1, src1Stride2},
+                          Size{src1Width}, Size{src1Height}, VectorArray{pSrc2, src2Stride0, src2Stride2},
+                          Size{src2Len}, VectorArray{pDst, dstStride0, dstStride2},
+                          Fit{As::columns(src1Width, src1Height), src2Len});
+}
+template <class As, class T>
+VORM_INLINE auto mvaL(MVA_PARAMS_L(T))
+{
+    return arrayCallOf<T>(mvaWork(src1Width, src1Height, count), count, Matrix{pSrc1, src1Stride1, src1Stride2},
+                          Size{src1Width}, Size{src1Height}, VectorList{ppSrc2, src2Shift, src2Stride2}, Size{src2Len},
+                          VectorList{ppDst, dstShift, dstStride2}, Fit{As::columns(src1Width, src1Height), src2Len});
+}
+template <class As, class T>
+VORM_INLINE auto mvaP(MVA_PARAMS_P(T))
+{
+    return arrayCallOf<T>(mvaWork(src1Width, src1Height, count), count, MatrixPointers{ppSrc1, src1Shift, src1Width},
+                          Size{src1Width}, Size{src1Height}, VectorArrayPointers{ppSrc2, src2Shift, src2Stride0},
+                          Size{src2Len}, VectorArrayPointers{ppDst, dstShift, dstStride0},
+                          Fit{As::columns(src1Width, src1Height), src2Len});
 }
 
-template <class Form, class T>
-VORM_INLINE VormStatus mvaCheckedL(MvaLayerL<T>* driver, MvaLayerL<T>* kernel, MvaLayerL<T>* kernelS2, MVA_PARAMS_L(T))
-{
-    if (anyNull(pSrc1, ppSrc2, ppDst)) return StatusNullPointer;
-    if (count < 1) return StatusBadCount;
-    if (anyBelowOne(src2Len, src1Width, src1Height)) return StatusBadSize;
-    if (!Form::fits(src1Width, src1Height, src2Len)) return StatusSizeMismatch;
-    if (anyBadStride<T>(src1Stride1, src1Stride2, src2Stride2, dstStride2)) return StatusBadStride;
-    if (anyBadShift<T>(src2Shift, dstShift)) return StatusBadShift;
-
-    const int work = mvaWork(src1Width, src1Height, count);
-    if (contiguous<T>(src1Stride2, src2Stride2, dstStride2))
-        return work > teamLimitList ? driver(MVA_ARGS_L) : kernel(MVA_ARGS_L);
-    return work > teamLimitAnyStride ? driver(MVA_ARGS_L) : kernelS2(MVA_ARGS_L);
-}
-
-template <class Form, class T>
-VORM_INLINE VormStatus mvaCheckedP(MvaLayerP<T>* driver, MvaLayerP<T>* kernel, MVA_PARAMS_P(T))
-{
-    if (anyNull(ppSrc1, ppSrc2, ppDst)) return StatusNullPointer;
-    if (count < 1) return StatusBadCount;
-    if (anyBelowOne(src2Len, src1Width, src1Height)) return StatusBadSize;
-    if (!Form::fits(src1Width, src1Height, src2Len)) return StatusSizeMismatch;
-    if (anyBadStride<T>(src2Stride0, dstStride0)) return StatusBadStride;
-    if (anyBadShift<T>(src1Shift, src2Shift, dstShift)) return StatusBadShift;
-
-    const int work = mvaWork(src1Width, src1Height, count);
-    return work > teamLimitPointers ? driver(MVA_ARGS_P) : kernel(MVA_ARGS_P);
-}
-
-// Drivers. ----------------------------------------------------------------------------------------
-
-template <class T>
-VORM_INLINE VormStatus mvaTeam(MvaLayer<T>* contiguousKernel, MvaLayer<T>* kernelS2, MVA_PARAMS(T))
-{
-    auto* const kernel = contiguous<T>(src1Stride2, src2Stride2, dstStride2) ? contiguousKernel : kernelS2;
-    return inTeam<Kernels::cannotFail>(count, [=](const Chunk& chunk) {
-        return kernel(pSrc1, src1Stride1, src1Stride2, src1Width, src1Height,
-                      advance(pSrc2, wrapMul(chunk.first, src2Stride0)), src2Stride0, src2Stride2, src2Len,
-                      advance(pDst, wrapMul(chunk.first, dstStride0)), dstStride0, dstStride2, chunk.objects);
-    });
-}
-
-template <class T>
-VORM_INLINE VormStatus mvaTeamL(MvaLayerL<T>* contiguousKernel, MvaLayerL<T>* kernelS2, MVA_PARAMS_L(T))
-{
-    auto* const kernel = contiguous<T>(src1Stride2, src2Stride2, dstStride2) ? contiguousKernel : kernelS2;
-    return inTeam<Kernels::cannotFail>(count, [=](const Chunk& chunk) {
-        return kernel(pSrc1, src1Stride1, src1Stride2, src1Width, src1Height, ppSrc2 + chunk.first, src2Shift,
-                      src2Stride2, src2Len, ppDst + chunk.first, dstShift, dstStride2, chunk.objects);
-    });
-}
-
-template <class T>
-VORM_INLINE VormStatus mvaTeamP(MvaLayerP<T>* kernel, MVA_PARAMS_P(T))
-{
-    return inTeam<Kernels::cannotFail>(count, [=](const Chunk& chunk) {
-        return kernel(ppSrc1, src1Shift, src1Width, src1Height, ppSrc2,
-                      wrapAdd(src2Shift, wrapMul(chunk.first, src2Stride0)), src2Stride0, src2Len, ppDst,
-                      wrapAdd(dstShift, wrapMul(chunk.first, dstStride0)), dstStride0, chunk.objects);
-    });
-}
-
-// Kernels. ----------------------------------------------------------------------------------------
-
-template <class Form, class T>
-VORM_INLINE VormStatus mvaContiguous(MVA_PARAMS(T))
-{
-    return contiguousProducts<Form, Bodies::upTo6, T>(
-        Matrix{pSrc1, src1Stride1, adjacent}, VectorArray{pSrc2, src2Stride0, adjacent},
-        VectorArray{pDst, dstStride0, adjacent}, src1Width, src1Height, count);
-}
-
-template <class Form, Bodies bodies = Bodies::upTo6, class T>
-VORM_INLINE VormStatus mvaContiguousL(MVA_PARAMS_L(T))
-{
-    return contiguousProducts<Form, bodies, T>(Matrix{pSrc1, src1Stride1, adjacent},
-                                               VectorList{ppSrc2, src2Shift, adjacent},
-                                               VectorList{ppDst, dstShift, adjacent}, src1Width, src1Height, count);
-}
-
-template <class Form, class T>
-VORM_INLINE VormStatus mvaAnyStride(MVA_PARAMS(T))
-{
-    return productsAnywhere<T>(Form::used(Matrix{pSrc1, src1Stride1, src1Stride2}),
-                               VectorArray{pSrc2, src2Stride0, src2Stride2}, VectorArray{pDst, dstStride0, dstStride2},
-                               Form::rows(src1Width, src1Height), src2Len, 0, count);
-}
-
-// Object by object through the single-object kernel.
-template <class T>
-VORM_INLINE VormStatus mvaEachSingle(MvLayer<T>* single, MVA_PARAMS_L(T))
-{
-    const VectorList src2{ppSrc2, src2Shift, src2Stride2};
-    const VectorList dst{ppDst, dstShift, dstStride2};
-    for (int n = 0; n < count; ++n)
-        single(pSrc1, src1Stride1, src1Stride2, src1Width, src1Height, src2.object(n), src2Stride2, src2Len,
-               dst.object(n), dstStride2);
-    return StatusOk;
-}
-
-template <class Form, class T>
-VORM_INLINE VormStatus mvaPointers(MVA_PARAMS_P(T))
-{
-    return pointerProducts<T>(
-        Form::used(MatrixPointers{ppSrc1, src1Shift, src1Width}), VectorArrayPointers{ppSrc2, src2Shift, src2Stride0},
-        VectorArrayPointers{ppDst, dstShift, dstStride0}, Form::rows(src1Width, src1Height), src2Len, count);
-}
-
-}  // namespace vorm
+}  // namespace vorm::products

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs a build tree into a staging folder, then builds and runs the consumers against it, by the CMake
-# package and by pkg-config: run.sh BUILD_TREE C_COMPILER CXX_COMPILER.
+# package and by pkg-config: run.sh BUILD_TREE GENERATOR C_COMPILER CXX_COMPILER.
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 stage=$(mktemp -d)
@@ -15,14 +15,15 @@ for file in vorm/vorm.h vorm/elementwise.inc vorcore/vorcore.h; do
     [ -e "$stage/usr/include/$file" ] || { echo "not installed: $file"; exit 1; }
 done
 
-cmake -S "$here" -B "$stage/build" -DCMAKE_PREFIX_PATH="$stage/usr" -DCMAKE_C_COMPILER="$2" -DCMAKE_CXX_COMPILER="$3" >/dev/null
+cmake -G "$2" -S "$here" -B "$stage/build" -DCMAKE_PREFIX_PATH="$stage/usr" -DCMAKE_C_COMPILER="$3" \
+    -DCMAKE_CXX_COMPILER="$4" >/dev/null
 cmake --build "$stage/build" >/dev/null
 "$stage/build/consumer_c"
 "$stage/build/consumer_cpp"
 
 export PKG_CONFIG_PATH=$library/pkgconfig
 # shellcheck disable=SC2046
-"$2" -std=c99 "$here/consumer.c" -o "$stage/by_pkg_config" $(pkg-config --define-variable=prefix="$stage/usr" --cflags --libs vorm) \
+"$3" -std=c99 "$here/consumer.c" -o "$stage/by_pkg_config" $(pkg-config --define-variable=prefix="$stage/usr" --cflags --libs vorm) \
     -Wl,-rpath-link,"$library"
 LD_LIBRARY_PATH=$library "$stage/by_pkg_config"
 echo "installed package works"

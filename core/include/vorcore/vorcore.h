@@ -34,8 +34,14 @@ VORCORE_API int vorGetCpuFeatures(uint64_t *features, uint32_t *cpuidRegisters);
 /* The features that libraries are to use: those the processor has. */
 VORCORE_API uint64_t vorGetEnabledCpuFeatures(void);
 
-/* Number of threads a parallel call may use, at least 1. The default is the number of processors
- * this process may run on, asked once. */
+/* Number of threads that a parallel call of the calling thread may use, at least 1: what
+ * vorSetNumThreadsLocal set for this thread, else what vorSetNumThreads set, else the default. The
+ * default is the environment's VORM_NUM_THREADS where that is a positive number, else the first number
+ * of OMP_NUM_THREADS, else the processors this process may run on, by its affinity mask and by the
+ * quota of its control groups (rounded up). It is found out at the first question and then stands.
+ *
+ * A child of fork() begins anew with a default of 1: it runs everything on one thread until it sets a
+ * number itself. Not every OpenMP runtime can start threads in a child whose parent had some. */
 VORCORE_API int32_t ownGetNumThreads(void);
 
 /* The same number, for callers: returns VorCoreOk, or VorCoreNullPointer. */
@@ -43,6 +49,9 @@ VORCORE_API int vorGetNumThreads(int32_t *threads);
 
 /* Sets it for the whole process; 0 goes back to the default, below 0 is VorCoreBadArgument. */
 VORCORE_API int vorSetNumThreads(int32_t threads);
+
+/* Sets it for the calling thread alone; 0 goes back to the number of the process. */
+VORCORE_API int vorSetNumThreadsLocal(int32_t threads);
 
 /* Size in bytes of the largest data or unified cache. VorCoreNullPointer without a place to put
  * it, VorCoreUnknown (and nothing stored) where the processor does not tell. */

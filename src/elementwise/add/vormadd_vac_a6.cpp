@@ -1,11 +1,13 @@
 // vormAdd_vac: the kernels for contiguous elements, single precision.
 
+#include "elementwise/array_kernels.hpp"
 #include "elementwise/vac.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
-VormStatus n8_ownvormAdd_vac_32f(VAC_PARAMS(float)) { return vacContiguous<Add>(VAC_ARGS); }
-VormStatus n8_ownvormAdd_vac_32f_L(VAC_PARAMS_L(float)) { return vacContiguousL<Add>(VAC_ARGS_L); }
+VormStatus n8_ownvormAdd_vac_32f(VAC_PARAMS(float)) { return contiguousKernel<Add>(vac(VAC_ARGS)); }
+VormStatus n8_ownvormAdd_vac_32f_L(VAC_PARAMS_L(float)) { return contiguousKernel<Add>(vacL(VAC_ARGS_L)); }
 }

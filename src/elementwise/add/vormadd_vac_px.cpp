@@ -1,44 +1,46 @@
 // vormAdd_vac: public layers, and the kernels for elements anywhere.
 
+#include "elementwise/array_kernels.hpp"
 #include "elementwise/vac.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
 VormStatus n8_vormAdd_vac_32f(VAC_PARAMS(float))
 {
-    return vacChecked<4800, Work::elements>(n8_ownOMP_vormAdd_vac_32f, n8_ownvormAdd_vac_32f, n8_ownvormAdd_vac_32f_S2,
-                                            VAC_ARGS);
+    return checked<4800>(vac(VAC_ARGS), n8_ownOMP_vormAdd_vac_32f, n8_ownvormAdd_vac_32f, n8_ownvormAdd_vac_32f_S2,
+                         VAC_ARGS);
 }
 VormStatus n8_vormAdd_vac_64f(VAC_PARAMS(double))
 {
-    return vacChecked<1400, Work::elements>(n8_ownOMP_vormAdd_vac_64f, n8_ownvormAdd_vac_64f, n8_ownvormAdd_vac_64f_S2,
-                                            VAC_ARGS);
+    return checked<1400>(vac(VAC_ARGS), n8_ownOMP_vormAdd_vac_64f, n8_ownvormAdd_vac_64f, n8_ownvormAdd_vac_64f_S2,
+                         VAC_ARGS);
 }
 VormStatus n8_vormAdd_vac_32f_L(VAC_PARAMS_L(float))
 {
-    return vacCheckedL<2500, Work::elements>(n8_ownOMP_vormAdd_vac_32f_L, n8_ownvormAdd_vac_32f_L,
-                                             n8_ownvormAdd_vac_32f_LS2, VAC_ARGS_L);
+    return checked<2500>(vacL(VAC_ARGS_L), n8_ownOMP_vormAdd_vac_32f_L, n8_ownvormAdd_vac_32f_L,
+                         n8_ownvormAdd_vac_32f_LS2, VAC_ARGS_L);
 }
 VormStatus n8_vormAdd_vac_64f_L(VAC_PARAMS_L(double))
 {
-    return vacCheckedL<2500, Work::elements>(n8_ownOMP_vormAdd_vac_64f_L, n8_ownvormAdd_vac_64f_L,
-                                             n8_ownvormAdd_vac_64f_LS2, VAC_ARGS_L);
+    return checked<2500>(vacL(VAC_ARGS_L), n8_ownOMP_vormAdd_vac_64f_L, n8_ownvormAdd_vac_64f_L,
+                         n8_ownvormAdd_vac_64f_LS2, VAC_ARGS_L);
 }
 VormStatus n8_vormAdd_vac_32f_P(VAC_PARAMS_P(float))
 {
-    return vacCheckedP<1500, Work::elements>(n8_ownOMP_vormAdd_vac_32f_P, n8_ownvormAdd_vac_32f_P, VAC_ARGS_P);
+    return checked<1500>(vacP(VAC_ARGS_P), n8_ownOMP_vormAdd_vac_32f_P, n8_ownvormAdd_vac_32f_P, VAC_ARGS_P);
 }
 VormStatus n8_vormAdd_vac_64f_P(VAC_PARAMS_P(double))
 {
-    return vacCheckedP<1500, Work::elements>(n8_ownOMP_vormAdd_vac_64f_P, n8_ownvormAdd_vac_64f_P, VAC_ARGS_P);
+    return checked<1500>(vacP(VAC_ARGS_P), n8_ownOMP_vormAdd_vac_64f_P, n8_ownvormAdd_vac_64f_P, VAC_ARGS_P);
 }
 
-VormStatus n8_ownvormAdd_vac_32f_S2(VAC_PARAMS(float)) { return vacAnyStride<Add>(VAC_ARGS); }
-VormStatus n8_ownvormAdd_vac_64f_S2(VAC_PARAMS(double)) { return vacAnyStride<Add>(VAC_ARGS); }
-VormStatus n8_ownvormAdd_vac_32f_LS2(VAC_PARAMS_L(float)) { return vacAnyStrideL<Add>(VAC_ARGS_L); }
-VormStatus n8_ownvormAdd_vac_64f_LS2(VAC_PARAMS_L(double)) { return vacAnyStrideL<Add>(VAC_ARGS_L); }
-VormStatus n8_ownvormAdd_vac_32f_P(VAC_PARAMS_P(float)) { return vacPointers<Add>(VAC_ARGS_P); }
-VormStatus n8_ownvormAdd_vac_64f_P(VAC_PARAMS_P(double)) { return vacPointers<Add>(VAC_ARGS_P); }
+VormStatus n8_ownvormAdd_vac_32f_S2(VAC_PARAMS(float)) { return anyStrideKernel<Add>(vac(VAC_ARGS)); }
+VormStatus n8_ownvormAdd_vac_64f_S2(VAC_PARAMS(double)) { return anyStrideKernel<Add>(vac(VAC_ARGS)); }
+VormStatus n8_ownvormAdd_vac_32f_LS2(VAC_PARAMS_L(float)) { return anyStrideKernel<Add>(vacL(VAC_ARGS_L)); }
+VormStatus n8_ownvormAdd_vac_64f_LS2(VAC_PARAMS_L(double)) { return anyStrideKernel<Add>(vacL(VAC_ARGS_L)); }
+VormStatus n8_ownvormAdd_vac_32f_P(VAC_PARAMS_P(float)) { return pointerKernel<Add>(vacP(VAC_ARGS_P)); }
+VormStatus n8_ownvormAdd_vac_64f_P(VAC_PARAMS_P(double)) { return pointerKernel<Add>(vacP(VAC_ARGS_P)); }
 }

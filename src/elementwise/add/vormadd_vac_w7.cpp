@@ -1,11 +1,13 @@
 // vormAdd_vac: the kernels for contiguous elements, double precision.
 
+#include "elementwise/array_kernels.hpp"
 #include "elementwise/vac.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
-VormStatus n8_ownvormAdd_vac_64f(VAC_PARAMS(double)) { return vacContiguous<Add>(VAC_ARGS); }
-VormStatus n8_ownvormAdd_vac_64f_L(VAC_PARAMS_L(double)) { return vacContiguousL<Add>(VAC_ARGS_L); }
+VormStatus n8_ownvormAdd_vac_64f(VAC_PARAMS(double)) { return contiguousKernel<Add>(vac(VAC_ARGS)); }
+VormStatus n8_ownvormAdd_vac_64f_L(VAC_PARAMS_L(double)) { return contiguousKernel<Add>(vacL(VAC_ARGS_L)); }
 }

@@ -1,11 +1,13 @@
 // vormAdd_vaca: the kernels for contiguous elements, single precision.
 
+#include "elementwise/array_kernels.hpp"
 #include "elementwise/vaca.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
-VormStatus n8_ownvormAdd_vaca_32f(VACA_PARAMS(float)) { return vacaContiguous<Add>(VACA_ARGS); }
-VormStatus n8_ownvormAdd_vaca_32f_L(VACA_PARAMS_L(float)) { return vacaContiguousL<Add>(VACA_ARGS_L); }
+VormStatus n8_ownvormAdd_vaca_32f(VACA_PARAMS(float)) { return contiguousKernel<Add>(vaca(VACA_ARGS)); }
+VormStatus n8_ownvormAdd_vaca_32f_L(VACA_PARAMS_L(float)) { return contiguousKernel<Add>(vacaL(VACA_ARGS_L)); }
 }

@@ -1,33 +1,35 @@
 // vormAdd_vaca: team-parallel drivers.
 
 #include "elementwise/vaca.hpp"
+#include "frame/driver.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
 VormStatus n8_ownOMP_vormAdd_vaca_32f(VACA_PARAMS(float))
 {
-    return vacaTeam(n8_ownvormAdd_vaca_32f, n8_ownvormAdd_vaca_32f_S2, VACA_ARGS);
+    return team(vaca(VACA_ARGS), n8_ownvormAdd_vaca_32f, n8_ownvormAdd_vaca_32f_S2);
 }
 VormStatus n8_ownOMP_vormAdd_vaca_64f(VACA_PARAMS(double))
 {
-    return vacaTeam(n8_ownvormAdd_vaca_64f, n8_ownvormAdd_vaca_64f_S2, VACA_ARGS);
+    return team(vaca(VACA_ARGS), n8_ownvormAdd_vaca_64f, n8_ownvormAdd_vaca_64f_S2);
 }
 VormStatus n8_ownOMP_vormAdd_vaca_32f_L(VACA_PARAMS_L(float))
 {
-    return vacaTeamL(n8_ownvormAdd_vaca_32f_L, n8_ownvormAdd_vaca_32f_LS2, VACA_ARGS_L);
+    return team(vacaL(VACA_ARGS_L), n8_ownvormAdd_vaca_32f_L, n8_ownvormAdd_vaca_32f_LS2);
 }
 VormStatus n8_ownOMP_vormAdd_vaca_64f_L(VACA_PARAMS_L(double))
 {
-    return vacaTeamL(n8_ownvormAdd_vaca_64f_L, n8_ownvormAdd_vaca_64f_LS2, VACA_ARGS_L);
+    return team(vacaL(VACA_ARGS_L), n8_ownvormAdd_vaca_64f_L, n8_ownvormAdd_vaca_64f_LS2);
 }
 VormStatus n8_ownOMP_vormAdd_vaca_32f_P(VACA_PARAMS_P(float))
 {
-    return vacaTeamP(n8_ownvormAdd_vaca_32f_P, VACA_ARGS_P);
+    return team(vacaP(VACA_ARGS_P), n8_ownvormAdd_vaca_32f_P);
 }
 VormStatus n8_ownOMP_vormAdd_vaca_64f_P(VACA_PARAMS_P(double))
 {
-    return vacaTeamP(n8_ownvormAdd_vaca_64f_P, VACA_ARGS_P);
+    return team(vacaP(VACA_ARGS_P), n8_ownvormAdd_vaca_64f_P);
 }
 }

@@ -1,43 +1,48 @@
 // vormAdd_vaca: public layers, and the kernels for elements anywhere.
 
+#include "elementwise/array_kernels.hpp"
 #include "elementwise/vaca.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
 VormStatus n8_vormAdd_vaca_32f(VACA_PARAMS(float))
 {
-    return vacaChecked<4800>(n8_ownOMP_vormAdd_vaca_32f, n8_ownvormAdd_vaca_32f, n8_ownvormAdd_vaca_32f_S2, VACA_ARGS);
+    return checked<4800>(vaca(VACA_ARGS), n8_ownOMP_vormAdd_vaca_32f, n8_ownvormAdd_vaca_32f, n8_ownvormAdd_vaca_32f_S2,
+                         VACA_ARGS);
 }
 VormStatus n8_vormAdd_vaca_64f(VACA_PARAMS(double))
 {
-    return vacaChecked<1400>(n8_ownOMP_vormAdd_vaca_64f, n8_ownvormAdd_vaca_64f, n8_ownvormAdd_vaca_64f_S2, VACA_ARGS);
+    return checked<1400>(vaca(VACA_ARGS), n8_ownOMP_vormAdd_vaca_64f, n8_ownvormAdd_vaca_64f, n8_ownvormAdd_vaca_64f_S2,
+                         VACA_ARGS);
 }
 VormStatus n8_vormAdd_vaca_32f_L(VACA_PARAMS_L(float))
 {
-    return vacaCheckedL<2500>(n8_ownOMP_vormAdd_vaca_32f_L, n8_ownvormAdd_vaca_32f_L, n8_ownvormAdd_vaca_32f_LS2,
-                              VACA_ARGS_L);
+    return checked<2500>(vacaL(VACA_ARGS_L), n8_ownOMP_vormAdd_vaca_32f_L, n8_ownvormAdd_vaca_32f_L,
+                         n8_ownvormAdd_vaca_32f_LS2, VACA_ARGS_L);
 }
 VormStatus n8_vormAdd_vaca_64f_L(VACA_PARAMS_L(double))
 {
-    return vacaCheckedL<2500>(n8_ownOMP_vormAdd_vaca_64f_L, n8_ownvormAdd_vaca_64f_L, n8_ownvormAdd_vaca_64f_LS2,
-                              VACA_ARGS_L);
+    return checked<2500>(vacaL(VACA_ARGS_L), n8_ownOMP_vormAdd_vaca_64f_L, n8_ownvormAdd_vaca_64f_L,
+                         n8_ownvormAdd_vaca_64f_LS2, VACA_ARGS_L);
 }
 VormStatus n8_vormAdd_vaca_32f_P(VACA_PARAMS_P(float))
 {
-    return vacaCheckedP<1500, Untested::srcStride0>(n8_ownOMP_vormAdd_vaca_32f_P, n8_ownvormAdd_vaca_32f_P,
-                                                    VACA_ARGS_P);
+    return checked<1500>(
+        vacaP(ppSrc, srcShift, int{sizeof(float)}, pVal, valStride0, ppDst, dstShift, dstStride0, len, count),
+        n8_ownOMP_vormAdd_vaca_32f_P, n8_ownvormAdd_vaca_32f_P, VACA_ARGS_P);
 }
 VormStatus n8_vormAdd_vaca_64f_P(VACA_PARAMS_P(double))
 {
-    return vacaCheckedP<1500>(n8_ownOMP_vormAdd_vaca_64f_P, n8_ownvormAdd_vaca_64f_P, VACA_ARGS_P);
+    return checked<1500>(vacaP(VACA_ARGS_P), n8_ownOMP_vormAdd_vaca_64f_P, n8_ownvormAdd_vaca_64f_P, VACA_ARGS_P);
 }
 
-VormStatus n8_ownvormAdd_vaca_32f_S2(VACA_PARAMS(float)) { return vacaAnyStride<Add>(VACA_ARGS); }
-VormStatus n8_ownvormAdd_vaca_64f_S2(VACA_PARAMS(double)) { return vacaAnyStride<Add>(VACA_ARGS); }
-VormStatus n8_ownvormAdd_vaca_32f_LS2(VACA_PARAMS_L(float)) { return vacaAnyStrideL<Add>(VACA_ARGS_L); }
-VormStatus n8_ownvormAdd_vaca_64f_LS2(VACA_PARAMS_L(double)) { return vacaAnyStrideL<Add>(VACA_ARGS_L); }
-VormStatus n8_ownvormAdd_vaca_32f_P(VACA_PARAMS_P(float)) { return vacaPointers<Add>(VACA_ARGS_P); }
-VormStatus n8_ownvormAdd_vaca_64f_P(VACA_PARAMS_P(double)) { return vacaPointers<Add>(VACA_ARGS_P); }
+VormStatus n8_ownvormAdd_vaca_32f_S2(VACA_PARAMS(float)) { return anyStrideKernel<Add>(vaca(VACA_ARGS)); }
+VormStatus n8_ownvormAdd_vaca_64f_S2(VACA_PARAMS(double)) { return anyStrideKernel<Add>(vaca(VACA_ARGS)); }
+VormStatus n8_ownvormAdd_vaca_32f_LS2(VACA_PARAMS_L(float)) { return anyStrideKernel<Add>(vacaL(VACA_ARGS_L)); }
+VormStatus n8_ownvormAdd_vaca_64f_LS2(VACA_PARAMS_L(double)) { return anyStrideKernel<Add>(vacaL(VACA_ARGS_L)); }
+VormStatus n8_ownvormAdd_vaca_32f_P(VACA_PARAMS_P(float)) { return pointerKernel<Add>(vacaP(VACA_ARGS_P)); }
+VormStatus n8_ownvormAdd_vaca_64f_P(VACA_PARAMS_P(double)) { return pointerKernel<Add>(vacaP(VACA_ARGS_P)); }
 }

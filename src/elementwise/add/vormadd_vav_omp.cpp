@@ -1,27 +1,29 @@
 // vormAdd_vav: team-parallel drivers.
 
 #include "elementwise/vav.hpp"
+#include "frame/driver.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
 VormStatus n8_ownOMP_vormAdd_vav_32f(VAV_PARAMS(float))
 {
-    return vavTeam(n8_ownvormAdd_vav_32f, n8_ownvormAdd_vav_32f_S2, VAV_ARGS);
+    return team(vav(VAV_ARGS), n8_ownvormAdd_vav_32f, n8_ownvormAdd_vav_32f_S2);
 }
 VormStatus n8_ownOMP_vormAdd_vav_64f(VAV_PARAMS(double))
 {
-    return vavTeam(n8_ownvormAdd_vav_64f, n8_ownvormAdd_vav_64f_S2, VAV_ARGS);
+    return team(vav(VAV_ARGS), n8_ownvormAdd_vav_64f, n8_ownvormAdd_vav_64f_S2);
 }
 VormStatus n8_ownOMP_vormAdd_vav_32f_L(VAV_PARAMS_L(float))
 {
-    return vavTeamL(n8_ownvormAdd_vav_32f_L, n8_ownvormAdd_vav_32f_LS2, VAV_ARGS_L);
+    return team(vavL(VAV_ARGS_L), n8_ownvormAdd_vav_32f_L, n8_ownvormAdd_vav_32f_LS2);
 }
 VormStatus n8_ownOMP_vormAdd_vav_64f_L(VAV_PARAMS_L(double))
 {
-    return vavTeamL(n8_ownvormAdd_vav_64f_L, n8_ownvormAdd_vav_64f_LS2, VAV_ARGS_L);
+    return team(vavL(VAV_ARGS_L), n8_ownvormAdd_vav_64f_L, n8_ownvormAdd_vav_64f_LS2);
 }
-VormStatus n8_ownOMP_vormAdd_vav_32f_P(VAV_PARAMS_P(float)) { return vavTeamP(n8_ownvormAdd_vav_32f_P, VAV_ARGS_P); }
-VormStatus n8_ownOMP_vormAdd_vav_64f_P(VAV_PARAMS_P(double)) { return vavTeamP(n8_ownvormAdd_vav_64f_P, VAV_ARGS_P); }
+VormStatus n8_ownOMP_vormAdd_vav_32f_P(VAV_PARAMS_P(float)) { return team(vavP(VAV_ARGS_P), n8_ownvormAdd_vav_32f_P); }
+VormStatus n8_ownOMP_vormAdd_vav_64f_P(VAV_PARAMS_P(double)) { return team(vavP(VAV_ARGS_P), n8_ownvormAdd_vav_64f_P); }
 }

@@ -1,11 +1,13 @@
 // vormAdd_vava: the kernels for contiguous elements, single precision.
 
+#include "elementwise/array_kernels.hpp"
 #include "elementwise/vava.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
-VormStatus n8_ownvormAdd_vava_32f(VAVA_PARAMS(float)) { return vavaContiguous<Add>(VAVA_ARGS); }
-VormStatus n8_ownvormAdd_vava_32f_L(VAVA_PARAMS_L(float)) { return vavaContiguousL<Add>(VAVA_ARGS_L); }
+VormStatus n8_ownvormAdd_vava_32f(VAVA_PARAMS(float)) { return contiguousKernel<Add>(vava(VAVA_ARGS)); }
+VormStatus n8_ownvormAdd_vava_32f_L(VAVA_PARAMS_L(float)) { return contiguousKernel<Add>(vavaL(VAVA_ARGS_L)); }
 }

@@ -1,11 +1,13 @@
 // vormAdd_vava: the kernels for contiguous elements, double precision.
 
+#include "elementwise/array_kernels.hpp"
 #include "elementwise/vava.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
-VormStatus n8_ownvormAdd_vava_64f(VAVA_PARAMS(double)) { return vavaContiguous<Add>(VAVA_ARGS); }
-VormStatus n8_ownvormAdd_vava_64f_L(VAVA_PARAMS_L(double)) { return vavaContiguousL<Add>(VAVA_ARGS_L); }
+VormStatus n8_ownvormAdd_vava_64f(VAVA_PARAMS(double)) { return contiguousKernel<Add>(vava(VAVA_ARGS)); }
+VormStatus n8_ownvormAdd_vava_64f_L(VAVA_PARAMS_L(double)) { return contiguousKernel<Add>(vavaL(VAVA_ARGS_L)); }
 }

@@ -1,10 +1,12 @@
 // vormAdd_vc: the kernel for contiguous elements, single precision.
 
+#include "elementwise/array_kernels.hpp"
 #include "elementwise/vc.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
-VormStatus n8_ownvormAdd_vc_32f(VC_PARAMS(float)) { return vcContiguous<Add>(VC_ARGS); }
+VormStatus n8_ownvormAdd_vc_32f(VC_PARAMS(float)) { return contiguousKernel<Add>(vc(VC_ARGS)); }
 }

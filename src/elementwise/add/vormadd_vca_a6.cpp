@@ -1,11 +1,13 @@
 // vormAdd_vca: the kernels for contiguous elements, single precision.
 
+#include "elementwise/array_kernels.hpp"
 #include "elementwise/vca.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
-VormStatus n8_ownvormAdd_vca_32f(VCA_PARAMS(float)) { return vcaContiguous<Add>(VCA_ARGS); }
-VormStatus n8_ownvormAdd_vca_32f_L(VCA_PARAMS_L(float)) { return vcaContiguousL<Add>(VCA_ARGS_L); }
+VormStatus n8_ownvormAdd_vca_32f(VCA_PARAMS(float)) { return contiguousKernel<Add>(vca(VCA_ARGS)); }
+VormStatus n8_ownvormAdd_vca_32f_L(VCA_PARAMS_L(float)) { return contiguousKernel<Add>(vcaL(VCA_ARGS_L)); }
 }

@@ -1,27 +1,29 @@
 // vormAdd_vca: team-parallel drivers.
 
 #include "elementwise/vca.hpp"
+#include "frame/driver.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
 VormStatus n8_ownOMP_vormAdd_vca_32f(VCA_PARAMS(float))
 {
-    return vcaTeam(n8_ownvormAdd_vca_32f, n8_ownvormAdd_vca_32f_S2, VCA_ARGS);
+    return team(vca(VCA_ARGS), n8_ownvormAdd_vca_32f, n8_ownvormAdd_vca_32f_S2);
 }
 VormStatus n8_ownOMP_vormAdd_vca_64f(VCA_PARAMS(double))
 {
-    return vcaTeam(n8_ownvormAdd_vca_64f, n8_ownvormAdd_vca_64f_S2, VCA_ARGS);
+    return team(vca(VCA_ARGS), n8_ownvormAdd_vca_64f, n8_ownvormAdd_vca_64f_S2);
 }
 VormStatus n8_ownOMP_vormAdd_vca_32f_L(VCA_PARAMS_L(float))
 {
-    return vcaTeamL(n8_ownvormAdd_vca_32f_L, n8_ownvormAdd_vca_32f_LS2, VCA_ARGS_L);
+    return team(vcaL(VCA_ARGS_L), n8_ownvormAdd_vca_32f_L, n8_ownvormAdd_vca_32f_LS2);
 }
 VormStatus n8_ownOMP_vormAdd_vca_64f_L(VCA_PARAMS_L(double))
 {
-    return vcaTeamL(n8_ownvormAdd_vca_64f_L, n8_ownvormAdd_vca_64f_LS2, VCA_ARGS_L);
+    return team(vcaL(VCA_ARGS_L), n8_ownvormAdd_vca_64f_L, n8_ownvormAdd_vca_64f_LS2);
 }
-VormStatus n8_ownOMP_vormAdd_vca_32f_P(VCA_PARAMS_P(float)) { return vcaTeamP(n8_ownvormAdd_vca_32f_P, VCA_ARGS_P); }
-VormStatus n8_ownOMP_vormAdd_vca_64f_P(VCA_PARAMS_P(double)) { return vcaTeamP(n8_ownvormAdd_vca_64f_P, VCA_ARGS_P); }
+VormStatus n8_ownOMP_vormAdd_vca_32f_P(VCA_PARAMS_P(float)) { return team(vcaP(VCA_ARGS_P), n8_ownvormAdd_vca_32f_P); }
+VormStatus n8_ownOMP_vormAdd_vca_64f_P(VCA_PARAMS_P(double)) { return team(vcaP(VCA_ARGS_P), n8_ownvormAdd_vca_64f_P); }
 }

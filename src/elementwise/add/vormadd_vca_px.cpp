@@ -1,42 +1,47 @@
 // vormAdd_vca: public layers, and the kernels for elements anywhere.
 
+#include "elementwise/array_kernels.hpp"
 #include "elementwise/vca.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
 VormStatus n8_vormAdd_vca_32f(VCA_PARAMS(float))
 {
-    return vcaChecked<4800>(n8_ownOMP_vormAdd_vca_32f, n8_ownvormAdd_vca_32f, n8_ownvormAdd_vca_32f_S2, VCA_ARGS);
+    return checked<4800>(vca(VCA_ARGS), n8_ownOMP_vormAdd_vca_32f, n8_ownvormAdd_vca_32f, n8_ownvormAdd_vca_32f_S2,
+                         VCA_ARGS);
 }
 VormStatus n8_vormAdd_vca_64f(VCA_PARAMS(double))
 {
-    return vcaChecked<1400>(n8_ownOMP_vormAdd_vca_64f, n8_ownvormAdd_vca_64f, n8_ownvormAdd_vca_64f_S2, VCA_ARGS);
+    return checked<1400>(vca(VCA_ARGS), n8_ownOMP_vormAdd_vca_64f, n8_ownvormAdd_vca_64f, n8_ownvormAdd_vca_64f_S2,
+                         VCA_ARGS);
 }
 VormStatus n8_vormAdd_vca_32f_L(VCA_PARAMS_L(float))
 {
-    return vcaCheckedL<2500>(n8_ownOMP_vormAdd_vca_32f_L, n8_ownvormAdd_vca_32f_L, n8_ownvormAdd_vca_32f_LS2,
-                             VCA_ARGS_L);
+    return checked<2500>(vcaL(VCA_ARGS_L), n8_ownOMP_vormAdd_vca_32f_L, n8_ownvormAdd_vca_32f_L,
+                         n8_ownvormAdd_vca_32f_LS2, VCA_ARGS_L);
 }
 VormStatus n8_vormAdd_vca_64f_L(VCA_PARAMS_L(double))
 {
-    return vcaCheckedL<2500>(n8_ownOMP_vormAdd_vca_64f_L, n8_ownvormAdd_vca_64f_L, n8_ownvormAdd_vca_64f_LS2,
-                             VCA_ARGS_L);
+    return checked<2500>(vcaL(VCA_ARGS_L), n8_ownOMP_vormAdd_vca_64f_L, n8_ownvormAdd_vca_64f_L,
+                         n8_ownvormAdd_vca_64f_LS2, VCA_ARGS_L);
 }
 VormStatus n8_vormAdd_vca_32f_P(VCA_PARAMS_P(float))
 {
-    return vcaCheckedP<1500>(n8_ownOMP_vormAdd_vca_32f_P, n8_ownvormAdd_vca_32f_P, VCA_ARGS_P);
+    return checked<1500>(vcaP(VCA_ARGS_P), n8_ownOMP_vormAdd_vca_32f_P, n8_ownvormAdd_vca_32f_P, VCA_ARGS_P);
 }
 VormStatus n8_vormAdd_vca_64f_P(VCA_PARAMS_P(double))
 {
-    return vcaCheckedP<1500, Untested::shifts>(n8_ownOMP_vormAdd_vca_64f_P, n8_ownvormAdd_vca_64f_P, VCA_ARGS_P);
+    return checked<1500>(vcaP(ppSrc, 0, pVal, valStride0, ppDst, 0, dstStride0, len, count),
+                         n8_ownOMP_vormAdd_vca_64f_P, n8_ownvormAdd_vca_64f_P, VCA_ARGS_P);
 }
 
-VormStatus n8_ownvormAdd_vca_32f_S2(VCA_PARAMS(float)) { return vcaAnyStride<Add>(VCA_ARGS); }
-VormStatus n8_ownvormAdd_vca_64f_S2(VCA_PARAMS(double)) { return vcaAnyStride<Add>(VCA_ARGS); }
-VormStatus n8_ownvormAdd_vca_32f_LS2(VCA_PARAMS_L(float)) { return vcaAnyStrideL<Add>(VCA_ARGS_L); }
-VormStatus n8_ownvormAdd_vca_64f_LS2(VCA_PARAMS_L(double)) { return vcaAnyStrideL<Add>(VCA_ARGS_L); }
-VormStatus n8_ownvormAdd_vca_32f_P(VCA_PARAMS_P(float)) { return vcaPointers<Add>(VCA_ARGS_P); }
-VormStatus n8_ownvormAdd_vca_64f_P(VCA_PARAMS_P(double)) { return vcaPointers<Add>(VCA_ARGS_P); }
+VormStatus n8_ownvormAdd_vca_32f_S2(VCA_PARAMS(float)) { return anyStrideKernel<Add>(vca(VCA_ARGS)); }
+VormStatus n8_ownvormAdd_vca_64f_S2(VCA_PARAMS(double)) { return anyStrideKernel<Add>(vca(VCA_ARGS)); }
+VormStatus n8_ownvormAdd_vca_32f_LS2(VCA_PARAMS_L(float)) { return anyStrideKernel<Add>(vcaL(VCA_ARGS_L)); }
+VormStatus n8_ownvormAdd_vca_64f_LS2(VCA_PARAMS_L(double)) { return anyStrideKernel<Add>(vcaL(VCA_ARGS_L)); }
+VormStatus n8_ownvormAdd_vca_32f_P(VCA_PARAMS_P(float)) { return pointerKernel<Add>(vcaP(VCA_ARGS_P)); }
+VormStatus n8_ownvormAdd_vca_64f_P(VCA_PARAMS_P(double)) { return pointerKernel<Add>(vcaP(VCA_ARGS_P)); }
 }

@@ -1,10 +1,12 @@
 // vormAdd_vv: the kernel for contiguous elements, single precision.
 
+#include "elementwise/array_kernels.hpp"
 #include "elementwise/vv.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
-VormStatus n8_ownvormAdd_vv_32f(VV_PARAMS(float)) { return vvContiguous<Add>(VV_ARGS); }
+VormStatus n8_ownvormAdd_vv_32f(VV_PARAMS(float)) { return contiguousKernel<Add>(vv(VV_ARGS)); }
 }

@@ -1,10 +1,12 @@
 // vormAdd_vv: the kernel for contiguous elements, double precision.
 
+#include "elementwise/array_kernels.hpp"
 #include "elementwise/vv.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
-VormStatus n8_ownvormAdd_vv_64f(VV_PARAMS(double)) { return vvContiguous<Add>(VV_ARGS); }
+VormStatus n8_ownvormAdd_vv_64f(VV_PARAMS(double)) { return contiguousKernel<Add>(vv(VV_ARGS)); }
 }

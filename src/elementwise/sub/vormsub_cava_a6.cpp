@@ -1,11 +1,13 @@
 // vormSub_cava: the kernels for contiguous elements, single precision.
 
+#include "elementwise/array_kernels.hpp"
 #include "elementwise/vaca.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
-VormStatus n8_ownvormSub_cava_32f(VACA_PARAMS(float)) { return vacaContiguous<SubFrom>(VACA_ARGS); }
-VormStatus n8_ownvormSub_cava_32f_L(VACA_PARAMS_L(float)) { return vacaContiguousL<SubFrom>(VACA_ARGS_L); }
+VormStatus n8_ownvormSub_cava_32f(VACA_PARAMS(float)) { return contiguousKernel<SubFrom>(vaca(VACA_ARGS)); }
+VormStatus n8_ownvormSub_cava_32f_L(VACA_PARAMS_L(float)) { return contiguousKernel<SubFrom>(vacaL(VACA_ARGS_L)); }
 }

@@ -1,11 +1,13 @@
 // vormSub_cava: the kernels for contiguous elements, double precision.
 
+#include "elementwise/array_kernels.hpp"
 #include "elementwise/vaca.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
-VormStatus n8_ownvormSub_cava_64f(VACA_PARAMS(double)) { return vacaContiguous<SubFrom>(VACA_ARGS); }
-VormStatus n8_ownvormSub_cava_64f_L(VACA_PARAMS_L(double)) { return vacaContiguousL<SubFrom>(VACA_ARGS_L); }
+VormStatus n8_ownvormSub_cava_64f(VACA_PARAMS(double)) { return contiguousKernel<SubFrom>(vaca(VACA_ARGS)); }
+VormStatus n8_ownvormSub_cava_64f_L(VACA_PARAMS_L(double)) { return contiguousKernel<SubFrom>(vacaL(VACA_ARGS_L)); }
 }

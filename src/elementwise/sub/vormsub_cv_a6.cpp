@@ -1,10 +1,12 @@
 // vormSub_cv: the kernel for contiguous elements, single precision.
 
+#include "elementwise/array_kernels.hpp"
 #include "elementwise/vc.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
-VormStatus n8_ownvormSub_cv_32f(VC_PARAMS(float)) { return vcContiguous<SubFrom>(VC_ARGS); }
+VormStatus n8_ownvormSub_cv_32f(VC_PARAMS(float)) { return contiguousKernel<SubFrom>(vc(VC_ARGS)); }
 }

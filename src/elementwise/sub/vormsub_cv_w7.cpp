@@ -1,10 +1,12 @@
 // vormSub_cv: the kernel for contiguous elements, double precision.
 
+#include "elementwise/array_kernels.hpp"
 #include "elementwise/vc.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
-VormStatus n8_ownvormSub_cv_64f(VC_PARAMS(double)) { return vcContiguous<SubFrom>(VC_ARGS); }
+VormStatus n8_ownvormSub_cv_64f(VC_PARAMS(double)) { return contiguousKernel<SubFrom>(vc(VC_ARGS)); }
 }

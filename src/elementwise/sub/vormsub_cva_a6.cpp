@@ -1,11 +1,13 @@
 // vormSub_cva: the kernels for contiguous elements, single precision.
 
+#include "elementwise/array_kernels.hpp"
 #include "elementwise/vac.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
-VormStatus n8_ownvormSub_cva_32f(VAC_PARAMS(float)) { return vacContiguous<SubFrom>(VAC_ARGS); }
-VormStatus n8_ownvormSub_cva_32f_L(VAC_PARAMS_L(float)) { return vacContiguousL<SubFrom>(VAC_ARGS_L); }
+VormStatus n8_ownvormSub_cva_32f(VAC_PARAMS(float)) { return contiguousKernel<SubFrom>(vac(VAC_ARGS)); }
+VormStatus n8_ownvormSub_cva_32f_L(VAC_PARAMS_L(float)) { return contiguousKernel<SubFrom>(vacL(VAC_ARGS_L)); }
 }

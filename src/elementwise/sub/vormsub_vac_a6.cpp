@@ -1,11 +1,13 @@
 // vormSub_vac: the kernels for contiguous elements, single precision.
 
+#include "elementwise/array_kernels.hpp"
 #include "elementwise/vac.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
-VormStatus n8_ownvormSub_vac_32f(VAC_PARAMS(float)) { return vacContiguous<Sub>(VAC_ARGS); }
-VormStatus n8_ownvormSub_vac_32f_L(VAC_PARAMS_L(float)) { return vacContiguousL<Sub>(VAC_ARGS_L); }
+VormStatus n8_ownvormSub_vac_32f(VAC_PARAMS(float)) { return contiguousKernel<Sub>(vac(VAC_ARGS)); }
+VormStatus n8_ownvormSub_vac_32f_L(VAC_PARAMS_L(float)) { return contiguousKernel<Sub>(vacL(VAC_ARGS_L)); }
 }

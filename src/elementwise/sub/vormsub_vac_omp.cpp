@@ -1,27 +1,29 @@
 // vormSub_vac: team-parallel drivers.
 
 #include "elementwise/vac.hpp"
+#include "frame/driver.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
 VormStatus n8_ownOMP_vormSub_vac_32f(VAC_PARAMS(float))
 {
-    return vacTeam(n8_ownvormSub_vac_32f, n8_ownvormSub_vac_32f_S2, VAC_ARGS);
+    return team(vac(VAC_ARGS), n8_ownvormSub_vac_32f, n8_ownvormSub_vac_32f_S2);
 }
 VormStatus n8_ownOMP_vormSub_vac_64f(VAC_PARAMS(double))
 {
-    return vacTeam(n8_ownvormSub_vac_64f, n8_ownvormSub_vac_64f_S2, VAC_ARGS);
+    return team(vac(VAC_ARGS), n8_ownvormSub_vac_64f, n8_ownvormSub_vac_64f_S2);
 }
 VormStatus n8_ownOMP_vormSub_vac_32f_L(VAC_PARAMS_L(float))
 {
-    return vacTeamL(n8_ownvormSub_vac_32f_L, n8_ownvormSub_vac_32f_LS2, VAC_ARGS_L);
+    return team(vacL(VAC_ARGS_L), n8_ownvormSub_vac_32f_L, n8_ownvormSub_vac_32f_LS2);
 }
 VormStatus n8_ownOMP_vormSub_vac_64f_L(VAC_PARAMS_L(double))
 {
-    return vacTeamL(n8_ownvormSub_vac_64f_L, n8_ownvormSub_vac_64f_LS2, VAC_ARGS_L);
+    return team(vacL(VAC_ARGS_L), n8_ownvormSub_vac_64f_L, n8_ownvormSub_vac_64f_LS2);
 }
-VormStatus n8_ownOMP_vormSub_vac_32f_P(VAC_PARAMS_P(float)) { return vacTeamP(n8_ownvormSub_vac_32f_P, VAC_ARGS_P); }
-VormStatus n8_ownOMP_vormSub_vac_64f_P(VAC_PARAMS_P(double)) { return vacTeamP(n8_ownvormSub_vac_64f_P, VAC_ARGS_P); }
+VormStatus n8_ownOMP_vormSub_vac_32f_P(VAC_PARAMS_P(float)) { return team(vacP(VAC_ARGS_P), n8_ownvormSub_vac_32f_P); }
+VormStatus n8_ownOMP_vormSub_vac_64f_P(VAC_PARAMS_P(double)) { return team(vacP(VAC_ARGS_P), n8_ownvormSub_vac_64f_P); }
 }

@@ -1,44 +1,46 @@
 // vormSub_vac: public layers, and the kernels for elements anywhere.
 
+#include "elementwise/array_kernels.hpp"
 #include "elementwise/vac.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
 VormStatus n8_vormSub_vac_32f(VAC_PARAMS(float))
 {
-    return vacChecked<4800, Work::elements>(n8_ownOMP_vormSub_vac_32f, n8_ownvormSub_vac_32f, n8_ownvormSub_vac_32f_S2,
-                                            VAC_ARGS);
+    return checked<4800>(vac(VAC_ARGS), n8_ownOMP_vormSub_vac_32f, n8_ownvormSub_vac_32f, n8_ownvormSub_vac_32f_S2,
+                         VAC_ARGS);
 }
 VormStatus n8_vormSub_vac_64f(VAC_PARAMS(double))
 {
-    return vacChecked<1400, Work::elements>(n8_ownOMP_vormSub_vac_64f, n8_ownvormSub_vac_64f, n8_ownvormSub_vac_64f_S2,
-                                            VAC_ARGS);
+    return checked<1400>(vac(VAC_ARGS), n8_ownOMP_vormSub_vac_64f, n8_ownvormSub_vac_64f, n8_ownvormSub_vac_64f_S2,
+                         VAC_ARGS);
 }
 VormStatus n8_vormSub_vac_32f_L(VAC_PARAMS_L(float))
 {
-    return vacCheckedL<2500, Work::elements>(n8_ownOMP_vormSub_vac_32f_L, n8_ownvormSub_vac_32f_L,
-                                             n8_ownvormSub_vac_32f_LS2, VAC_ARGS_L);
+    return checked<2500>(vacL(VAC_ARGS_L), n8_ownOMP_vormSub_vac_32f_L, n8_ownvormSub_vac_32f_L,
+                         n8_ownvormSub_vac_32f_LS2, VAC_ARGS_L);
 }
 VormStatus n8_vormSub_vac_64f_L(VAC_PARAMS_L(double))
 {
-    return vacCheckedL<2500, Work::elements>(n8_ownOMP_vormSub_vac_64f_L, n8_ownvormSub_vac_64f_L,
-                                             n8_ownvormSub_vac_64f_LS2, VAC_ARGS_L);
+    return checked<2500>(vacL(VAC_ARGS_L), n8_ownOMP_vormSub_vac_64f_L, n8_ownvormSub_vac_64f_L,
+                         n8_ownvormSub_vac_64f_LS2, VAC_ARGS_L);
 }
 VormStatus n8_vormSub_vac_32f_P(VAC_PARAMS_P(float))
 {
-    return vacCheckedP<1500, Work::elements>(n8_ownOMP_vormSub_vac_32f_P, n8_ownvormSub_vac_32f_P, VAC_ARGS_P);
+    return checked<1500>(vacP(VAC_ARGS_P), n8_ownOMP_vormSub_vac_32f_P, n8_ownvormSub_vac_32f_P, VAC_ARGS_P);
 }
 VormStatus n8_vormSub_vac_64f_P(VAC_PARAMS_P(double))
 {
-    return vacCheckedP<1500, Work::elements>(n8_ownOMP_vormSub_vac_64f_P, n8_ownvormSub_vac_64f_P, VAC_ARGS_P);
+    return checked<1500>(vacP(VAC_ARGS_P), n8_ownOMP_vormSub_vac_64f_P, n8_ownvormSub_vac_64f_P, VAC_ARGS_P);
 }
 
-VormStatus n8_ownvormSub_vac_32f_S2(VAC_PARAMS(float)) { return vacAnyStride<Sub>(VAC_ARGS); }
-VormStatus n8_ownvormSub_vac_64f_S2(VAC_PARAMS(double)) { return vacAnyStride<Sub>(VAC_ARGS); }
-VormStatus n8_ownvormSub_vac_32f_LS2(VAC_PARAMS_L(float)) { return vacAnyStrideL<Sub>(VAC_ARGS_L); }
-VormStatus n8_ownvormSub_vac_64f_LS2(VAC_PARAMS_L(double)) { return vacAnyStrideL<Sub>(VAC_ARGS_L); }
-VormStatus n8_ownvormSub_vac_32f_P(VAC_PARAMS_P(float)) { return vacPointers<Sub>(VAC_ARGS_P); }
-VormStatus n8_ownvormSub_vac_64f_P(VAC_PARAMS_P(double)) { return vacPointers<Sub>(VAC_ARGS_P); }
+VormStatus n8_ownvormSub_vac_32f_S2(VAC_PARAMS(float)) { return anyStrideKernel<Sub>(vac(VAC_ARGS)); }
+VormStatus n8_ownvormSub_vac_64f_S2(VAC_PARAMS(double)) { return anyStrideKernel<Sub>(vac(VAC_ARGS)); }
+VormStatus n8_ownvormSub_vac_32f_LS2(VAC_PARAMS_L(float)) { return anyStrideKernel<Sub>(vacL(VAC_ARGS_L)); }
+VormStatus n8_ownvormSub_vac_64f_LS2(VAC_PARAMS_L(double)) { return anyStrideKernel<Sub>(vacL(VAC_ARGS_L)); }
+VormStatus n8_ownvormSub_vac_32f_P(VAC_PARAMS_P(float)) { return pointerKernel<Sub>(vacP(VAC_ARGS_P)); }
+VormStatus n8_ownvormSub_vac_64f_P(VAC_PARAMS_P(double)) { return pointerKernel<Sub>(vacP(VAC_ARGS_P)); }
 }

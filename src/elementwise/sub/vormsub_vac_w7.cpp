@@ -1,11 +1,13 @@
 // vormSub_vac: the kernels for contiguous elements, double precision.
 
+#include "elementwise/array_kernels.hpp"
 #include "elementwise/vac.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
-VormStatus n8_ownvormSub_vac_64f(VAC_PARAMS(double)) { return vacContiguous<Sub>(VAC_ARGS); }
-VormStatus n8_ownvormSub_vac_64f_L(VAC_PARAMS_L(double)) { return vacContiguousL<Sub>(VAC_ARGS_L); }
+VormStatus n8_ownvormSub_vac_64f(VAC_PARAMS(double)) { return contiguousKernel<Sub>(vac(VAC_ARGS)); }
+VormStatus n8_ownvormSub_vac_64f_L(VAC_PARAMS_L(double)) { return contiguousKernel<Sub>(vacL(VAC_ARGS_L)); }
 }

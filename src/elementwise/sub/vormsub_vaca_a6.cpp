@@ -1,11 +1,13 @@
 // vormSub_vaca: the kernels for contiguous elements, single precision.
 
+#include "elementwise/array_kernels.hpp"
 #include "elementwise/vaca.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
-VormStatus n8_ownvormSub_vaca_32f(VACA_PARAMS(float)) { return vacaContiguous<Sub>(VACA_ARGS); }
-VormStatus n8_ownvormSub_vaca_32f_L(VACA_PARAMS_L(float)) { return vacaContiguousL<Sub>(VACA_ARGS_L); }
+VormStatus n8_ownvormSub_vaca_32f(VACA_PARAMS(float)) { return contiguousKernel<Sub>(vaca(VACA_ARGS)); }
+VormStatus n8_ownvormSub_vaca_32f_L(VACA_PARAMS_L(float)) { return contiguousKernel<Sub>(vacaL(VACA_ARGS_L)); }
 }

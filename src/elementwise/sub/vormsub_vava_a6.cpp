@@ -1,11 +1,13 @@
 // vormSub_vava: the kernels for contiguous elements, single precision.
 
+#include "elementwise/array_kernels.hpp"
 #include "elementwise/vava.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
-VormStatus n8_ownvormSub_vava_32f(VAVA_PARAMS(float)) { return vavaContiguous<Sub>(VAVA_ARGS); }
-VormStatus n8_ownvormSub_vava_32f_L(VAVA_PARAMS_L(float)) { return vavaContiguousL<Sub>(VAVA_ARGS_L); }
+VormStatus n8_ownvormSub_vava_32f(VAVA_PARAMS(float)) { return contiguousKernel<Sub>(vava(VAVA_ARGS)); }
+VormStatus n8_ownvormSub_vava_32f_L(VAVA_PARAMS_L(float)) { return contiguousKernel<Sub>(vavaL(VAVA_ARGS_L)); }
 }

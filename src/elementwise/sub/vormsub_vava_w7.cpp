@@ -1,11 +1,13 @@
 // vormSub_vava: the kernels for contiguous elements, double precision.
 
+#include "elementwise/array_kernels.hpp"
 #include "elementwise/vava.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
-VormStatus n8_ownvormSub_vava_64f(VAVA_PARAMS(double)) { return vavaContiguous<Sub>(VAVA_ARGS); }
-VormStatus n8_ownvormSub_vava_64f_L(VAVA_PARAMS_L(double)) { return vavaContiguousL<Sub>(VAVA_ARGS_L); }
+VormStatus n8_ownvormSub_vava_64f(VAVA_PARAMS(double)) { return contiguousKernel<Sub>(vava(VAVA_ARGS)); }
+VormStatus n8_ownvormSub_vava_64f_L(VAVA_PARAMS_L(double)) { return contiguousKernel<Sub>(vavaL(VAVA_ARGS_L)); }
 }

@@ -1,10 +1,12 @@
 // vormSub_vc: the kernel for contiguous elements, double precision.
 
+#include "elementwise/array_kernels.hpp"
 #include "elementwise/vc.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
-VormStatus n8_ownvormSub_vc_64f(VC_PARAMS(double)) { return vcContiguous<Sub>(VC_ARGS); }
+VormStatus n8_ownvormSub_vc_64f(VC_PARAMS(double)) { return contiguousKernel<Sub>(vc(VC_ARGS)); }
 }

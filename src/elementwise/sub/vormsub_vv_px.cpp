@@ -1,24 +1,32 @@
 // vormSub_vv: public layers, and the kernels for elements anywhere.
 
+#include "elementwise/array_kernels.hpp"
 #include "elementwise/vv.hpp"
 
 using namespace vorm;
+using namespace vorm::elementwise;
 
 extern "C" {
 
 VormStatus n8_vormSub_vv_32f(VV_PARAMS(float))
 {
-    return vvChecked(n8_ownvormSub_vv_32f, n8_ownvormSub_vv_32f_S2, VV_ARGS);
+    return checked(vv(VV_ARGS), n8_ownvormSub_vv_32f, n8_ownvormSub_vv_32f_S2, VV_ARGS);
 }
 VormStatus n8_vormSub_vv_64f(VV_PARAMS(double))
 {
-    return vvChecked(n8_ownvormSub_vv_64f, n8_ownvormSub_vv_64f_S2, VV_ARGS);
+    return checked(vv(VV_ARGS), n8_ownvormSub_vv_64f, n8_ownvormSub_vv_64f_S2, VV_ARGS);
 }
-VormStatus n8_vormSub_vv_32f_P(VV_PARAMS_P(float)) { return vvCheckedP(n8_ownvormSub_vv_32f_P, VV_ARGS_P); }
-VormStatus n8_vormSub_vv_64f_P(VV_PARAMS_P(double)) { return vvCheckedP(n8_ownvormSub_vv_64f_P, VV_ARGS_P); }
+VormStatus n8_vormSub_vv_32f_P(VV_PARAMS_P(float))
+{
+    return checked(vvP(VV_ARGS_P), n8_ownvormSub_vv_32f_P, VV_ARGS_P);
+}
+VormStatus n8_vormSub_vv_64f_P(VV_PARAMS_P(double))
+{
+    return checked(vvP(VV_ARGS_P), n8_ownvormSub_vv_64f_P, VV_ARGS_P);
+}
 
-VormStatus n8_ownvormSub_vv_32f_S2(VV_PARAMS(float)) { return vvAnyStride<Sub>(VV_ARGS); }
-VormStatus n8_ownvormSub_vv_64f_S2(VV_PARAMS(double)) { return vvAnyStride<Sub>(VV_ARGS); }
-VormStatus n8_ownvormSub_vv_32f_P(VV_PARAMS_P(float)) { return vvPointers<Sub>(VV_ARGS_P); }
-VormStatus n8_ownvormSub_vv_64f_P(VV_PARAMS_P(double)) { return vvPointers<Sub>(VV_ARGS_P); }
+VormStatus n8_ownvormSub_vv_32f_S2(VV_PARAMS(float)) { return anyStrideKernel<Sub>(vv(VV_ARGS)); }
+VormStatus n8_ownvormSub_vv_64f_S2(VV_PARAMS(double)) { return anyStrideKernel<Sub>(vv(VV_ARGS)); }
+VormStatus n8_ownvormSub_vv_32f_P(VV_PARAMS_P(float)) { return anyStrideKernel<Sub>(vvP(VV_ARGS_P)); }
+VormStatus n8_ownvormSub_vv_64f_P(VV_PARAMS_P(double)) { return anyStrideKernel<Sub>(vvP(VV_ARGS_P)); }
 }

@@ -1,47 +1,54 @@
 // vormMul_mam: public layers, and the kernels for elements anywhere.
 
 #include "products/mam.hpp"
+#include "products/matrix_calls.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 
 VormStatus n8_vormMul_mam_32f(MAM_PARAMS(float))
 {
-    return mamChecked<Mm, 2500>(n8_ownOMP_vormMul_mam_32f, n8_ownvormMul_mam_32f, n8_ownvormMul_mam_32f_S2, MAM_ARGS);
+    return checked<2500, teamLimitAnyStride>(mam<Mm>(MAM_ARGS), n8_ownOMP_vormMul_mam_32f, n8_ownvormMul_mam_32f,
+                                             n8_ownvormMul_mam_32f_S2, MAM_ARGS);
 }
 VormStatus n8_vormMul_mam_64f(MAM_PARAMS(double))
 {
-    return mamChecked<Mm, 3600>(n8_ownOMP_vormMul_mam_64f, n8_ownvormMul_mam_64f, n8_ownvormMul_mam_64f_S2, MAM_ARGS);
+    return checked<3600, teamLimitAnyStride>(mam<Mm>(MAM_ARGS), n8_ownOMP_vormMul_mam_64f, n8_ownvormMul_mam_64f,
+                                             n8_ownvormMul_mam_64f_S2, MAM_ARGS);
 }
 VormStatus n8_vormMul_mam_32f_L(MAM_PARAMS_L(float))
 {
-    return mamCheckedL<Mm>(n8_ownOMP_vormMul_mam_32f_L, n8_ownvormMul_mam_32f_L, n8_ownvormMul_mam_32f_LS2, MAM_ARGS_L);
+    return checked<teamLimitList, teamLimitAnyStride>(mamL<Mm>(MAM_ARGS_L), n8_ownOMP_vormMul_mam_32f_L,
+                                                      n8_ownvormMul_mam_32f_L, n8_ownvormMul_mam_32f_LS2, MAM_ARGS_L);
 }
 VormStatus n8_vormMul_mam_64f_L(MAM_PARAMS_L(double))
 {
-    return mamCheckedL<Mm>(n8_ownOMP_vormMul_mam_64f_L, n8_ownvormMul_mam_64f_L, n8_ownvormMul_mam_64f_LS2, MAM_ARGS_L);
+    return checked<teamLimitList, teamLimitAnyStride>(mamL<Mm>(MAM_ARGS_L), n8_ownOMP_vormMul_mam_64f_L,
+                                                      n8_ownvormMul_mam_64f_L, n8_ownvormMul_mam_64f_LS2, MAM_ARGS_L);
 }
 VormStatus n8_vormMul_mam_32f_P(MAM_PARAMS_P(float))
 {
-    return mamCheckedP<Mm>(n8_ownOMP_vormMul_mam_32f_P, n8_ownvormMul_mam_32f_P, MAM_ARGS_P);
+    return checked<teamLimitPointers>(mamP<Mm>(MAM_ARGS_P), n8_ownOMP_vormMul_mam_32f_P, n8_ownvormMul_mam_32f_P,
+                                      MAM_ARGS_P);
 }
 VormStatus n8_vormMul_mam_64f_P(MAM_PARAMS_P(double))
 {
-    return mamCheckedP<Mm>(n8_ownOMP_vormMul_mam_64f_P, n8_ownvormMul_mam_64f_P, MAM_ARGS_P);
+    return checked<teamLimitPointers>(mamP<Mm>(MAM_ARGS_P), n8_ownOMP_vormMul_mam_64f_P, n8_ownvormMul_mam_64f_P,
+                                      MAM_ARGS_P);
 }
 
-VormStatus n8_ownvormMul_mam_32f_S2(MAM_PARAMS(float)) { return mamAnyStride<Mm>(MAM_ARGS); }
-VormStatus n8_ownvormMul_mam_64f_S2(MAM_PARAMS(double)) { return mamAnyStride<Mm>(MAM_ARGS); }
+VormStatus n8_ownvormMul_mam_32f_S2(MAM_PARAMS(float)) { return anyStrideKernel<Mm>(mam<Mm>(MAM_ARGS)); }
+VormStatus n8_ownvormMul_mam_64f_S2(MAM_PARAMS(double)) { return anyStrideKernel<Mm>(mam<Mm>(MAM_ARGS)); }
 VormStatus n8_ownvormMul_mam_32f_LS2(MAM_PARAMS_L(float))
 {
-    return mamEachSingle(n8_ownvormMul_mm_32f_S2, MAM_ARGS_L);
+    return eachSingle(mamL<Mm>(MAM_ARGS_L), n8_ownvormMul_mm_32f_S2);
 }
 VormStatus n8_ownvormMul_mam_64f_LS2(MAM_PARAMS_L(double))
 {
-    return mamEachSingle(n8_ownvormMul_mm_64f_S2, MAM_ARGS_L);
+    return eachSingle(mamL<Mm>(MAM_ARGS_L), n8_ownvormMul_mm_64f_S2);
 }
-VormStatus n8_ownvormMul_mam_32f_P(MAM_PARAMS_P(float)) { return mamPointers<Mm>(MAM_ARGS_P); }
-VormStatus n8_ownvormMul_mam_64f_P(MAM_PARAMS_P(double)) { return mamPointers<Mm>(MAM_ARGS_P); }
-
+VormStatus n8_ownvormMul_mam_32f_P(MAM_PARAMS_P(float)) { return pointerKernel<Mm>(mamP<Mm>(MAM_ARGS_P)); }
+VormStatus n8_ownvormMul_mam_64f_P(MAM_PARAMS_P(double)) { return pointerKernel<Mm>(mamP<Mm>(MAM_ARGS_P)); }
 }

@@ -1,12 +1,13 @@
 // vormMul_mam: the kernels for contiguous elements, double precision.
 
 #include "products/mam.hpp"
+#include "products/matrix_calls.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 
-VormStatus n8_ownvormMul_mam_64f(MAM_PARAMS(double)) { return mamContiguous<Mm>(MAM_ARGS); }
-VormStatus n8_ownvormMul_mam_64f_L(MAM_PARAMS_L(double)) { return mamContiguousL<Mm>(MAM_ARGS_L); }
-
+VormStatus n8_ownvormMul_mam_64f(MAM_PARAMS(double)) { return contiguousKernel<Mm>(mam<Mm>(MAM_ARGS)); }
+VormStatus n8_ownvormMul_mam_64f_L(MAM_PARAMS_L(double)) { return contiguousKernel<Mm>(mamL<Mm>(MAM_ARGS_L)); }
 }

@@ -1,12 +1,13 @@
 // vormMul_mama: the kernels for contiguous elements, single precision.
 
 #include "products/mama.hpp"
+#include "products/matrix_calls.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 
-VormStatus n8_ownvormMul_mama_32f(MAMA_PARAMS(float)) { return mamaContiguous<Mm>(MAMA_ARGS); }
-VormStatus n8_ownvormMul_mama_32f_L(MAMA_PARAMS_L(float)) { return mamaContiguousL<Mm>(MAMA_ARGS_L); }
-
+VormStatus n8_ownvormMul_mama_32f(MAMA_PARAMS(float)) { return contiguousKernel<Mm>(mama<Mm>(MAMA_ARGS)); }
+VormStatus n8_ownvormMul_mama_32f_L(MAMA_PARAMS_L(float)) { return contiguousKernel<Mm>(mamaL<Mm>(MAMA_ARGS_L)); }
 }

@@ -1,34 +1,35 @@
 // vormMul_mama: team-parallel drivers.
 
+#include "frame/driver.hpp"
 #include "products/mama.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 
 VormStatus n8_ownOMP_vormMul_mama_32f(MAMA_PARAMS(float))
 {
-    return mamaTeam(n8_ownvormMul_mama_32f, n8_ownvormMul_mama_32f_S2, MAMA_ARGS);
+    return team(mama<Mm>(MAMA_ARGS), n8_ownvormMul_mama_32f, n8_ownvormMul_mama_32f_S2);
 }
 VormStatus n8_ownOMP_vormMul_mama_64f(MAMA_PARAMS(double))
 {
-    return mamaTeam(n8_ownvormMul_mama_64f, n8_ownvormMul_mama_64f_S2, MAMA_ARGS);
+    return team(mama<Mm>(MAMA_ARGS), n8_ownvormMul_mama_64f, n8_ownvormMul_mama_64f_S2);
 }
 VormStatus n8_ownOMP_vormMul_mama_32f_L(MAMA_PARAMS_L(float))
 {
-    return mamaTeamL(n8_ownvormMul_mama_32f_L, n8_ownvormMul_mama_32f_LS2, MAMA_ARGS_L);
+    return team(mamaL<Mm>(MAMA_ARGS_L), n8_ownvormMul_mama_32f_L, n8_ownvormMul_mama_32f_LS2);
 }
 VormStatus n8_ownOMP_vormMul_mama_64f_L(MAMA_PARAMS_L(double))
 {
-    return mamaTeamL(n8_ownvormMul_mama_64f_L, n8_ownvormMul_mama_64f_LS2, MAMA_ARGS_L);
+    return team(mamaL<Mm>(MAMA_ARGS_L), n8_ownvormMul_mama_64f_L, n8_ownvormMul_mama_64f_LS2);
 }
 VormStatus n8_ownOMP_vormMul_mama_32f_P(MAMA_PARAMS_P(float))
 {
-    return mamaTeamP(n8_ownvormMul_mama_32f_P, MAMA_ARGS_P);
+    return team(mamaP<Mm>(MAMA_ARGS_P), n8_ownvormMul_mama_32f_P);
 }
 VormStatus n8_ownOMP_vormMul_mama_64f_P(MAMA_PARAMS_P(double))
 {
-    return mamaTeamP(n8_ownvormMul_mama_64f_P, MAMA_ARGS_P);
+    return team(mamaP<Mm>(MAMA_ARGS_P), n8_ownvormMul_mama_64f_P);
 }
-
 }

@@ -1,51 +1,56 @@
 // vormMul_mama: public layers, and the kernels for elements anywhere.
 
 #include "products/mama.hpp"
+#include "products/matrix_calls.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 
 VormStatus n8_vormMul_mama_32f(MAMA_PARAMS(float))
 {
-    return mamaChecked<Mm, 2500>(n8_ownOMP_vormMul_mama_32f, n8_ownvormMul_mama_32f, n8_ownvormMul_mama_32f_S2,
-                                 MAMA_ARGS);
+    return checked<2500, teamLimitAnyStride>(mama<Mm>(MAMA_ARGS), n8_ownOMP_vormMul_mama_32f, n8_ownvormMul_mama_32f,
+                                             n8_ownvormMul_mama_32f_S2, MAMA_ARGS);
 }
 VormStatus n8_vormMul_mama_64f(MAMA_PARAMS(double))
 {
-    return mamaChecked<Mm, 3600>(n8_ownOMP_vormMul_mama_64f, n8_ownvormMul_mama_64f, n8_ownvormMul_mama_64f_S2,
-                                 MAMA_ARGS);
+    return checked<3600, teamLimitAnyStride>(mama<Mm>(MAMA_ARGS), n8_ownOMP_vormMul_mama_64f, n8_ownvormMul_mama_64f,
+                                             n8_ownvormMul_mama_64f_S2, MAMA_ARGS);
 }
 VormStatus n8_vormMul_mama_32f_L(MAMA_PARAMS_L(float))
 {
-    return mamaCheckedL<Mm>(n8_ownOMP_vormMul_mama_32f_L, n8_ownvormMul_mama_32f_L, n8_ownvormMul_mama_32f_LS2,
-                            MAMA_ARGS_L);
+    return checked<teamLimitList, teamLimitAnyStride>(mamaL<Mm>(MAMA_ARGS_L), n8_ownOMP_vormMul_mama_32f_L,
+                                                      n8_ownvormMul_mama_32f_L, n8_ownvormMul_mama_32f_LS2,
+                                                      MAMA_ARGS_L);
 }
 VormStatus n8_vormMul_mama_64f_L(MAMA_PARAMS_L(double))
 {
-    return mamaCheckedL<Mm>(n8_ownOMP_vormMul_mama_64f_L, n8_ownvormMul_mama_64f_L, n8_ownvormMul_mama_64f_LS2,
-                            MAMA_ARGS_L);
+    return checked<teamLimitList, teamLimitAnyStride>(mamaL<Mm>(MAMA_ARGS_L), n8_ownOMP_vormMul_mama_64f_L,
+                                                      n8_ownvormMul_mama_64f_L, n8_ownvormMul_mama_64f_LS2,
+                                                      MAMA_ARGS_L);
 }
 VormStatus n8_vormMul_mama_32f_P(MAMA_PARAMS_P(float))
 {
-    return mamaCheckedP<Mm>(n8_ownOMP_vormMul_mama_32f_P, n8_ownvormMul_mama_32f_P, MAMA_ARGS_P);
+    return checked<teamLimitPointers>(mamaP<Mm>(MAMA_ARGS_P), n8_ownOMP_vormMul_mama_32f_P, n8_ownvormMul_mama_32f_P,
+                                      MAMA_ARGS_P);
 }
 VormStatus n8_vormMul_mama_64f_P(MAMA_PARAMS_P(double))
 {
-    return mamaCheckedP<Mm>(n8_ownOMP_vormMul_mama_64f_P, n8_ownvormMul_mama_64f_P, MAMA_ARGS_P);
+    return checked<teamLimitPointers>(mamaP<Mm>(MAMA_ARGS_P), n8_ownOMP_vormMul_mama_64f_P, n8_ownvormMul_mama_64f_P,
+                                      MAMA_ARGS_P);
 }
 
-VormStatus n8_ownvormMul_mama_32f_S2(MAMA_PARAMS(float)) { return mamaAnyStride<Mm>(MAMA_ARGS); }
-VormStatus n8_ownvormMul_mama_64f_S2(MAMA_PARAMS(double)) { return mamaAnyStride<Mm>(MAMA_ARGS); }
+VormStatus n8_ownvormMul_mama_32f_S2(MAMA_PARAMS(float)) { return anyStrideKernel<Mm>(mama<Mm>(MAMA_ARGS)); }
+VormStatus n8_ownvormMul_mama_64f_S2(MAMA_PARAMS(double)) { return anyStrideKernel<Mm>(mama<Mm>(MAMA_ARGS)); }
 VormStatus n8_ownvormMul_mama_32f_LS2(MAMA_PARAMS_L(float))
 {
-    return mamaEachSingle(n8_ownvormMul_mm_32f_S2, MAMA_ARGS_L);
+    return eachSingle(mamaL<Mm>(MAMA_ARGS_L), n8_ownvormMul_mm_32f_S2);
 }
 VormStatus n8_ownvormMul_mama_64f_LS2(MAMA_PARAMS_L(double))
 {
-    return mamaEachSingle(n8_ownvormMul_mm_64f_S2, MAMA_ARGS_L);
+    return eachSingle(mamaL<Mm>(MAMA_ARGS_L), n8_ownvormMul_mm_64f_S2);
 }
-VormStatus n8_ownvormMul_mama_32f_P(MAMA_PARAMS_P(float)) { return mamaPointers<Mm>(MAMA_ARGS_P); }
-VormStatus n8_ownvormMul_mama_64f_P(MAMA_PARAMS_P(double)) { return mamaPointers<Mm>(MAMA_ARGS_P); }
-
+VormStatus n8_ownvormMul_mama_32f_P(MAMA_PARAMS_P(float)) { return pointerKernel<Mm>(mamaP<Mm>(MAMA_ARGS_P)); }
+VormStatus n8_ownvormMul_mama_64f_P(MAMA_PARAMS_P(double)) { return pointerKernel<Mm>(mamaP<Mm>(MAMA_ARGS_P)); }
 }

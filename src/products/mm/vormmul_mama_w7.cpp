@@ -1,12 +1,13 @@
 // vormMul_mama: the kernels for contiguous elements, double precision.
 
 #include "products/mama.hpp"
+#include "products/matrix_calls.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 
-VormStatus n8_ownvormMul_mama_64f(MAMA_PARAMS(double)) { return mamaContiguous<Mm>(MAMA_ARGS); }
-VormStatus n8_ownvormMul_mama_64f_L(MAMA_PARAMS_L(double)) { return mamaContiguousL<Mm>(MAMA_ARGS_L); }
-
+VormStatus n8_ownvormMul_mama_64f(MAMA_PARAMS(double)) { return contiguousKernel<Mm>(mama<Mm>(MAMA_ARGS)); }
+VormStatus n8_ownvormMul_mama_64f_L(MAMA_PARAMS_L(double)) { return contiguousKernel<Mm>(mamaL<Mm>(MAMA_ARGS_L)); }
 }

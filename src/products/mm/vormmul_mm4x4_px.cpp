@@ -1,6 +1,5 @@
 // vormMul_mm4x4: the fixed product of two packed 4x4 matrices. It has no layer but the public one.
 
-#include "frame/checks.hpp"
 #include "products/layers.hpp"
 #include "products/matrix_fixed.hpp"
 
@@ -11,7 +10,7 @@ extern "C" {
 
 VormStatus n8_vormMul_mm4x4_32f(const float* pSrc1, const float* pSrc2, float* pDst)
 {
-    if (anyNull(pSrc1, pSrc2, pDst)) return StatusNullPointer;
+    if (!pSrc1 || !pSrc2 || !pDst) return StatusNullPointer;
 
     // All of a tile is read before its first store: the destination may overlap the operands.
     constexpr int stride1 = 4 * sizeof(float);

@@ -3,9 +3,9 @@
 #include "products/mm.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 
 VormStatus n8_ownvormMul_mm_64f(MM_PARAMS(double)) { return mmContiguous<Mm>(MM_ARGS); }
-
 }

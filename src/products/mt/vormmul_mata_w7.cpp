@@ -1,12 +1,13 @@
 // vormMul_mata: the kernels for contiguous elements, double precision.
 
 #include "products/mama.hpp"
+#include "products/matrix_calls.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 
-VormStatus n8_ownvormMul_mata_64f(MAMA_PARAMS(double)) { return mamaContiguous<Mt>(MAMA_ARGS); }
-VormStatus n8_ownvormMul_mata_64f_L(MAMA_PARAMS_L(double)) { return mamaContiguousL<Mt>(MAMA_ARGS_L); }
-
+VormStatus n8_ownvormMul_mata_64f(MAMA_PARAMS(double)) { return contiguousKernel<Mt>(mama<Mt>(MAMA_ARGS)); }
+VormStatus n8_ownvormMul_mata_64f_L(MAMA_PARAMS_L(double)) { return contiguousKernel<Mt>(mamaL<Mt>(MAMA_ARGS_L)); }
 }

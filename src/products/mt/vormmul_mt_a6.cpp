@@ -3,9 +3,9 @@
 #include "products/mm.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 
 VormStatus n8_ownvormMul_mt_32f(MM_PARAMS(float)) { return mmContiguous<Mt>(MM_ARGS); }
-
 }

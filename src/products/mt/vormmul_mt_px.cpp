@@ -3,29 +3,29 @@
 #include "products/mm.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 
 VormStatus n8_vormMul_mt_32f(MM_PARAMS(float))
 {
-    return mmChecked<Mt>(n8_ownvormMul_mt_32f, n8_ownvormMul_mt_32f_S2, MM_ARGS);
+    return checked(mm<Mt>(MM_ARGS), n8_ownvormMul_mt_32f, n8_ownvormMul_mt_32f_S2, MM_ARGS);
 }
 VormStatus n8_vormMul_mt_64f(MM_PARAMS(double))
 {
-    return mmChecked<Mt>(n8_ownvormMul_mt_64f, n8_ownvormMul_mt_64f_S2, MM_ARGS);
+    return checked(mm<Mt>(MM_ARGS), n8_ownvormMul_mt_64f, n8_ownvormMul_mt_64f_S2, MM_ARGS);
 }
 VormStatus n8_vormMul_mt_32f_P(MM_PARAMS_P(float))
 {
-    return mmCheckedP<Mt>(n8_ownvormMul_mt_32f_P, MM_ARGS_P);
+    return checked(mmP<Mt>(MM_ARGS_P), n8_ownvormMul_mt_32f_P, MM_ARGS_P);
 }
 VormStatus n8_vormMul_mt_64f_P(MM_PARAMS_P(double))
 {
-    return mmCheckedP<Mt>(n8_ownvormMul_mt_64f_P, MM_ARGS_P);
+    return checked(mmP<Mt>(MM_ARGS_P), n8_ownvormMul_mt_64f_P, MM_ARGS_P);
 }
 
-VormStatus n8_ownvormMul_mt_32f_S2(MM_PARAMS(float)) { return mmAnyStride<Mt>(MM_ARGS); }
-VormStatus n8_ownvormMul_mt_64f_S2(MM_PARAMS(double)) { return mmAnyStride<Mt>(MM_ARGS); }
-VormStatus n8_ownvormMul_mt_32f_P(MM_PARAMS_P(float)) { return mmPointers<Mt>(MM_ARGS_P); }
-VormStatus n8_ownvormMul_mt_64f_P(MM_PARAMS_P(double)) { return mmPointers<Mt>(MM_ARGS_P); }
-
+VormStatus n8_ownvormMul_mt_32f_S2(MM_PARAMS(float)) { return anyStrideKernel<Mt>(mm<Mt>(MM_ARGS)); }
+VormStatus n8_ownvormMul_mt_64f_S2(MM_PARAMS(double)) { return anyStrideKernel<Mt>(mm<Mt>(MM_ARGS)); }
+VormStatus n8_ownvormMul_mt_32f_P(MM_PARAMS_P(float)) { return anyStrideKernel<Mt>(mmP<Mt>(MM_ARGS_P)); }
+VormStatus n8_ownvormMul_mt_64f_P(MM_PARAMS_P(double)) { return anyStrideKernel<Mt>(mmP<Mt>(MM_ARGS_P)); }
 }

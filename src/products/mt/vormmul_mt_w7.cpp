@@ -3,9 +3,9 @@
 #include "products/mm.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 
 VormStatus n8_ownvormMul_mt_64f(MM_PARAMS(double)) { return mmContiguous<Mt>(MM_ARGS); }
-
 }

@@ -1,11 +1,16 @@
 // vormMul_mava: the kernels for contiguous elements, single precision.
 
 #include "products/mava.hpp"
+#include "products/vector_calls.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 
-VormStatus n8_ownvormMul_mava_32f(MAVA_PARAMS(float)) { return mavaContiguous<AsStored>(MAVA_ARGS); }
-VormStatus n8_ownvormMul_mava_32f_L(MAVA_PARAMS_L(float)) { return mavaContiguousL<AsStored>(MAVA_ARGS_L); }
+VormStatus n8_ownvormMul_mava_32f(MAVA_PARAMS(float)) { return contiguousKernel<AsStored>(mava<AsStored>(MAVA_ARGS)); }
+VormStatus n8_ownvormMul_mava_32f_L(MAVA_PARAMS_L(float))
+{
+    return contiguousKernel<AsStored>(mavaL<AsStored>(MAVA_ARGS_L));
+}
 }

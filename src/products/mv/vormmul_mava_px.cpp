@@ -1,50 +1,68 @@
 // vormMul_mava: public layers, and the kernels for elements anywhere.
 
 #include "products/mava.hpp"
+#include "products/vector_calls.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 
 VormStatus n8_vormMul_mava_32f(MAVA_PARAMS(float))
 {
-    return mavaChecked<AsStored, 2500>(n8_ownOMP_vormMul_mava_32f, n8_ownvormMul_mava_32f, n8_ownvormMul_mava_32f_S2,
-                                       MAVA_ARGS);
+    return checked<2500, teamLimitAnyStride>(mava<AsStored>(MAVA_ARGS), n8_ownOMP_vormMul_mava_32f,
+                                             n8_ownvormMul_mava_32f, n8_ownvormMul_mava_32f_S2, MAVA_ARGS);
 }
 VormStatus n8_vormMul_mava_64f(MAVA_PARAMS(double))
 {
-    return mavaChecked<AsStored, 3600>(n8_ownOMP_vormMul_mava_64f, n8_ownvormMul_mava_64f, n8_ownvormMul_mava_64f_S2,
-                                       MAVA_ARGS);
+    return checked<3600, teamLimitAnyStride>(mava<AsStored>(MAVA_ARGS), n8_ownOMP_vormMul_mava_64f,
+                                             n8_ownvormMul_mava_64f, n8_ownvormMul_mava_64f_S2, MAVA_ARGS);
 }
 VormStatus n8_vormMul_mava_32f_L(MAVA_PARAMS_L(float))
 {
-    return mavaCheckedL<AsStored>(n8_ownOMP_vormMul_mava_32f_L, n8_ownvormMul_mava_32f_L, n8_ownvormMul_mava_32f_LS2,
-                                  MAVA_ARGS_L);
+    return checked<teamLimitList, teamLimitAnyStride>(mavaL<AsStored>(MAVA_ARGS_L), n8_ownOMP_vormMul_mava_32f_L,
+                                                      n8_ownvormMul_mava_32f_L, n8_ownvormMul_mava_32f_LS2,
+                                                      MAVA_ARGS_L);
 }
 VormStatus n8_vormMul_mava_64f_L(MAVA_PARAMS_L(double))
 {
-    return mavaCheckedL<AsStored>(n8_ownOMP_vormMul_mava_64f_L, n8_ownvormMul_mava_64f_L, n8_ownvormMul_mava_64f_LS2,
-                                  MAVA_ARGS_L);
+    return checked<teamLimitList, teamLimitAnyStride>(mavaL<AsStored>(MAVA_ARGS_L), n8_ownOMP_vormMul_mava_64f_L,
+                                                      n8_ownvormMul_mava_64f_L, n8_ownvormMul_mava_64f_LS2,
+                                                      MAVA_ARGS_L);
 }
 VormStatus n8_vormMul_mava_32f_P(MAVA_PARAMS_P(float))
 {
-    return mavaCheckedP<AsStored>(n8_ownOMP_vormMul_mava_32f_P, n8_ownvormMul_mava_32f_P, MAVA_ARGS_P);
+    return checked<teamLimitPointers>(mavaP<AsStored>(MAVA_ARGS_P), n8_ownOMP_vormMul_mava_32f_P,
+                                      n8_ownvormMul_mava_32f_P, MAVA_ARGS_P);
 }
 VormStatus n8_vormMul_mava_64f_P(MAVA_PARAMS_P(double))
 {
-    return mavaCheckedP<AsStored>(n8_ownOMP_vormMul_mava_64f_P, n8_ownvormMul_mava_64f_P, MAVA_ARGS_P);
+    return checked<teamLimitPointers>(mavaP<AsStored>(MAVA_ARGS_P), n8_ownOMP_vormMul_mava_64f_P,
+                                      n8_ownvormMul_mava_64f_P, MAVA_ARGS_P);
 }
 
-VormStatus n8_ownvormMul_mava_32f_S2(MAVA_PARAMS(float)) { return mavaAnyStride<AsStored>(MAVA_ARGS); }
-VormStatus n8_ownvormMul_mava_64f_S2(MAVA_PARAMS(double)) { return mavaAnyStride<AsStored>(MAVA_ARGS); }
+VormStatus n8_ownvormMul_mava_32f_S2(MAVA_PARAMS(float))
+{
+    return anyStrideKernel<AsStored>(mava<AsStored>(MAVA_ARGS));
+}
+VormStatus n8_ownvormMul_mava_64f_S2(MAVA_PARAMS(double))
+{
+    return anyStrideKernel<AsStored>(mava<AsStored>(MAVA_ARGS));
+}
 VormStatus n8_ownvormMul_mava_32f_LS2(MAVA_PARAMS_L(float))
 {
-    return mavaEachSingle(n8_ownvormMul_mv_32f_S2, MAVA_ARGS_L);
+    return eachSingle(mavaL<AsStored>(MAVA_ARGS_L), n8_ownvormMul_mv_32f_S2);
 }
 VormStatus n8_ownvormMul_mava_64f_LS2(MAVA_PARAMS_L(double))
 {
-    return mavaEachSingle(n8_ownvormMul_mv_64f_S2, MAVA_ARGS_L);
+    return eachSingle(mavaL<AsStored>(MAVA_ARGS_L), n8_ownvormMul_mv_64f_S2);
 }
-VormStatus n8_ownvormMul_mava_32f_P(MAVA_PARAMS_P(float)) { return mavaPointers<AsStored>(MAVA_ARGS_P); }
-VormStatus n8_ownvormMul_mava_64f_P(MAVA_PARAMS_P(double)) { return mavaPointers<AsStored>(MAVA_ARGS_P); }
+VormStatus n8_ownvormMul_mava_32f_P(MAVA_PARAMS_P(float))
+{
+    return pointerKernel<AsStored>(mavaP<AsStored>(MAVA_ARGS_P));
+}
+VormStatus n8_ownvormMul_mava_64f_P(MAVA_PARAMS_P(double))
+{
+    return pointerKernel<AsStored>(mavaP<AsStored>(MAVA_ARGS_P));
+}
 }

@@ -1,10 +1,12 @@
 // vormMul_mv: the kernel for contiguous elements, double precision.
 
 #include "products/mv.hpp"
+#include "products/vector_calls.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 
-VormStatus n8_ownvormMul_mv_64f(MV_PARAMS(double)) { return mvContiguous<AsStored>(MV_ARGS); }
+VormStatus n8_ownvormMul_mv_64f(MV_PARAMS(double)) { return contiguousKernel<AsStored>(mv<AsStored>(MV_ARGS)); }
 }

@@ -1,10 +1,12 @@
 // vormMul_tv: the kernel for contiguous elements, single precision.
 
 #include "products/mv.hpp"
+#include "products/vector_calls.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 
-VormStatus n8_ownvormMul_tv_32f(MV_PARAMS(float)) { return mvContiguous<Turned>(MV_ARGS); }
+VormStatus n8_ownvormMul_tv_32f(MV_PARAMS(float)) { return contiguousKernel<AsTransposed>(mv<AsTransposed>(MV_ARGS)); }
 }

@@ -1,27 +1,35 @@
 // vormMul_tva: team-parallel drivers.
 
+#include "frame/driver.hpp"
 #include "products/mva.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 
 VormStatus n8_ownOMP_vormMul_tva_32f(MVA_PARAMS(float))
 {
-    return mvaTeam(n8_ownvormMul_tva_32f, n8_ownvormMul_tva_32f_S2, MVA_ARGS);
+    return team(mva<AsTransposed>(MVA_ARGS), n8_ownvormMul_tva_32f, n8_ownvormMul_tva_32f_S2);
 }
 VormStatus n8_ownOMP_vormMul_tva_64f(MVA_PARAMS(double))
 {
-    return mvaTeam(n8_ownvormMul_tva_64f, n8_ownvormMul_tva_64f_S2, MVA_ARGS);
+    return team(mva<AsTransposed>(MVA_ARGS), n8_ownvormMul_tva_64f, n8_ownvormMul_tva_64f_S2);
 }
 VormStatus n8_ownOMP_vormMul_tva_32f_L(MVA_PARAMS_L(float))
 {
-    return mvaTeamL(n8_ownvormMul_tva_32f_L, n8_ownvormMul_tva_32f_LS2, MVA_ARGS_L);
+    return team(mvaL<AsTransposed>(MVA_ARGS_L), n8_ownvormMul_tva_32f_L, n8_ownvormMul_tva_32f_LS2);
 }
 VormStatus n8_ownOMP_vormMul_tva_64f_L(MVA_PARAMS_L(double))
 {
-    return mvaTeamL(n8_ownvormMul_tva_64f_L, n8_ownvormMul_tva_64f_LS2, MVA_ARGS_L);
+    return team(mvaL<AsTransposed>(MVA_ARGS_L), n8_ownvormMul_tva_64f_L, n8_ownvormMul_tva_64f_LS2);
 }
-VormStatus n8_ownOMP_vormMul_tva_32f_P(MVA_PARAMS_P(float)) { return mvaTeamP(n8_ownvormMul_tva_32f_P, MVA_ARGS_P); }
-VormStatus n8_ownOMP_vormMul_tva_64f_P(MVA_PARAMS_P(double)) { return mvaTeamP(n8_ownvormMul_tva_64f_P, MVA_ARGS_P); }
+VormStatus n8_ownOMP_vormMul_tva_32f_P(MVA_PARAMS_P(float))
+{
+    return team(mvaP<AsTransposed>(MVA_ARGS_P), n8_ownvormMul_tva_32f_P);
+}
+VormStatus n8_ownOMP_vormMul_tva_64f_P(MVA_PARAMS_P(double))
+{
+    return team(mvaP<AsTransposed>(MVA_ARGS_P), n8_ownvormMul_tva_64f_P);
+}
 }

@@ -1,12 +1,16 @@
 // vormMul_tam: the kernels for contiguous elements, single precision.
 
 #include "products/mam.hpp"
+#include "products/matrix_calls.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 
-VormStatus n8_ownvormMul_tam_32f(MAM_PARAMS(float)) { return mamContiguous<Tm, Bodies::upTo5>(MAM_ARGS); }
-VormStatus n8_ownvormMul_tam_32f_L(MAM_PARAMS_L(float)) { return mamContiguousL<Tm, Bodies::upTo5>(MAM_ARGS_L); }
-
+VormStatus n8_ownvormMul_tam_32f(MAM_PARAMS(float)) { return contiguousKernel<Tm, Bodies::upTo5>(mam<Tm>(MAM_ARGS)); }
+VormStatus n8_ownvormMul_tam_32f_L(MAM_PARAMS_L(float))
+{
+    return contiguousKernel<Tm, Bodies::upTo5>(mamL<Tm>(MAM_ARGS_L));
+}
 }

@@ -1,12 +1,13 @@
 // vormMul_tam: the kernels for contiguous elements, double precision.
 
 #include "products/mam.hpp"
+#include "products/matrix_calls.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 
-VormStatus n8_ownvormMul_tam_64f(MAM_PARAMS(double)) { return mamContiguous<Tm>(MAM_ARGS); }
-VormStatus n8_ownvormMul_tam_64f_L(MAM_PARAMS_L(double)) { return mamContiguousL<Tm>(MAM_ARGS_L); }
-
+VormStatus n8_ownvormMul_tam_64f(MAM_PARAMS(double)) { return contiguousKernel<Tm>(mam<Tm>(MAM_ARGS)); }
+VormStatus n8_ownvormMul_tam_64f_L(MAM_PARAMS_L(double)) { return contiguousKernel<Tm>(mamL<Tm>(MAM_ARGS_L)); }
 }

@@ -3,9 +3,9 @@
 #include "products/mm.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 
 VormStatus n8_ownvormMul_tm_32f(MM_PARAMS(float)) { return mmContiguous<Tm, Bodies::upTo5>(MM_ARGS); }
-
 }

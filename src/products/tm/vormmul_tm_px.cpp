@@ -3,29 +3,29 @@
 #include "products/mm.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 
 VormStatus n8_vormMul_tm_32f(MM_PARAMS(float))
 {
-    return mmChecked<Tm>(n8_ownvormMul_tm_32f, n8_ownvormMul_tm_32f_S2, MM_ARGS);
+    return checked(mm<Tm>(MM_ARGS), n8_ownvormMul_tm_32f, n8_ownvormMul_tm_32f_S2, MM_ARGS);
 }
 VormStatus n8_vormMul_tm_64f(MM_PARAMS(double))
 {
-    return mmChecked<Tm>(n8_ownvormMul_tm_64f, n8_ownvormMul_tm_64f_S2, MM_ARGS);
+    return checked(mm<Tm>(MM_ARGS), n8_ownvormMul_tm_64f, n8_ownvormMul_tm_64f_S2, MM_ARGS);
 }
 VormStatus n8_vormMul_tm_32f_P(MM_PARAMS_P(float))
 {
-    return mmCheckedP<Tm>(n8_ownvormMul_tm_32f_P, MM_ARGS_P);
+    return checked(mmP<Tm>(MM_ARGS_P), n8_ownvormMul_tm_32f_P, MM_ARGS_P);
 }
 VormStatus n8_vormMul_tm_64f_P(MM_PARAMS_P(double))
 {
-    return mmCheckedP<Tm>(n8_ownvormMul_tm_64f_P, MM_ARGS_P);
+    return checked(mmP<Tm>(MM_ARGS_P), n8_ownvormMul_tm_64f_P, MM_ARGS_P);
 }
 
-VormStatus n8_ownvormMul_tm_32f_S2(MM_PARAMS(float)) { return mmAnyStride<Tm>(MM_ARGS); }
-VormStatus n8_ownvormMul_tm_64f_S2(MM_PARAMS(double)) { return mmAnyStride<Tm>(MM_ARGS); }
-VormStatus n8_ownvormMul_tm_32f_P(MM_PARAMS_P(float)) { return mmPointers<Tm>(MM_ARGS_P); }
-VormStatus n8_ownvormMul_tm_64f_P(MM_PARAMS_P(double)) { return mmPointers<Tm>(MM_ARGS_P); }
-
+VormStatus n8_ownvormMul_tm_32f_S2(MM_PARAMS(float)) { return anyStrideKernel<Tm>(mm<Tm>(MM_ARGS)); }
+VormStatus n8_ownvormMul_tm_64f_S2(MM_PARAMS(double)) { return anyStrideKernel<Tm>(mm<Tm>(MM_ARGS)); }
+VormStatus n8_ownvormMul_tm_32f_P(MM_PARAMS_P(float)) { return anyStrideKernel<Tm>(mmP<Tm>(MM_ARGS_P)); }
+VormStatus n8_ownvormMul_tm_64f_P(MM_PARAMS_P(double)) { return anyStrideKernel<Tm>(mmP<Tm>(MM_ARGS_P)); }
 }

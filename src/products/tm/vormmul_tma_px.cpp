@@ -1,47 +1,54 @@
 // vormMul_tma: public layers, and the kernels for elements anywhere.
 
+#include "products/matrix_calls.hpp"
 #include "products/mma.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 
 VormStatus n8_vormMul_tma_32f(MMA_PARAMS(float))
 {
-    return mmaChecked<Tm, 2500>(n8_ownOMP_vormMul_tma_32f, n8_ownvormMul_tma_32f, n8_ownvormMul_tma_32f_S2, MMA_ARGS);
+    return checked<2500, teamLimitAnyStride>(mma<Tm>(MMA_ARGS), n8_ownOMP_vormMul_tma_32f, n8_ownvormMul_tma_32f,
+                                             n8_ownvormMul_tma_32f_S2, MMA_ARGS);
 }
 VormStatus n8_vormMul_tma_64f(MMA_PARAMS(double))
 {
-    return mmaChecked<Tm, 3600>(n8_ownOMP_vormMul_tma_64f, n8_ownvormMul_tma_64f, n8_ownvormMul_tma_64f_S2, MMA_ARGS);
+    return checked<3600, teamLimitAnyStride>(mma<Tm>(MMA_ARGS), n8_ownOMP_vormMul_tma_64f, n8_ownvormMul_tma_64f,
+                                             n8_ownvormMul_tma_64f_S2, MMA_ARGS);
 }
 VormStatus n8_vormMul_tma_32f_L(MMA_PARAMS_L(float))
 {
-    return mmaCheckedL<Tm>(n8_ownOMP_vormMul_tma_32f_L, n8_ownvormMul_tma_32f_L, n8_ownvormMul_tma_32f_LS2, MMA_ARGS_L);
+    return checked<teamLimitList, teamLimitAnyStride>(mmaL<Tm>(MMA_ARGS_L), n8_ownOMP_vormMul_tma_32f_L,
+                                                      n8_ownvormMul_tma_32f_L, n8_ownvormMul_tma_32f_LS2, MMA_ARGS_L);
 }
 VormStatus n8_vormMul_tma_64f_L(MMA_PARAMS_L(double))
 {
-    return mmaCheckedL<Tm>(n8_ownOMP_vormMul_tma_64f_L, n8_ownvormMul_tma_64f_L, n8_ownvormMul_tma_64f_LS2, MMA_ARGS_L);
+    return checked<teamLimitList, teamLimitAnyStride>(mmaL<Tm>(MMA_ARGS_L), n8_ownOMP_vormMul_tma_64f_L,
+                                                      n8_ownvormMul_tma_64f_L, n8_ownvormMul_tma_64f_LS2, MMA_ARGS_L);
 }
 VormStatus n8_vormMul_tma_32f_P(MMA_PARAMS_P(float))
 {
-    return mmaCheckedP<Tm>(n8_ownOMP_vormMul_tma_32f_P, n8_ownvormMul_tma_32f_P, MMA_ARGS_P);
+    return checked<teamLimitPointers>(mmaP<Tm>(MMA_ARGS_P), n8_ownOMP_vormMul_tma_32f_P, n8_ownvormMul_tma_32f_P,
+                                      MMA_ARGS_P);
 }
 VormStatus n8_vormMul_tma_64f_P(MMA_PARAMS_P(double))
 {
-    return mmaCheckedP<Tm>(n8_ownOMP_vormMul_tma_64f_P, n8_ownvormMul_tma_64f_P, MMA_ARGS_P);
+    return checked<teamLimitPointers>(mmaP<Tm>(MMA_ARGS_P), n8_ownOMP_vormMul_tma_64f_P, n8_ownvormMul_tma_64f_P,
+                                      MMA_ARGS_P);
 }
 
-VormStatus n8_ownvormMul_tma_32f_S2(MMA_PARAMS(float)) { return mmaAnyStride<Tm>(MMA_ARGS); }
-VormStatus n8_ownvormMul_tma_64f_S2(MMA_PARAMS(double)) { return mmaAnyStride<Tm>(MMA_ARGS); }
+VormStatus n8_ownvormMul_tma_32f_S2(MMA_PARAMS(float)) { return anyStrideKernel<Tm>(mma<Tm>(MMA_ARGS)); }
+VormStatus n8_ownvormMul_tma_64f_S2(MMA_PARAMS(double)) { return anyStrideKernel<Tm>(mma<Tm>(MMA_ARGS)); }
 VormStatus n8_ownvormMul_tma_32f_LS2(MMA_PARAMS_L(float))
 {
-    return mmaEachSingle(n8_ownvormMul_tm_32f_S2, MMA_ARGS_L);
+    return eachSingle(mmaL<Tm>(MMA_ARGS_L), n8_ownvormMul_tm_32f_S2);
 }
 VormStatus n8_ownvormMul_tma_64f_LS2(MMA_PARAMS_L(double))
 {
-    return mmaEachSingle(n8_ownvormMul_tm_64f_S2, MMA_ARGS_L);
+    return eachSingle(mmaL<Tm>(MMA_ARGS_L), n8_ownvormMul_tm_64f_S2);
 }
-VormStatus n8_ownvormMul_tma_32f_P(MMA_PARAMS_P(float)) { return mmaPointers<Tm>(MMA_ARGS_P); }
-VormStatus n8_ownvormMul_tma_64f_P(MMA_PARAMS_P(double)) { return mmaPointers<Tm>(MMA_ARGS_P); }
-
+VormStatus n8_ownvormMul_tma_32f_P(MMA_PARAMS_P(float)) { return pointerKernel<Tm>(mmaP<Tm>(MMA_ARGS_P)); }
+VormStatus n8_ownvormMul_tma_64f_P(MMA_PARAMS_P(double)) { return pointerKernel<Tm>(mmaP<Tm>(MMA_ARGS_P)); }
 }

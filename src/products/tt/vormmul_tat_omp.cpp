@@ -1,34 +1,35 @@
 // vormMul_tat: team-parallel drivers.
 
+#include "frame/driver.hpp"
 #include "products/mam.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 
 VormStatus n8_ownOMP_vormMul_tat_32f(MAM_PARAMS(float))
 {
-    return mamTeam(n8_ownvormMul_tat_32f, n8_ownvormMul_tat_32f_S2, MAM_ARGS);
+    return team(mam<Tt>(MAM_ARGS), n8_ownvormMul_tat_32f, n8_ownvormMul_tat_32f_S2);
 }
 VormStatus n8_ownOMP_vormMul_tat_64f(MAM_PARAMS(double))
 {
-    return mamTeam(n8_ownvormMul_tat_64f, n8_ownvormMul_tat_64f_S2, MAM_ARGS);
+    return team(mam<Tt>(MAM_ARGS), n8_ownvormMul_tat_64f, n8_ownvormMul_tat_64f_S2);
 }
 VormStatus n8_ownOMP_vormMul_tat_32f_L(MAM_PARAMS_L(float))
 {
-    return mamTeamL(n8_ownvormMul_tat_32f_L, n8_ownvormMul_tat_32f_LS2, MAM_ARGS_L);
+    return team(mamL<Tt>(MAM_ARGS_L), n8_ownvormMul_tat_32f_L, n8_ownvormMul_tat_32f_LS2);
 }
 VormStatus n8_ownOMP_vormMul_tat_64f_L(MAM_PARAMS_L(double))
 {
-    return mamTeamL(n8_ownvormMul_tat_64f_L, n8_ownvormMul_tat_64f_LS2, MAM_ARGS_L);
+    return team(mamL<Tt>(MAM_ARGS_L), n8_ownvormMul_tat_64f_L, n8_ownvormMul_tat_64f_LS2);
 }
 VormStatus n8_ownOMP_vormMul_tat_32f_P(MAM_PARAMS_P(float))
 {
-    return mamTeamP(n8_ownvormMul_tat_32f_P, MAM_ARGS_P);
+    return team(mamP<Tt>(MAM_ARGS_P), n8_ownvormMul_tat_32f_P);
 }
 VormStatus n8_ownOMP_vormMul_tat_64f_P(MAM_PARAMS_P(double))
 {
-    return mamTeamP(n8_ownvormMul_tat_64f_P, MAM_ARGS_P);
+    return team(mamP<Tt>(MAM_ARGS_P), n8_ownvormMul_tat_64f_P);
 }
-
 }

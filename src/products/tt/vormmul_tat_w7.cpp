@@ -1,12 +1,13 @@
 // vormMul_tat: the kernels for contiguous elements, double precision.
 
 #include "products/mam.hpp"
+#include "products/matrix_calls.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 
-VormStatus n8_ownvormMul_tat_64f(MAM_PARAMS(double)) { return mamContiguous<Tt>(MAM_ARGS); }
-VormStatus n8_ownvormMul_tat_64f_L(MAM_PARAMS_L(double)) { return mamContiguousL<Tt>(MAM_ARGS_L); }
-
+VormStatus n8_ownvormMul_tat_64f(MAM_PARAMS(double)) { return contiguousKernel<Tt>(mam<Tt>(MAM_ARGS)); }
+VormStatus n8_ownvormMul_tat_64f_L(MAM_PARAMS_L(double)) { return contiguousKernel<Tt>(mamL<Tt>(MAM_ARGS_L)); }
 }

@@ -1,12 +1,13 @@
 // vormMul_tata: the kernels for contiguous elements, double precision.
 
 #include "products/mama.hpp"
+#include "products/matrix_calls.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 
-VormStatus n8_ownvormMul_tata_64f(MAMA_PARAMS(double)) { return mamaContiguous<Tt>(MAMA_ARGS); }
-VormStatus n8_ownvormMul_tata_64f_L(MAMA_PARAMS_L(double)) { return mamaContiguousL<Tt>(MAMA_ARGS_L); }
-
+VormStatus n8_ownvormMul_tata_64f(MAMA_PARAMS(double)) { return contiguousKernel<Tt>(mama<Tt>(MAMA_ARGS)); }
+VormStatus n8_ownvormMul_tata_64f_L(MAMA_PARAMS_L(double)) { return contiguousKernel<Tt>(mamaL<Tt>(MAMA_ARGS_L)); }
 }

@@ -1,0 +1,24 @@
+// The drivers: a team that works through an array call in chunks, with the kernels of the serial call.
+#pragma once
+
+#include "frame/call.hpp"
+#include "frame/team.hpp"
+
+namespace vorm {
+
+template <Kernels kernels = Kernels::cannotFail, class T, class TheTests, class Parts, class... Argument>
+VORM_INLINE VormStatus team(const ArrayCall<T, TheTests, Parts>& call, VormStatus (*kernel)(Argument...))
+{
+    return inTeam<kernels>(call.count, call.work.picoseconds, [&call, kernel](const Chunk& chunk) {
+        return call.parts.with([&](const auto&... part)
+                                   VORM_INLINE_LAMBDA { return withArguments(kernel, part.chunk(chunk)...); });
+    });
+}
+template <Kernels kernels = Kernels::cannotFail, class T, class TheTests, class Parts, class... Argument>
+VORM_INLINE VormStatus team(const ArrayCall<T, TheTests, Parts>& call, VormStatus (*kernel)(Argument...),
+                            VormStatus (*kernelS2)(Argument...))
+{
+    return team<kernels>(call, isContiguous(call) ? kernel : kernelS2);
+}
+
+}  // namespace vorm

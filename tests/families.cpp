@@ -1,0 +1,12 @@
+// The families that have a model. A new one stands in a file of its own in families/, and here.
+
+#include "harness.hpp"
+
+extern const Family vectorSums, vectorProducts, matrixProducts, luDecomposition, luSubstitution, fixedForms;
+
+const std::vector<const Family*>& families()
+{
+    static const std::vector<const Family*> all = {&fixedForms,     &vectorSums,      &vectorProducts,
+                                                   &matrixProducts, &luDecomposition, &luSubstitution};
+    return all;
+}

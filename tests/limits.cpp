@@ -1,0 +1,81 @@
+#include "limits.hpp"
+
+#include <sstream>
+#include <stdexcept>
+
+namespace {
+
+// What measures are made of, in wrapping arithmetic: rows and columns of the result, terms of its sums,
+// objects. A vector or square matrix has n columns.
+struct Work {
+    std::uint32_t m, n, k, count;
+};
+
+// The first measures for which the driver runs.
+struct From {
+    int standard32f, standard64f, list, pointers;
+    int anyStride = 0;  // standard and list layout, 0 where contiguity changes nothing
+};
+constexpr From above(int standard32f, int standard64f, int list, int pointers, int anyStride = -1)
+{
+    return {standard32f + 1, standard64f + 1, list + 1, pointers + 1, anyStride + 1};
+}
+
+struct Row {
+    const char *families, *shapes;
+    std::uint32_t (*measure)(const Work&);
+    From from;
+};
+
+constexpr From sums = above(4800, 1400, 2500, 1500), products = above(2500, 3600, 3600, 1440, 1440);
+
+constexpr Row table[] = {
+    {"Add Sub", "vav vva vac", [](const Work& w) { return (2 * w.count + 1) * w.n; }, sums},
+    {"Add Sub", "vava", [](const Work& w) { return 3 * w.count * w.n; }, sums},
+    {"Add Sub", "vaca cava", [](const Work& w) { return w.count * (2 * w.n + 1); }, sums},
+    {"Add Sub", "vca cav", [](const Work& w) { return w.n * w.count + w.n + w.count; }, sums},
+    {"Sub", "cva", [](const Work& w) { return 2 * w.count; }, {4800, 1400, 2500, 1500}},
+
+    {"Mul", "mva tva", [](const Work& w) { return w.m * w.k + (w.m + w.k) * w.count; }, products},
+    {"Mul", "mav tav", [](const Work& w) { return w.m * (w.k + 1) * w.count + w.k; }, products},
+    {"Mul", "mava tava", [](const Work& w) { return (w.m * w.k + w.m + w.k) * w.count; }, products},
+    {"Mul", "mam mat tam tat", [](const Work& w) { return w.n * w.k + (w.n + w.k) * w.m * w.count; }, products},
+    {"Mul", "mma mta tma tta", [](const Work& w) { return w.m * w.k + (w.m + w.k) * w.n * w.count; }, products},
+    {"Mul", "mama mata tama tata", [](const Work& w) { return ((w.n + w.k) * w.m + w.n * w.k) * w.count; }, products},
+
+    {"LUDecomp", "ma", [](const Work& w) { return w.n * w.n * w.count; }, {1001, 1001, 1001, 1001}},
+    {"LUBackSubst", "mva", [](const Work& w) { return (2 * w.count + w.n) * w.n; }, {701, 701, 701, 701}},
+    {"LUBackSubst", "mava", [](const Work& w) { return (w.n + 2) * w.n * w.count; }, {1201, 1201, 1201, 1201}},
+};
+
+bool hasWord(const std::string& text, const std::string& word)
+{
+    std::istringstream words(text);
+    for (std::string next; words >> next;)
+        if (next == word) return true;
+    return false;
+}
+
+const Row& rowOf(const Function& f)
+{
+    static std::map<const Function*, const Row*> rows;
+    if (const auto found = rows.find(&f); found != rows.end()) return *found->second;
+    for (const Row& row : table)
+        if (hasWord(row.families, f.family) && hasWord(row.shapes, f.shape)) return *(rows[&f] = &row);
+    throw std::out_of_range("no limit of " + f.name);
+}
+
+}  // namespace
+
+Limit limitOf(const Function& f, const Sizes& s, int count, bool isContiguous)
+{
+    const Row& row = rowOf(f);
+    const std::uint32_t measure =
+        row.measure({std::uint32_t(s.rows), std::uint32_t(s.columns), std::uint32_t(s.terms), std::uint32_t(count)});
+    const int from = f.layout == "P"                       ? row.from.pointers
+                     : !isContiguous && row.from.anyStride ? row.from.anyStride
+                     : f.layout == "L"                     ? row.from.list
+                     : f.type == "32f"                     ? row.from.standard32f
+                                                           : row.from.standard64f;
+    return {static_cast<std::int32_t>(measure), from};
+}

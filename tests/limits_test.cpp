@@ -1,0 +1,119 @@
+// When the drivers run, seen from outside by the number of times a stand-in core library is asked for its
+// threads: at the limit and one above, for every function that has a driver.
+
+#include "limits.hpp"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class Limits : public testing::Test {
+protected:
+    Random random{20160229};
+
+    // How often one call asks, with one operand's elements apart or with none (-1).
+    int askedBy(const Function& f, const Sizes& s, int count, int threads, int spread = -1)
+    {
+        Problem p{.sizes = s, .count = count, .threads = threads, .lies = std::vector<Lie>(f.operands.size())};
+        for (Lie& lie : p.lies) lie.planes = true;
+        if (spread >= 0) p.lies[std::size_t(spread)].gap2 = 2;
+        const Call call(f, p, random);
+        call.make();
+        return call.asked();
+    }
+};
+
+struct Hit {
+    Sizes sizes;
+    int count;
+    std::int32_t measure;
+};
+
+// The largest measure below the limit and the smallest from it on, over sizes worth trying.
+std::pair<Hit, Hit> nearest(const Function& f, bool isContiguous)
+{
+    Hit below{{}, 0, INT32_MIN}, above{{}, 0, INT32_MAX};
+    const bool isProduct = f.isProduct(), isSquare = f.indexOf("order") >= 0;
+    const int most = isProduct ? 9 : isSquare ? 40 : 100;
+    for (int n = 1; n <= most; ++n)
+        for (int m = isProduct ? 1 : n; m <= (isProduct ? most : n); ++m)
+            for (int k = isProduct ? 1 : n; k <= (isProduct ? most : n); ++k) {
+                const Sizes s{m, n, k};
+                int low = 0, high = 5000;  // reached with high objects, not with low
+                while (high - low > 1) {
+                    const int middle = (low + high) / 2;
+                    (limitOf(f, s, middle, isContiguous).isReached() ? high : low) = middle;
+                }
+                if (const auto l = limitOf(f, s, low, isContiguous); low > 0 && l.measure > below.measure)
+                    below = {s, low, l.measure};
+                if (const auto l = limitOf(f, s, high, isContiguous); high > 1 && l.measure < above.measure)
+                    above = {s, high, l.measure};
+            }
+    return {below, above};
+}
+
+TEST_F(Limits, AtTheLimitAndAbove)
+{
+    int drivers = 0, exact = 0, hits = 0;
+    for (const Function& f : catalogue()) {
+        if (!f.isArray() || f.isFixed()) continue;
+        ++drivers;
+        for (int spread = -1; spread < int(f.operands.size()); ++spread) {
+            if (spread >= 0 && (f.layout == "P" || !f.operands[std::size_t(spread)].hasStride[2])) continue;
+            const bool isContiguous = spread < 0 && f.layout != "P";
+            const auto& [below, above] = nearest(f, isContiguous);
+            const int from = limitOf(f, {}, 1, isContiguous).from;
+            exact += (below.measure == from - 1) + (above.measure == from), hits += 2;
+            EXPECT_EQ(askedBy(f, below.sizes, below.count, 2, spread), 0) << f.name << ", measure " << below.measure;
+            EXPECT_EQ(askedBy(f, above.sizes, above.count, 2, spread), 2) << f.name << ", measure " << above.measure;
+            // The measure is the same function of all sizes: near the limit elsewhere.
+            for (const Sizes& s : {Sizes{2, 3, 4}, {5, 2, 3}, {7, 7, 7}}) {
+                const Sizes square{s.columns, s.columns, s.columns}, &sizes = f.isProduct() ? s : square;
+                int count = 1;
+                while (!limitOf(f, sizes, count, isContiguous).isReached()) ++count;
+                EXPECT_EQ(askedBy(f, sizes, count - 1, 2, spread), 0) << f.name;
+                EXPECT_EQ(askedBy(f, sizes, count, 2, spread), 2) << f.name;
+            }
+        }
+        // One thread, and fewer objects than threads, do not fork; as many do.
+        const Sizes s{40, 40, 40};
+        int count = 2;
+        while (!limitOf(f, s, count, false).isReached() || !limitOf(f, s, count, true).isReached()) ++count;
+        EXPECT_EQ(askedBy(f, s, count, 1), 1) << f.name;
+        EXPECT_EQ(askedBy(f, s, count, -1), 1) << f.name;
+        EXPECT_EQ(askedBy(f, s, count, count + 1), 1) << f.name;
+        if (count <= 60) {
+            EXPECT_EQ(askedBy(f, s, count, count), 2) << f.name;
+        }
+    }
+    std::printf("%d functions with a driver, %d of %d measures exactly at the limit or one above\n", drivers, exact,
+                hits);
+    EXPECT_GT(exact, hits * 4 / 5);
+}
+
+// A single object never forks, however large it is.
+TEST_F(Limits, SingleObjectsNeverAsk)
+{
+    for (const Function& f : catalogue()) EXPECT_TRUE(f.isArray() || askedBy(f, {60, 60, 60}, 1, 4) == 0) << f.name;
+}
+
+// A measure that wraps to a negative number stays serial. The objects lie over each other.
+TEST_F(Limits, WrappedMeasureIsSerial)
+{
+    const int size = 1 << 15;
+    const std::vector<float> src(2 * size, 0.5f);
+    std::vector<float> dst(2 * size);
+    ASSERT_LT(limitOf(functionNamed("vormAdd_vac_32f"), {1, size, 1}, size, true).measure, 0);
+    EXPECT_EQ(askedDuring(2, [&] { vormAdd_vac_32f(src.data(), 4, 4, 2, dst.data(), 4, 4, size, size); }), 0);
+    EXPECT_EQ(dst[2 * size - 2], 2.5f);
+    ASSERT_LT(limitOf(functionNamed("vormMul_mama_32f"), {1, 1, size}, size, true).measure, 0);
+    EXPECT_EQ(askedDuring(2,
+                          [&] {
+                              vormMul_mama_32f(src.data(), 4, 4 * size, 4, size, 1, src.data(), 4, 4, 4, 1, size,
+                                               dst.data(), 4, 4, 4, size);
+                          }),
+              0);
+    EXPECT_EQ(dst[size - 1], 0.25f * size);
+}
+
+}  // namespace
