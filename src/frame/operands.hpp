@@ -419,18 +419,4 @@ ConstantArray(const T*, int) -> ConstantArray<T>;
 template <class T>
 ConstantList(const T* const*, int) -> ConstantList<T>;
 
-// One object of any operand in standard or list layout, as an operand of its own.
-template <class View>
-VORM_INLINE auto objectOf(const View& view, int n)
-{
-    if constexpr (isTransposed<View>)
-        return Transposed{objectOf(view.stored, n)};
-    else if constexpr (requires { view.stride1; })
-        return Matrix{view.object(n), view.stride1, view.stride2};
-    else
-        return Vector{view.object(n), view.stride2};
-}
-template <class View>
-using ObjectOf = decltype(objectOf(std::declval<const View&>(), 0));
-
 }  // namespace vorm

@@ -312,6 +312,17 @@ VORM_INLINE void product(const A& factors, const B& rows, const D& dst)
     }
 }
 
+template <class T, int n, class View>
+VORM_INLINE Factors<T, n, View> factorsOf(const View& view)
+{
+    return {view};
+}
+template <class T, int n, class View>
+VORM_INLINE Rows<T, n, View> rowsOf(const View& view)
+{
+    return {view};
+}
+
 // A matrix that all of several objects share is prepared for them; the others are shown one by one, so that the body
 // is the same for an array and a list.
 template <class T, int n, Order order = Order::leftToRight, class A, class B, class D>
@@ -320,15 +331,15 @@ VORM_INLINE void squareProducts(const A& a, const B& b, const D& dst, int first,
     if constexpr (A::isCommon && !D::isCommon) {
         const CommonFactors<T, n> factors(a);
         for (int object = first; object < end; ++object)
-            product<T, n, order>(factors, Rows<T, n, ObjectOf<B>>{objectOf(b, object)}, objectOf(dst, object));
+            product<T, n, order>(factors, rowsOf<T, n>(b.single(object)), dst.single(object));
     } else if constexpr (B::isCommon && !D::isCommon) {
         const CommonRows<T, n> rows(b);
         for (int object = first; object < end; ++object)
-            product<T, n, order>(Factors<T, n, ObjectOf<A>>{objectOf(a, object)}, rows, objectOf(dst, object));
+            product<T, n, order>(factorsOf<T, n>(a.single(object)), rows, dst.single(object));
     } else {
         for (int object = first; object < end; ++object)
-            product<T, n, order>(Factors<T, n, ObjectOf<A>>{objectOf(a, object)},
-                                 Rows<T, n, ObjectOf<B>>{objectOf(b, object)}, objectOf(dst, object));
+            product<T, n, order>(factorsOf<T, n>(a.single(object)),
+                                 rowsOf<T, n>(b.single(object)), dst.single(object));
     }
 }
 
