@@ -11,6 +11,7 @@
 #pragma once
 
 #include <type_traits>
+#include <utility>
 
 #include "frame/arguments.hpp"
 #include "frame/constant_operands.hpp"

@@ -11,7 +11,3 @@ constexpr int teamLimitList = 3600, teamLimitAnyStride = 1440, teamLimitPointers
 enum class Bodies { none, upTo5, upTo6 };
 
 }  // namespace vorm::products
-
-namespace vorm {
-using namespace products;  // until the shape headers lie in it as well
-}

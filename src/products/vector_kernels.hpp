@@ -3,8 +3,8 @@
 #pragma once
 
 #include "products/anywhere.hpp"
+#include "products/paths.hpp"
 #include "products/vector_fixed.hpp"
-#include "products/vector_forms.hpp"
 #include "products/vector_general.hpp"
 #include "vorm/status.h"
 
@@ -33,7 +33,7 @@ VORM_INLINE VormStatus contiguousProduct(const A& src1, const X& x, const D& y, 
     });
     if (done) return StatusOk;
     if constexpr (Form::isTransposed)
-        generalProductTurned(src1.p, src1.stride1, x.p, y.p, width, height);
+        generalProductTransposed(src1.p, src1.stride1, x.p, y.p, width, height);
     else
         generalProduct(src1.p, src1.stride1, x.p, y.p, height, width);
     return StatusOk;
@@ -58,7 +58,7 @@ VORM_INLINE VormStatus contiguousProducts(const A& src1, const X& x, const D& y,
             if constexpr (bodies == Bodies::none)
                 columnStrip<RunningSums>(matrix, src1.stride1, x.object(n), y.object(n), 0, rows, terms);
             else if constexpr (Form::isTransposed)
-                generalProductOfArrayTurned(matrix, src1.stride1, x.object(n), y.object(n), rows, terms);
+                generalProductOfArrayTransposed(matrix, src1.stride1, x.object(n), y.object(n), rows, terms);
             else
                 generalProductOfArray(matrix, src1.stride1, x.object(n), y.object(n), rows, terms);
         }
