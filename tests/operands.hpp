@@ -45,14 +45,14 @@ void shuffle(Items& items, Random& random)
     for (std::size_t i = items.size(); i > 1; --i) std::swap(items[i - 1], items[random() % i]);
 }
 
-// The memory of operands and its shadow. Rooms are used again, since mapping is slow; those of gigabytes are
-// sparse, their shadow too, and are not looked at as a whole.
+// The memory of operands and its shadow. Small rooms are used again, since mapping is slow; those of gigabytes
+// are sparse, their shadow too, and are not looked at as a whole.
 class Room {
 public:
     explicit Room(std::size_t bytes) : isSparse_(bytes > 64u << 20), memory_(take(bytes)), shadow_(take(bytes)) {}
     ~Room()
     {
-        if (isSparse_) return;
+        if (size() > 1u << 20) return;
         for (auto* guarded : {&memory_, &shadow_}) unused()[(*guarded)->size()].push_back(std::move(*guarded));
     }
     Room(const Room&) = delete;
@@ -86,7 +86,7 @@ private:
     Memory take(std::size_t bytes) const
     {
         auto& kept = unused()[(bytes + 4095) / 4096 * 4096];
-        if (isSparse_ || kept.empty()) return std::make_unique<Guarded>(bytes);
+        if (kept.empty()) return std::make_unique<Guarded>(bytes);
         auto memory = std::move(kept.back());
         kept.pop_back();
         return memory;
@@ -150,32 +150,19 @@ struct Placed {
     }
     int count() const { return int(objects.size()); }
     int size() const { return int(elements.size()); }
-    // In the shadow.
+    // In the shadow, and in the memory itself.
     template <class T>
     T get(int n, int e) const
     {
-        T value;
-        std::memcpy(&value, room->shadow() + offset(n, e), sizeof value);
-        return value;
+        return read<T>(room->shadow() + offset(n, e));
     }
-    template <class T>
-    void set(int n, int e, T value) const
-    {
-        std::memcpy(room->shadow() + offset(n, e), &value, sizeof value);
-    }
-    // In the memory itself.
     template <class T>
     T found(int n, int e) const
     {
-        T value;
-        std::memcpy(&value, room->data() + offset(n, e), sizeof value);
-        return value;
+        return read<T>(room->data() + offset(n, e));
     }
-    template <class T>
-    void put(int n, int e, T value) const
-    {
-        std::memcpy(room->data() + offset(n, e), &value, sizeof value);
-    }
+    void set(int n, int e, auto value) const { std::memcpy(room->shadow() + offset(n, e), &value, sizeof value); }
+    void put(int n, int e, auto value) const { std::memcpy(room->data() + offset(n, e), &value, sizeof value); }
     // Makes the shadow the same as the memory; of a sparse room only the elements, as in the comparison.
     void shade(std::size_t e) const
     {
@@ -207,6 +194,13 @@ struct Placed {
             for (int i = 0; i < size(); ++i) all.push_back(offset(n, i));
         std::sort(all.begin(), all.end());
         return std::adjacent_find(all.begin(), all.end(), [&](auto a, auto b) { return b - a < e; }) != all.end();
+    }
+    template <class T>
+    static T read(const char* from)
+    {
+        T value;
+        std::memcpy(&value, from, sizeof value);
+        return value;
     }
     std::intptr_t address() const { return reinterpret_cast<std::intptr_t>(room->data() + base); }
 };

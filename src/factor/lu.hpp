@@ -10,6 +10,7 @@
 #include "factor/lu_general.hpp"
 #include "frame/blocks.hpp"
 #include "frame/object_rows.hpp"
+#include "frame/pin.hpp"
 
 namespace vorm::factor {
 
@@ -24,15 +25,17 @@ template <int n, class Number, class Src, class Dst>
 VORM_INLINE VormStatus luObjects(const Src& src, const Dst& dst, int first, int* pivotIndex)
 {
     LuBlock<n, Number> lu;
+    // Two lanes of even orders are rather stored one by one, where their rows belong.
+    constexpr bool rowsStay = isInPlanes<Dst> && (objectsIn < Number >> 2 || n % 2 == 1);
+    // Or the loop keeps more addresses than there are registers.
+    if constexpr (isInPlanes<Dst> && !rowsStay) first = opaque(first);
     loadMatrices(src, first, lu.a);
-    if constexpr (objectsIn<Number> == 1) {
+    if constexpr (!inLanes<Number>) {
         const int passed = luFactorise<false>(lu);
         std::memcpy(static_cast<void*>(pivotIndex), lu.rows, sizeof lu.rows);
         scatterRows(dst, first, 1, n, passed, pivotIndex, lu.a[0]);
         return passed == n ? StatusOk : StatusSingular;
     } else {
-        // Two lanes of even orders are rather stored one by one, where their rows belong.
-        constexpr bool rowsStay = isInPlanes<Dst> && (Number::width > 2 || n % 2 == 1);
         constexpr bool here = n <= 4 && (isAdjacent<Src> || isInPlanes<Src>);
         if ((here ? luFactoriseHere<rowsStay>(lu) : luFactorise<rowsStay>(lu)) < n) return StatusSingular;
         storeIntegers(lu.rows, pivotIndex);
@@ -50,7 +53,7 @@ VORM_HIDDEN bool luFactorise(Lanes<T>* a, int* order, int n);
 
 // A register of objects of other orders.
 template <class T, class Src, class Dst>
-[[gnu::noinline]] VormStatus luBuffered(const Src& src, const Dst& dst, int first, int n, int* pivotIndex)
+VORM_SHARED VormStatus luBuffered(const Src& src, const Dst& dst, int first, int n, int* pivotIndex)
 {
     RowBuffer<T> a;
     int order[bufferedOrder * narrow<T>];
@@ -64,7 +67,7 @@ template <class T, class Src, class Dst>
 // Arrays. Each order in a function of its own, with views of its own: in one for all of them most of what the loops
 // need would lie in memory.
 template <int n, class T, class Src, class Dst>
-[[gnu::noinline]] VormStatus luArray(const Src src, const Dst dst, int* pivotIndex, int count)
+VORM_SHARED VormStatus luArray(const Src src, const Dst dst, int* pivotIndex, int count)
 {
     using Widest = std::conditional_t<isAdjacent<Src> || isInPlanes<Src>, Wide<T>, Lanes<T>>;
     return inBlocks<Widest>(dst, n, n, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
@@ -81,7 +84,7 @@ VORM_INLINE VormStatus luArray(const Src& src, const Dst& dst, int* pivotIndex, 
         [&]<class Number>(int first)
             VORM_INLINE_LAMBDA { return order <= bufferedOrder && registersApart<Number>(dst, first, order, order); },
         [&]<class Number>(int first) VORM_INLINE_LAMBDA {
-            if constexpr (objectsIn<Number> == 1)
+            if constexpr (!inLanes<Number>)
                 return single(first);
             else
                 return luBuffered<T>(src, dst, first, order, pivotIndex + std::ptrdiff_t{first} * order);

@@ -14,7 +14,7 @@ namespace vorm::factor {
 template <int n, class Number>
 struct LuBlock {
     Number a[n][n];
-    std::conditional_t<objectsIn<Number> == 1, int, Number> rows[n];
+    std::conditional_t<inLanes<Number>, Number, int> rows[n];
 };
 
 // A pivot below this is singular: 2^-125 and 2^-1021. Single precision orders the magnitudes as

@@ -4,6 +4,7 @@
 
 #include "frame/blocks.hpp"
 #include "frame/object_rows.hpp"
+#include "frame/pin.hpp"
 
 namespace vorm::factor {
 
@@ -79,14 +80,34 @@ VORM_INLINE void loadPivoted(const M& matrix, const B& b, int first, const int* 
     using T = Element<Number>;
     constexpr int width = Number::width;
     const auto row = [&](int l, int k) VORM_INLINE_LAMBDA { return int{entry(pivotIndex, l * n + k)}; };
+    if constexpr (isInPlanes<M> && Number::width == 2 && !std::is_same_v<N, int>) {  // so few are rather gathered
+        repeat(n, [&](auto k) VORM_INLINE_LAMBDA {
+            const T* const* planes[width];
+            for (int l = 0; l < width; ++l) planes[l] = matrix.pp + row(l, k) * std::ptrdiff_t{n};
+            const std::ptrdiff_t offset = matrix.shift + first * std::ptrdiff_t{sizeof(T)};
+            for (int c = 0; c < n; ++c)
+                lu(k, c) = lanes<Number>([&](int l) VORM_INLINE_LAMBDA { return elementAt(planes[l][c] + l, offset); });
+            x(k) = lanes<Number>([&](int l) VORM_INLINE_LAMBDA { return T(b(first + l, row(l, k))); });
+        });
+        return;
+    }
     RowBuffer<T> buffer[Number::parts];
+    // Of planes the right-hand sides come along with the rows where the last register has room.
+    constexpr bool together = isInPlanes<M> && isInPlanes<B> && N{} % narrow<T> != 0;
     const T* objects[width];
     std::ptrdiff_t stride1;
     if constexpr (isAdjacent<M>) {
         objectsAt(matrix, first, objects);
         stride1 = matrix.stride1;
     } else {
-        for (int q = 0; q < Number::parts; ++q) loadInRows(matrix, first + q * narrow<T>, n, buffer[q]);
+        for (int q = 0; q < Number::parts; ++q) {
+            const int object = first + q * narrow<T>;
+            if constexpr (together)
+                loadInRows(matrix, object, n, buffer[q],
+                           [&](int r) VORM_INLINE_LAMBDA { return Lanes<T>::load(b.element(r) + object); });
+            else
+                loadInRows(matrix, object, n, buffer[q]);
+        }
         stride1 = registersOf<T>(n) * int{sizeof(Lanes<T>)};
         for (int l = 0; l < width; ++l)
             objects[l] = advance(reinterpret_cast<const T*>(buffer[l / narrow<T>]), l % narrow<T> * n * stride1);
@@ -96,14 +117,18 @@ VORM_INLINE void loadPivoted(const M& matrix, const B& b, int first, const int* 
     repeat(n, [&](auto k) VORM_INLINE_LAMBDA {
         const T* from[width];
         for (int l = 0; l < width; ++l) from[l] = advance(objects[l], row(l, k) * stride1);
-        const auto to = [&](int c) VORM_INLINE_LAMBDA -> auto& { return lu(k, c); };
-        loadRows(from, to, n);
-        x(k) = lanes<Number>([&](int l) VORM_INLINE_LAMBDA {
-            if constexpr (isAdjacent<B>)
-                return T(entry(vectors[l], row(l, k)));
-            else
-                return T(b(first + l, row(l, k)));
-        });
+        const auto to = [&](int c) VORM_INLINE_LAMBDA -> auto& { return c < n ? lu(k, c) : x(k); };
+        if constexpr (together) {
+            loadRows(from, to, constant<N{} + 1>);
+        } else {
+            loadRows(from, to, n);
+            x(k) = lanes<Number>([&](int l) VORM_INLINE_LAMBDA {
+                if constexpr (isAdjacent<B>)
+                    return T(entry(vectors[l], row(l, k)));
+                else
+                    return T(b(first + l, row(l, k)));
+            });
+        }
     });
 }
 
@@ -112,7 +137,9 @@ template <int n, class Number, class M, class B, class X>
 VORM_INLINE VormStatus luSolveObjects(const M& matrix, const B& b, const X& dst, int first, const int* pivotIndex)
 {
     Number lu[n][n], x[n];
-    if constexpr (objectsIn<Number> == 1)
+    if constexpr (n == 3 && sizeof(Element<Number>) == sizeof(float))
+        first = opaque(first);  // or the loop keeps more addresses than there are registers
+    if constexpr (!inLanes<Number>)
         for (int k = 0; k < n; ++k) {
             const int row = entry(pivotIndex, k);
             for (int c = 0; c < n; ++c) lu[k][c] = matrix(first, row, c);
@@ -133,7 +160,7 @@ VORM_INLINE VormStatus luSolveObjects(const M& matrix, const B& b, const X& dst,
 
 // A function of its own, as luArray is.
 template <int n, class T, class M, class B, class X>
-[[gnu::noinline]] void luSolvePairs(const M matrix, const B b, const X dst, const int* pivotIndex, int count)
+VORM_SHARED void luSolvePairs(const M matrix, const B b, const X dst, const int* pivotIndex, int count)
 {
     using Widest = std::conditional_t<isInPlanes<M> || isAdjacent<M>, Wide<T>, T>;
     inBlocks<Widest>(dst, 1, n, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
@@ -144,7 +171,7 @@ template <int n, class T, class M, class B, class X>
 // All vectors with one matrix: reciprocals of the diagonal, once per call. Single vectors run in lanes
 // too, all of them the same. A function of its own, as luArray is.
 template <int n, class T, class M, class B, class X>
-[[gnu::noinline]] void luSolveVectors(const M matrix, const B b, const X dst, const int* pivotIndex, int count)
+VORM_SHARED void luSolveVectors(const M matrix, const B b, const X dst, const int* pivotIndex, int count)
 {
     constexpr bool whole = isAdjacent<B> || isInPlanes<B>;
     using L = std::conditional_t<whole, Wide<T>, Lanes<T>>;
@@ -160,7 +187,7 @@ template <int n, class T, class M, class B, class X>
     const auto inMemory = [](auto& array) VORM_INLINE_LAMBDA -> auto&
     {
         auto* p = &array;
-        if constexpr (whole || n == 6) __asm__("" : "+r"(p) : : "memory");
+        if constexpr (whole || n == 6) p = opaque(p);
         return *p;
     };
     const auto& coefficients = inMemory(lu);
@@ -170,7 +197,7 @@ template <int n, class T, class M, class B, class X>
         for (int k = 0; k < n; ++k) planes[k] = b.element(rows[k]);
     using Widest = std::conditional_t<whole, Several<L, 2>, L>;
     inBlocks<Widest>(dst, 1, n, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
-        constexpr bool isSingle = objectsIn<Number> == 1;
+        constexpr bool isSingle = !inLanes<Number>;
         using Unknown = std::conditional_t<isSingle, Lanes<T>, Number>;
         using Factor = std::conditional_t<objectsIn<Number> >= L::width, L, Lanes<T>>;
         Unknown x[n];
@@ -179,7 +206,7 @@ template <int n, class T, class M, class B, class X>
         } else if constexpr (isInPlanes<B>) {
             for (int k = 0; k < n; ++k)
                 unrolled<registersIn<Unknown>>([&](auto r) VORM_INLINE_LAMBDA {
-                    registerOf<r>(x[k]) = Factor::load(planes[k] + first + r * Factor::width);
+                    registerOf(x[k], r) = Factor::load(planes[k] + first + r * Factor::width);
                 });
         } else {
             Unknown natural[n];

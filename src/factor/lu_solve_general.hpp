@@ -53,7 +53,7 @@ VORM_INLINE T sumOfProducts(const AdjacentRow<const T>& row, const AdjacentRow<T
 
 // The intermediate vector lives in the destination while b is read in permuted order.
 template <class T, class M, class B, class X>
-VORM_INLINE void luSolveGeneral(const M& matrix, const B& b, const X& dst, int object, int order, const int* pivotIndex)
+VORM_SHARED void luSolveOne(const M matrix, const B b, const X dst, int object, int order, const int* pivotIndex)
 {
     const auto row = [&](int k) VORM_INLINE_LAMBDA {
         const int physical = int{entry(pivotIndex, k)};
@@ -79,6 +79,16 @@ VORM_INLINE void luSolveGeneral(const M& matrix, const B& b, const X& dst, int o
     }
 }
 
+// The same code for objects of arrays as for single ones.
+template <class T, class M, class B, class X>
+VORM_INLINE void luSolveGeneral(const M& matrix, const B& b, const X& dst, int object, int order, const int* pivotIndex)
+{
+    if constexpr (requires { dst.single(0); })
+        luSolveOne<T>(matrix.single(object), b.single(object), dst.single(object), 0, order, pivotIndex);
+    else
+        luSolveOne<T>(plain(matrix), plain(b), plain(dst), object, order, pivotIndex);
+}
+
 // Solves with factors in logical row order; x holds b in logical order before, the solution after.
 template <class Factor, class Number>
 VORM_HIDDEN void luSubstituteBuffered(const Factor* lu, Number* x, int n);
@@ -90,24 +100,28 @@ template <class T>
 using LuOneMatrix = Several<Lanes<T>, 4>;
 
 template <class T, class M, class B, class X>
-[[gnu::noinline]] void luSolvePairs(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int n, int count)
+VORM_SHARED void luSolvePairs(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int n, int count)
 {
     const auto buffered = [&]<class Number>(int first) VORM_INLINE_LAMBDA {
         return n <= bufferedOrder && registersApart<Number>(dst, first, 1, n);
     };
     inBlocks<LuOwnMatrices<T>>(count, buffered, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
         const auto pivots = [&](int object) VORM_INLINE_LAMBDA { return pivotIndex + std::ptrdiff_t{object} * n; };
-        if constexpr (objectsIn<Number> == 1) {
+        if constexpr (!inLanes<Number>) {
             luSolveGeneral<T>(matrix, b, dst, first, n, pivots(first));
         } else {
             Number lu[bufferedOrder * bufferedOrder], x[bufferedOrder];
-            unrolled<registersIn<Number>>([&](auto r) VORM_INLINE_LAMBDA {
-                const int object = first + r * narrow<T>;
-                loadPivoted<Lanes<T>>(
-                    matrix, b, object, pivots(object),
-                    n, [&](int k, int c) VORM_INLINE_LAMBDA -> auto& { return registerOf<r>(lu[k * n + c]); },
-                    [&](int k) VORM_INLINE_LAMBDA -> auto& { return registerOf<r>(x[k]); });
-            });
+            if constexpr (isAdjacent<M> || isInPlanes<M>) {
+                eachRegister<Number>(n, first, [&](int k, int object) VORM_INLINE_LAMBDA {
+                    loadPivoted<Lanes<T>>(
+                        matrix, b, object, pivots(object),
+                        n, [&](int r, int c) VORM_INLINE_LAMBDA -> auto& { return registerOf(lu[r * n + c], k); },
+                        [&](int r) VORM_INLINE_LAMBDA -> auto& { return registerOf(x[r], k); });
+                });
+            } else {
+                gatherMatrices(matrix, first, objectsIn<Number>, n, pivots(first), reinterpret_cast<T*>(lu));
+                gatherVectors(b, first, objectsIn<Number>, n, pivots(first), reinterpret_cast<T*>(x));
+            }
             luSubstituteBuffered(lu, x, n);
             storeVectors(dst, first, x, n);
         }
@@ -116,18 +130,17 @@ template <class T, class M, class B, class X>
 }
 
 template <class T, class M, class B, class X>
-[[gnu::noinline]] void luSolveVectors(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int n,
-                                      int count)
+VORM_SHARED void luSolveVectors(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int n, int count)
 {
-    const bool inLanes = n <= bufferedOrder && count >= narrow<T>;
+    const bool fits = n <= bufferedOrder && count >= narrow<T>;
     RowBuffer<T> lu;
-    if (inLanes)
+    if (fits)
         for (int k = 0; k < n; ++k)
             for (int c = 0; c < n; ++c) lu[k * n + c] = T(matrix(0, entry(pivotIndex, k), c));
     const auto buffered = [&]<class Number>(int first)
-                              VORM_INLINE_LAMBDA { return inLanes && registersApart<Number>(dst, first, 1, n); };
+                              VORM_INLINE_LAMBDA { return fits && registersApart<Number>(dst, first, 1, n); };
     inBlocks<LuOneMatrix<T>>(count, buffered, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
-        if constexpr (objectsIn<Number> == 1) {
+        if constexpr (!inLanes<Number>) {
             luSolveGeneral<T>(matrix, b, dst, first, n, pivotIndex);
         } else {
             Number natural[bufferedOrder], x[bufferedOrder];

@@ -33,7 +33,7 @@ struct NarrowerThan<Lanes<T, W>> {
 template <class Number, class View>
 VORM_INLINE bool registersApart(const View& view, int first, int rows, int len)
 {
-    constexpr int width = objectsIn<Number> / registersIn<Number>;
+    constexpr int width = RegisterIn<Number>::width;
     for (int k = 0; k < registersIn<Number>; ++k)
         if (!objectsApart<width>(view, first + k * width, rows, len)) return false;
     return true;
@@ -43,7 +43,7 @@ VORM_INLINE bool registersApart(const View& view, int first, int rows, int len)
 template <class Number, class Apart, class Method>
 VORM_INLINE void wholeBlocks(int& done, int count, const Apart& apart, const Method& method)
 {
-    if constexpr (objectsIn < Number >> 1) {
+    if constexpr (inLanes<Number>) {
         while (count - done >= objectsIn<Number> && apart.template operator()<Number>(done) &&
                method.template operator()<Number>(done) == StatusOk)
             done += objectsIn<Number>;

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <type_traits>
+#include <utility>
 
 #include "frame/memory.hpp"
 #include "frame/registers.hpp"
@@ -60,14 +61,16 @@ struct Lanes {
     friend Lanes timesSignOf(Lanes a, Lanes b) { return R::differing(a.v, R::both(b.v, R::all(-T(0)))); }
     // Lane by lane: a where the mask is set, b elsewhere.
     friend Lanes select(Mask mask, Lanes a, Lanes b) { return R::select(mask.bits, a.v, b.v); }
+    friend Lanes where(Mask mask, Lanes a) { return R::where(mask.bits, a.v); }  // zero elsewhere
 
     // To exchange numbers where a mask is set: the bits in which they differ, to be united with those of other masks,
     // and a number with such bits changed.
     friend Lanes difference(Mask mask, Lanes a, Lanes b) { return R::difference(mask.bits, a.v, b.v); }
     friend Lanes united(Lanes difference, Lanes other) { return R::either(difference.v, other.v); }
     friend Lanes changed(Lanes a, Lanes difference) { return R::differing(a.v, difference.v); }
-    // A small integer in all lanes, which is only moved and selected, not computed with.
+    // Small integers of no sign, which are only moved, selected and compared with each other.
     static Lanes integer(int x) { return R::bits(x); }
+    friend Lanes largerInteger(Lanes a, Lanes b) { return R::largerInteger(a.v, b.v); }
     friend void storeIntegers(Lanes a, Integer<T>* to) { a.store(reinterpret_cast<T*>(to)); }
 
     // 1/a and 1/sqrt(a) to about twelve bits, which are the processor's own; single precision only.
@@ -96,6 +99,11 @@ template <class T>
 constexpr T select(bool mask, T a, T b)
 {
     return mask ? a : b;
+}
+template <class T>
+constexpr T where(bool mask, T a)
+{
+    return mask ? a : T(0);
 }
 constexpr bool any(bool mask) { return mask; }
 constexpr bool all(bool mask) { return mask; }
@@ -156,17 +164,21 @@ constexpr int objectsIn<Lanes<T, W>> = W;
 template <class L, int registers>
 constexpr int objectsIn<Several<L, registers>> = registers* L::width;
 template <class Number>
+constexpr bool inLanes = (objectsIn<Number> > 1);
+template <class Number>
 constexpr int registersIn = 1;
 template <class L, int registers>
 constexpr int registersIn<Several<L, registers>> = registers;
-template <int k, class Number>
-VORM_INLINE auto& registerOf(Number& a)
+template <class Number>
+VORM_INLINE auto& registerOf(Number& a, int k)
 {
     if constexpr (registersIn<std::remove_const_t<Number>> == 1)
         return a;
     else
         return a.part[k];
 }
+template <class Number>
+using RegisterIn = std::remove_cvref_t<decltype(registerOf(std::declval<Number&>(), 0))>;
 
 // A register of parts of 128 bits, part(q) being the q-th of them; and each of them by itself, store(q, part).
 template <class L, class Part>

@@ -9,6 +9,12 @@
 // For the templates a named layer consists of: the layer is then one function, without a call.
 #define VORM_INLINE [[gnu::always_inline]] inline
 #define VORM_INLINE_LAMBDA __attribute__((always_inline))
+// For templates that are compiled once for the whole library, and not again for what a caller is known to pass.
+#ifdef __clang__
+#define VORM_SHARED [[gnu::noinline]]
+#else
+#define VORM_SHARED [[gnu::noinline, gnu::noclone]]
+#endif
 
 // No layer is inlined into another one, even within a module: the step between them stays a jump.
 #define VORM_LAYERS(name, parameters)                                                             \

@@ -5,7 +5,6 @@
 // anywhere else are gathered one by one. n is a number of the program's run, or an std::integral_constant.
 #pragma once
 
-#include <cstddef>
 #include <type_traits>
 
 #include "frame/planes.hpp"
@@ -106,27 +105,55 @@ template <class T, class View>
     for (int l = 0; l < objects; ++l)
         for (int i = 0; i < n; ++i) view(first + l, i) = from[i * objects + l];
 }
-// Only some rows, the first ones; row r of object l goes to row rows[l * n + r] of the result, or stays in its place.
+// Row r of object l is row rows[l * n + r] of the matrix; the same of vectors.
+template <class T, class View>
+[[gnu::noinline]] void gatherVectors(const View& view, int first, int objects, int n, const int* rows, T* to)
+{
+    for (int l = 0; l < objects; ++l)
+        for (int i = 0; i < n; ++i) to[i * objects + l] = view(first + l, entry(rows, l * n + i));
+}
+template <class T, class View>
+[[gnu::noinline]] void gatherMatrices(const View& view, int first, int objects, int n, const int* rows, T* to)
+{
+    for (int l = 0; l < objects; ++l)
+        for (int r = 0; r < n; ++r)
+            for (int c = 0; c < n; ++c) to[(r * n + c) * objects + l] = view(first + l, entry(rows, l * n + r), c);
+}
+template <class T, class View>
+[[gnu::noinline]] void scatterMatrices(const View& view, int first, int objects, int n, const T* from)
+{
+    for (int l = 0; l < objects; ++l)
+        for (int r = 0; r < n; ++r)
+            for (int c = 0; c < n; ++c) view(first + l, r, c) = from[(r * n + c) * objects + l];
+}
+// Some rows, the first ones: row r of object l is row rows[l * n + r] of the result.
 template <class T, class View>
 [[gnu::noinline]] void scatterRows(const View& view, int first, int objects, int n, int some, const int* rows,
                                    const T* from)
 {
     for (int l = 0; l < objects; ++l)
         for (int r = 0; r < some; ++r)
-            for (int c = 0; c < n; ++c)
-                view(first + l, rows ? int{entry(rows, l * n + r)} : r, c) = from[(r * n + c) * objects + l];
+            for (int c = 0; c < n; ++c) view(first + l, entry(rows, l * n + r), c) = from[(r * n + c) * objects + l];
 }
 
 // As many objects as a number holds, from the first on. ---------------------------------------------------------
 
-// Row r of each lane's object, or of lane l that with the number row(l).
+// Row row(l) of the object of lane l.
 template <class View, class Row, class T, int W>
 VORM_INLINE void rowsAt(const View& view, int first, const Row& row, T* (&to)[W])
 {
-    if constexpr (std::is_convertible_v<Row, int>)
-        for (int l = 0; l < W; ++l) to[l] = rowAt(view, first + l, row);
+    for (int l = 0; l < W; ++l) to[l] = rowAt(view, first + l, row(l));
+}
+
+// Each register of a number, k-th of them with the objects from first on; written out where sizes are constants.
+template <class Number, class N, class Body>
+VORM_INLINE void eachRegister(N, int first, const Body& body)
+{
+    constexpr int registers = registersIn<Number>, width = RegisterIn<Number>::width;
+    if constexpr (std::is_same_v<N, int>)
+        for (int k = 0; k < registers; ++k) body(k, first + k * width);
     else
-        for (int l = 0; l < W; ++l) to[l] = rowAt(view, first + l, row(l));
+        unrolled<registers>([&](auto k) VORM_INLINE_LAMBDA { body(k, first + k * width); });
 }
 
 // Element i of each vector is at x[i].
@@ -134,21 +161,19 @@ template <class Number, class View, class N>
 VORM_INLINE void loadVectors(const View& view, int first, Number* x, N n)
 {
     using T = Element<Number>;
-    if constexpr (objectsIn < Number >> 1 && (isAdjacent<View> || isInPlanes<View>))
-        unrolled<registersIn<Number>>([&](auto k) VORM_INLINE_LAMBDA {
-            constexpr int width = objectsIn<Number> / registersIn<Number>;
-            const int object = first + k * width;
+    if constexpr (inLanes<Number> && (isAdjacent<View> || isInPlanes<View>))
+        eachRegister<Number>(n, first, [&](auto k, int object) VORM_INLINE_LAMBDA {
             if constexpr (isAdjacent<View>) {
-                const T* from[width];
+                const T* from[RegisterIn<Number>::width];
                 objectsAt(view, object, from);
                 loadRows(
-                    from, [&](int i) VORM_INLINE_LAMBDA -> auto& { return registerOf<k>(x[i]); }, n);
+                    from, [&](int i) VORM_INLINE_LAMBDA -> auto& { return registerOf(x[i], k); }, n);
             } else {
-                for (int i = 0; i < n; ++i) registerOf<k>(x[i]) = Lanes<T, width>::load(view.element(i) + object);
+                for (int i = 0; i < n; ++i) registerOf(x[i], k) = RegisterIn<Number>::load(view.element(i) + object);
             }
         });
-    else if constexpr (objectsIn<Number> == 1)
-        for (int i = 0; i < n; ++i) x[i] = view(first, i);
+    else if constexpr (!inLanes<Number>)
+        repeat(n, [&](int i) VORM_INLINE_LAMBDA { x[i] = view(first, i); });
     else
         gatherVectors(view, first, objectsIn<Number>, n, reinterpret_cast<T*>(x));
 }
@@ -156,21 +181,19 @@ template <class Number, class View, class N>
 VORM_INLINE void storeVectors(const View& view, int first, const Number* x, N n)
 {
     using T = Element<Number>;
-    if constexpr (objectsIn < Number >> 1 && (isAdjacent<View> || isInPlanes<View>))
-        unrolled<registersIn<Number>>([&](auto k) VORM_INLINE_LAMBDA {
-            constexpr int width = objectsIn<Number> / registersIn<Number>;
-            const int object = first + k * width;
+    if constexpr (inLanes<Number> && (isAdjacent<View> || isInPlanes<View>))
+        eachRegister<Number>(n, first, [&](auto k, int object) VORM_INLINE_LAMBDA {
             if constexpr (isAdjacent<View>) {
-                T* to[width];
+                T* to[RegisterIn<Number>::width];
                 objectsAt(view, object, to);
                 storeRows(
-                    to, [&](int i) VORM_INLINE_LAMBDA { return registerOf<k>(x[i]); }, n);
+                    to, [&](int i) VORM_INLINE_LAMBDA { return registerOf(x[i], k); }, n);
             } else {
-                for (int i = 0; i < n; ++i) registerOf<k>(x[i]).store(view.element(i) + object);
+                for (int i = 0; i < n; ++i) registerOf(x[i], k).store(view.element(i) + object);
             }
         });
-    else if constexpr (objectsIn<Number> == 1)
-        for (int i = 0; i < n; ++i) view(first, i) = x[i];
+    else if constexpr (!inLanes<Number>)
+        repeat(n, [&](int i) VORM_INLINE_LAMBDA { view(first, i) = x[i]; });  // a loop would go through memory
     else
         scatterVectors(view, first, objectsIn<Number>, n, reinterpret_cast<const T*>(x));
 }
@@ -180,14 +203,15 @@ template <class Number, class View, int n>
 VORM_INLINE void loadMatrices(const View& view, int first, Number (&a)[n][n])
 {
     using T = Element<Number>;
-    if constexpr (objectsIn < Number >> 1 && isAdjacent<View>)
+    if constexpr (inLanes<Number> && isAdjacent<View>)
         unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
             const T* from[Number::width];
-            rowsAt(view, first, int{r}, from);
+            rowsAt(
+                view, first, [r](int) VORM_INLINE_LAMBDA { return int{r}; }, from);
             loadRows(
                 from, [&](int c) VORM_INLINE_LAMBDA -> auto& { return a[r][c]; }, constant<n>);
         });
-    else if constexpr (objectsIn<Number> > 1 && isInPlanes<View>)
+    else if constexpr (inLanes<Number> && isInPlanes<View>)
         unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
             for (int c = 0; c < n; ++c) a[r][c] = Number::load(view.element(r, c) + first);
         });
@@ -195,33 +219,43 @@ VORM_INLINE void loadMatrices(const View& view, int first, Number (&a)[n][n])
         gatherMatrices(view, first, objectsIn<Number>, n, reinterpret_cast<T*>(a));
 }
 
-// Row r of each matrix is a[r]. It goes to row rows[l * n + r] of object l, or where rows is null stays in its place.
-template <class Number, class View, int n, class Rows = std::nullptr_t>
-VORM_INLINE void storeMatrices(const View& view, int first, const Number (&a)[n][n], Rows rows = nullptr)
+template <class Number, class View, int n>
+VORM_INLINE void storeMatrices(const View& view, int first, const Number (&a)[n][n])
 {
     using T = Element<Number>;
-    const auto rowOf = [&](int l, int r) VORM_INLINE_LAMBDA {
-        if constexpr (std::is_same_v<Rows, std::nullptr_t>)
-            return r;
-        else
-            return int{entry(rows, l * n + r)};
-    };
-    if constexpr (isAdjacent<View>)
+    if constexpr (inLanes<Number> && isAdjacent<View>)
         unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
             T* to[Number::width];
             rowsAt(
-                view, first, [&](int l) VORM_INLINE_LAMBDA { return rowOf(l, r); }, to);
+                view, first, [r](int) VORM_INLINE_LAMBDA { return int{r}; }, to);
             storeRows(
                 to, [&](int c) VORM_INLINE_LAMBDA { return a[r][c]; }, constant<n>);
         });
-    else if constexpr (isInPlanes<View> && std::is_same_v<Rows, std::nullptr_t>)
+    else if constexpr (inLanes<Number> && isInPlanes<View>)
         unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
             for (int c = 0; c < n; ++c) a[r][c].store(view.element(r, c) + first);
         });
-    else if constexpr (isInPlanes<View>)
+    else
+        scatterMatrices(view, first, objectsIn<Number>, n, reinterpret_cast<const T*>(a));
+}
+// The same, where a[r] is row rows[l * n + r] of object l.
+template <class Number, class View, int n>
+VORM_INLINE void storeMatrices(const View& view, int first, const Number (&a)[n][n], const int* rows)
+{
+    using T = Element<Number>;
+    const auto row = [&](int l, int r) VORM_INLINE_LAMBDA { return int{entry(rows, l * n + r)}; };
+    if constexpr (inLanes<Number> && isAdjacent<View>)
+        unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
+            T* to[Number::width];
+            rowsAt(
+                view, first, [&](int l) VORM_INLINE_LAMBDA { return row(l, r); }, to);
+            storeRows(
+                to, [&](int c) VORM_INLINE_LAMBDA { return a[r][c]; }, constant<n>);
+        });
+    else if constexpr (inLanes<Number> && isInPlanes<View>)
         unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
             unrolled<Number::width>([&](auto l) VORM_INLINE_LAMBDA {
-                T* const* const planes = view.pp + rowOf(l, r) * std::ptrdiff_t{n};
+                T* const* const planes = view.pp + row(l, r) * std::ptrdiff_t{n};
                 const std::ptrdiff_t offset = view.shift + first * std::ptrdiff_t{sizeof(T)};
                 for (int c = 0; c < n; ++c) elementAt(planes[c] + l, offset) = lane<l>(a[r][c]);
             });

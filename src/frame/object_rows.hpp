@@ -17,9 +17,14 @@ constexpr int registersOf(int n)  // of a row
     return (n + narrow<T> - 1) / narrow<T>;
 }
 
-// Row r of object l begins at to[(l * n + r) * registersOf<T>(n)]; it ends in zeros.
-template <class T, class View>
-VORM_INLINE void loadInRows(const View& view, int first, int n, Lanes<T>* to)
+// Row r of object l begins at to[(l * n + r) * registersOf<T>(n)]; it ends in zeros. From planes another column may
+// be taken along behind it, where that has room: column(r) is its element r of all objects.
+template <class T>
+struct NoColumn {
+    Lanes<T> operator()(int) const { return T(0); }
+};
+template <class T, class View, class Column = NoColumn<T>>
+VORM_INLINE void loadInRows(const View& view, int first, int n, Lanes<T>* to, const Column& column = {})
 {
     constexpr int width = narrow<T>;
     const int registers = registersOf<T>(n), whole = n / width, rest = n % width;
@@ -35,7 +40,9 @@ VORM_INLINE void loadInRows(const View& view, int first, int n, Lanes<T>* to)
             for (int i = 0; i < registers; ++i) {
                 Lanes<T> block[width];
                 for (int c = 0; c < width; ++c)
-                    block[c] = i < whole || c < rest ? Lanes<T>::load(view.element(r, i * width + c) + first) : T(0);
+                    block[c] = i < whole || c < rest ? Lanes<T>::load(view.element(r, i * width + c) + first)
+                               : c == rest           ? column(r)
+                                                     : Lanes<T>(T(0));
                 transpose(block);
                 for (int l = 0; l < width; ++l) to[(l * n + r) * registers + i] = block[l];
             }

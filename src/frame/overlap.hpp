@@ -24,7 +24,7 @@ VORM_INLINE bool objectsApart(const View& view, int first, int rows, int len)
     if constexpr (isAdjacent<View>) {
         const std::ptrdiff_t row = len * std::ptrdiff_t{sizeof(*view.object(0))};
         std::ptrdiff_t stride1 = 0;
-        if constexpr (adjacentRows<View>) stride1 = view.stride1;
+        if constexpr (requires { view.stride1; }) stride1 = view.stride1;
         const std::ptrdiff_t span = (rows - 1) * stride1 + row;
         if constexpr (requires { view.stride0; }) {
             return view.stride0 >= span ||

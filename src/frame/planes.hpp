@@ -28,6 +28,18 @@ struct InPlanes : View {
         return entry(this->element(index...), n);
     }
 };
+// Without that knowledge, where it would only make another copy of the code.
+template <class View>
+constexpr const View& plain(const View& view)
+{
+    return view;
+}
+template <class View>
+constexpr const View& plain(const InPlanes<View>& view)
+{
+    return view;
+}
+
 template <class View>
 constexpr bool isInPlanes = false;
 template <class View>

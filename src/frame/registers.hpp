@@ -5,6 +5,9 @@
 #ifdef __AVX2__
 #pragma GCC diagnostic push  // g++ 12 warns of undefined registers that its own header means to be undefined
 #pragma GCC diagnostic ignored "-Wuninitialized"
+#ifndef __clang__
+#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
+#endif
 #include <immintrin.h>
 #pragma GCC diagnostic pop
 #else
@@ -18,9 +21,11 @@ namespace vorm {
 // As many lanes as 128 bits have, the width that results are defined by; and as many as this build has.
 template <class T>
 constexpr int narrow = 16 / int{sizeof(T)};
-#if defined(__AVX512DQ__) && defined(__AVX512VL__)
+#if defined(__AVX512BW__) && defined(__AVX512DQ__) && defined(__AVX512VL__)
+#define VORM_WIDER_REGISTERS
 constexpr int registerBytes = 64;
 #elif defined(__AVX2__)
+#define VORM_WIDER_REGISTERS
 constexpr int registerBytes = 32;
 #else
 constexpr int registerBytes = 16;
@@ -48,6 +53,10 @@ struct Register<float, 4> {
     static V div(V a, V b) { return _mm_div_ps(a, b); }
     static V root(V a) { return _mm_sqrt_ps(a); }
     static V larger(V a, V b) { return _mm_max_ps(a, b); }
+    static V largerInteger(V a, V b)
+    {
+        return _mm_castsi128_ps(_mm_max_epi16(_mm_castps_si128(a), _mm_castps_si128(b)));
+    }
     static V estimateReciprocal(V a) { return _mm_rcp_ps(a); }
     static V estimateReciprocalRoot(V a) { return _mm_rsqrt_ps(a); }
 
@@ -61,6 +70,7 @@ struct Register<float, 4> {
     static Mask equal(V a, V b) { return _mm_cmpeq_ps(a, b); }
     static int maskBits(Mask m) { return _mm_movemask_ps(m); }
     static V select(Mask m, V a, V b) { return _mm_or_ps(_mm_and_ps(m, a), _mm_andnot_ps(m, b)); }
+    static V where(Mask m, V a) { return both(m, a); }
     static V difference(Mask m, V a, V b) { return both(m, differing(a, b)); }
 
     static V low(V a, V b) { return _mm_unpacklo_ps(a, b); }
@@ -106,6 +116,10 @@ struct Register<double, 2> {
     static V div(V a, V b) { return _mm_div_pd(a, b); }
     static V root(V a) { return _mm_sqrt_pd(a); }
     static V larger(V a, V b) { return _mm_max_pd(a, b); }
+    static V largerInteger(V a, V b)
+    {
+        return _mm_castsi128_pd(_mm_max_epi16(_mm_castpd_si128(a), _mm_castpd_si128(b)));
+    }
 
     static V both(V a, V b) { return _mm_and_pd(a, b); }
     static V either(V a, V b) { return _mm_or_pd(a, b); }
@@ -117,6 +131,7 @@ struct Register<double, 2> {
     static Mask equal(V a, V b) { return _mm_cmpeq_pd(a, b); }
     static int maskBits(Mask m) { return _mm_movemask_pd(m); }
     static V select(Mask m, V a, V b) { return _mm_or_pd(_mm_and_pd(m, a), _mm_andnot_pd(m, b)); }
+    static V where(Mask m, V a) { return both(m, a); }
     static V difference(Mask m, V a, V b) { return both(m, differing(a, b)); }
 
     static V low(V a, V b) { return _mm_unpacklo_pd(a, b); }
@@ -149,6 +164,6 @@ struct Register<double, 2> {
 #ifdef __AVX2__
 #include "frame/registers_256.hpp"
 #endif
-#if defined(__AVX512DQ__) && defined(__AVX512VL__)
+#if defined(__AVX512BW__) && defined(__AVX512DQ__) && defined(__AVX512VL__)
 #include "frame/registers_512.hpp"
 #endif

@@ -19,6 +19,10 @@ struct Register<float, 8> {
     static V div(V a, V b) { return _mm256_div_ps(a, b); }
     static V root(V a) { return _mm256_sqrt_ps(a); }
     static V larger(V a, V b) { return _mm256_max_ps(a, b); }
+    static V largerInteger(V a, V b)
+    {
+        return _mm256_castsi256_ps(_mm256_max_epi16(_mm256_castps_si256(a), _mm256_castps_si256(b)));
+    }
     static V estimateReciprocal(V a) { return _mm256_rcp_ps(a); }
     static V estimateReciprocalRoot(V a) { return _mm256_rsqrt_ps(a); }
 
@@ -32,6 +36,7 @@ struct Register<float, 8> {
     static Mask equal(V a, V b) { return _mm256_cmp_ps(a, b, _CMP_EQ_OQ); }
     static int maskBits(Mask m) { return _mm256_movemask_ps(m); }
     static V select(Mask m, V a, V b) { return _mm256_blendv_ps(b, a, m); }
+    static V where(Mask m, V a) { return both(m, a); }
     static V difference(Mask m, V a, V b) { return both(m, differing(a, b)); }
 
     static V low(V a, V b) { return _mm256_unpacklo_ps(a, b); }
@@ -80,6 +85,10 @@ struct Register<double, 4> {
     static V div(V a, V b) { return _mm256_div_pd(a, b); }
     static V root(V a) { return _mm256_sqrt_pd(a); }
     static V larger(V a, V b) { return _mm256_max_pd(a, b); }
+    static V largerInteger(V a, V b)
+    {
+        return _mm256_castsi256_pd(_mm256_max_epi16(_mm256_castpd_si256(a), _mm256_castpd_si256(b)));
+    }
 
     static V both(V a, V b) { return _mm256_and_pd(a, b); }
     static V either(V a, V b) { return _mm256_or_pd(a, b); }
@@ -91,6 +100,7 @@ struct Register<double, 4> {
     static Mask equal(V a, V b) { return _mm256_cmp_pd(a, b, _CMP_EQ_OQ); }
     static int maskBits(Mask m) { return _mm256_movemask_pd(m); }
     static V select(Mask m, V a, V b) { return _mm256_blendv_pd(b, a, m); }
+    static V where(Mask m, V a) { return both(m, a); }
     static V difference(Mask m, V a, V b) { return both(m, differing(a, b)); }
 
     static V low(V a, V b) { return _mm256_unpacklo_pd(a, b); }

@@ -19,6 +19,10 @@ struct Register<float, 16> {
     static V div(V a, V b) { return _mm512_div_ps(a, b); }
     static V root(V a) { return _mm512_sqrt_ps(a); }
     static V larger(V a, V b) { return _mm512_max_ps(a, b); }
+    static V largerInteger(V a, V b)
+    {
+        return _mm512_castsi512_ps(_mm512_max_epi16(_mm512_castps_si512(a), _mm512_castps_si512(b)));
+    }
     // By halves: the estimates of 512 bits have other bits.
     static V estimateReciprocal(V a) { return joinHalves(_mm256_rcp_ps(half<0>(a)), _mm256_rcp_ps(half<1>(a))); }
     static V estimateReciprocalRoot(V a)
@@ -39,6 +43,7 @@ struct Register<float, 16> {
     static Mask equal(V a, V b) { return _mm512_cmp_ps_mask(a, b, _CMP_EQ_OQ); }
     static int maskBits(Mask m) { return m; }
     static V select(Mask m, V a, V b) { return _mm512_mask_blend_ps(m, b, a); }
+    static V where(Mask m, V a) { return _mm512_maskz_mov_ps(m, a); }
     static V difference(Mask m, V a, V b) { return _mm512_maskz_xor_ps(m, a, b); }
 
     static V low(V a, V b) { return _mm512_unpacklo_ps(a, b); }
@@ -97,6 +102,10 @@ struct Register<double, 8> {
     static V div(V a, V b) { return _mm512_div_pd(a, b); }
     static V root(V a) { return _mm512_sqrt_pd(a); }
     static V larger(V a, V b) { return _mm512_max_pd(a, b); }
+    static V largerInteger(V a, V b)
+    {
+        return _mm512_castsi512_pd(_mm512_max_epi16(_mm512_castpd_si512(a), _mm512_castpd_si512(b)));
+    }
 
     static V both(V a, V b) { return _mm512_and_pd(a, b); }
     static V either(V a, V b) { return _mm512_or_pd(a, b); }
@@ -111,6 +120,7 @@ struct Register<double, 8> {
     static Mask equal(V a, V b) { return _mm512_cmp_pd_mask(a, b, _CMP_EQ_OQ); }
     static int maskBits(Mask m) { return m; }
     static V select(Mask m, V a, V b) { return _mm512_mask_blend_pd(m, b, a); }
+    static V where(Mask m, V a) { return _mm512_maskz_mov_pd(m, a); }
     static V difference(Mask m, V a, V b) { return _mm512_maskz_xor_pd(m, a, b); }
 
     static V low(V a, V b) { return _mm512_unpacklo_pd(a, b); }

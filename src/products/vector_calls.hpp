@@ -5,7 +5,7 @@
 #include "frame/call.hpp"
 #include "products/vector_kernels.hpp"
 
-namespace vorm {
+namespace vorm::products {
 
 template <class As, Bodies bodies = Bodies::upTo6, class T, class TheTests, class Parts>
 VORM_INLINE VormStatus contiguousKernel(const ArrayCall<T, TheTests, Parts>& call)
@@ -53,4 +53,4 @@ VORM_INLINE VormStatus anyStrideKernel(const Call<T, TheTests, Parts>& call)
         });
 }
 
-}  // namespace vorm
+}  // namespace vorm::products

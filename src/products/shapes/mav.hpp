@@ -26,7 +26,7 @@
     ppSrc1, src1Shift, src1Stride0, src1Width, src1Height, ppSrc2, src2Shift, src2Len, ppDst, dstShift, dstStride0, \
         count
 
-namespace vorm {
+namespace vorm::products {
 
 // K (N + 1) count + N with K rows and N columns of the matrix as it is used: mav H (W + 1) count + W, tav
 // W (H + 1) count + H.
@@ -61,4 +61,4 @@ VORM_INLINE auto mavP(MAV_PARAMS_P(T))
                           VectorArrayPointers{ppDst, dstShift, dstStride0}, Fit{As::columns(src1Width, src1Height), src2Len});
 }
 
-}  // namespace vorm
+}  // namespace vorm::products

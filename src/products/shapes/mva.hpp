@@ -26,7 +26,7 @@
     ppSrc1, src1Shift, src1Width, src1Height, ppSrc2, src2Shift, src2Stride0, src2Len, ppDst, dstShift, dstStride0, \
         count
 
-namespace vorm {
+namespace vorm::products {
 
 // W H + (W + H) count
 constexpr Work mvaWork(int src1Width, int src1Height, int count)
@@ -58,4 +58,4 @@ VORM_INLINE auto mvaP(MVA_PARAMS_P(T))
                           Fit{As::columns(src1Width, src1Height), src2Len});
 }
 
-}  // namespace vorm
+}  // namespace vorm::products

@@ -27,7 +27,7 @@
     ppSrc1, src1Shift, src1Stride0, src1Width, src1Height, ppSrc2, src2Shift, src2Stride0, src2Len, ppDst, dstShift, \
         dstStride0, count
 
-namespace vorm {
+namespace vorm::products {
 
 // (W (H + 1) + H) count
 constexpr Work mavaWork(int src1Width, int src1Height, int count)
@@ -60,4 +60,4 @@ VORM_INLINE auto mavaP(MAVA_PARAMS_P(T))
                           VectorArrayPointers{ppDst, dstShift, dstStride0}, Fit{As::columns(src1Width, src1Height), src2Len});
 }
 
-}  // namespace vorm
+}  // namespace vorm::products

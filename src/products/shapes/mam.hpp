@@ -29,7 +29,7 @@
     ppSrc1, src1Shift, src1Stride0, src1Width, src1Height, ppSrc2, src2Shift, src2Width, src2Height, ppDst, dstShift, \
         dstStride0, count
 
-namespace vorm {
+namespace vorm::products {
 
 // W2 H2 + (N + K) M count
 template <class Kind>
@@ -68,4 +68,4 @@ VORM_INLINE auto mamP(MAM_PARAMS_P(T))
         Kind::fit(src1Width, src1Height, src2Width, src2Height));
 }
 
-}  // namespace vorm
+}  // namespace vorm::products

@@ -29,7 +29,7 @@
     ppSrc1, src1Shift, src1Width, src1Height, ppSrc2, src2Shift, src2Stride0, src2Width, src2Height, ppDst, dstShift, \
         dstStride0, count
 
-namespace vorm {
+namespace vorm::products {
 
 // W1 H1 + (M + K) N count
 template <class Kind>
@@ -68,4 +68,4 @@ VORM_INLINE auto mmaP(MMA_PARAMS_P(T))
         Kind::fit(src1Width, src1Height, src2Width, src2Height));
 }
 
-}  // namespace vorm
+}  // namespace vorm::products

@@ -30,7 +30,7 @@
     ppSrc1, src1Shift, src1Stride0, src1Width, src1Height, ppSrc2, src2Shift, src2Stride0, src2Width, src2Height, \
         ppDst, dstShift, dstStride0, count
 
-namespace vorm {
+namespace vorm::products {
 
 // ((N + K) M + W2 H2) count
 template <class Kind>
@@ -69,4 +69,4 @@ VORM_INLINE auto mamaP(MAMA_PARAMS_P(T))
         Kind::fit(src1Width, src1Height, src2Width, src2Height));
 }
 
-}  // namespace vorm
+}  // namespace vorm::products
