@@ -21,4 +21,24 @@ VORM_INLINE VormStatus team(const ArrayCall<T, TheTests, Parts>& call, VormStatu
     return team<kernels>(call, isContiguous(call) ? kernel : kernelS2);
 }
 
+// Kernels that fail with one status only and tell where: small chunks then cost nothing (team.hpp).
+template <VormStatus failure, class T, class TheTests, class Parts, class... Argument>
+VORM_INLINE VormStatus team(const ArrayCall<T, TheTests, Parts>& call, VormStatus (*kernel)(Argument...))
+{
+    return inTeam<Kernels::canFail>(
+        call.count, call.work.picoseconds, [&call, kernel](const Chunk& chunk, int& failed) {
+            const Chunk asking{chunk.first, Count{chunk.objects}.asking().value, chunk.thread, chunk.scratch};
+            const int place = call.parts.with(
+                [&](const auto&... part) VORM_INLINE_LAMBDA { return withArguments(kernel, part.chunk(asking)...); });
+            failed = chunk.first + place - 1;
+            return place ? failure : VormStatus{StatusOk};
+        });
+}
+template <VormStatus failure, class T, class TheTests, class Parts, class... Argument>
+VORM_INLINE VormStatus team(const ArrayCall<T, TheTests, Parts>& call, VormStatus (*kernel)(Argument...),
+                            VormStatus (*kernelS2)(Argument...))
+{
+    return team<failure>(call, isContiguous(call) ? kernel : kernelS2);
+}
+
 }  // namespace vorm
