@@ -338,8 +338,7 @@ VORM_INLINE void squareProducts(const A& a, const B& b, const D& dst, int first,
             product<T, n, order>(factorsOf<T, n>(a.single(object)), rows, dst.single(object));
     } else {
         for (int object = first; object < end; ++object)
-            product<T, n, order>(factorsOf<T, n>(a.single(object)),
-                                 rowsOf<T, n>(b.single(object)), dst.single(object));
+            product<T, n, order>(factorsOf<T, n>(a.single(object)), rowsOf<T, n>(b.single(object)), dst.single(object));
     }
 }
 

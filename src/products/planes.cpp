@@ -1,9 +1,9 @@
 // Products in pointer layout. Where the objects lie in planes, one for each element, whole registers of objects go
 // through the tiles of plane_tiles.hpp at the orders 3 to 6; objects left over and all other tables, one by one.
 
-#include "frame/overlap.hpp"
 #include "frame/planes.hpp"
 #include "frame/minmax.hpp"
+#include "frame/overlap.hpp"
 #include "products/anywhere.hpp"
 #include "products/plane_tiles.hpp"
 

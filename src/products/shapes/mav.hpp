@@ -58,7 +58,8 @@ VORM_INLINE auto mavP(MAV_PARAMS_P(T))
     return arrayCallOf<T>(mavWork<As>(src1Width, src1Height, src2Len, count), count,
                           MatrixArrayPointers{ppSrc1, src1Shift, src1Stride0, src1Width}, Size{src1Width},
                           Size{src1Height}, VectorPointers{ppSrc2, src2Shift}, Size{src2Len},
-                          VectorArrayPointers{ppDst, dstShift, dstStride0}, Fit{As::columns(src1Width, src1Height), src2Len});
+                          VectorArrayPointers{ppDst, dstShift, dstStride0},
+                          Fit{As::columns(src1Width, src1Height), src2Len});
 }
 
 }  // namespace vorm::products

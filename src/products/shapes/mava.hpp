@@ -54,10 +54,10 @@ VORM_INLINE auto mavaL(MAVA_PARAMS_L(T))
 template <class As, class T>
 VORM_INLINE auto mavaP(MAVA_PARAMS_P(T))
 {
-    return arrayCallOf<T>(mavaWork(src1Width, src1Height, count), count,
-                          MatrixArrayPointers{ppSrc1, src1Shift, src1Stride0, src1Width}, Size{src1Width},
-                          Size{src1Height}, VectorArrayPointers{ppSrc2, src2Shift, src2Stride0}, Size{src2Len},
-                          VectorArrayPointers{ppDst, dstShift, dstStride0}, Fit{As::columns(src1Width, src1Height), src2Len});
+    return arrayCallOf<T>(
+        mavaWork(src1Width, src1Height, count), count, MatrixArrayPointers{ppSrc1, src1Shift, src1Stride0, src1Width},
+        Size{src1Width}, Size{src1Height}, VectorArrayPointers{ppSrc2, src2Shift, src2Stride0}, Size{src2Len},
+        VectorArrayPointers{ppDst, dstShift, dstStride0}, Fit{As::columns(src1Width, src1Height), src2Len});
 }
 
 }  // namespace vorm::products
