@@ -5,17 +5,17 @@
 
 namespace vorm::products {
 
-VORM_EACH_ORDER(VORM_WITH_ROWS, float, Packed<const float>, Packed<float>);
-VORM_EACH_ORDER(VORM_WITH_ROWS, float, Listed<const float>, Listed<float>);
-VORM_EACH_ORDER(VORM_WITH_ROWS, float, Transposed<Packed<const float>>, Packed<float>);
-VORM_EACH_ORDER(VORM_WITH_ROWS, float, Transposed<Listed<const float>>, Listed<float>);
-VORM_WITH_ROWS(float, 6, asInTiles, Transposed<Packed<const float>>, Packed<float>);
-VORM_WITH_ROWS(float, 6, asInTiles, Transposed<Listed<const float>>, Listed<float>);
+VORM_EACH_ORDER(VORM_COMMON_SECOND, float, Packed<const float>, Packed<float>);
+VORM_EACH_ORDER(VORM_COMMON_SECOND, float, Listed<const float>, Listed<float>);
+VORM_EACH_ORDER(VORM_COMMON_SECOND, float, Transposed<Packed<const float>>, Packed<float>);
+VORM_EACH_ORDER(VORM_COMMON_SECOND, float, Transposed<Listed<const float>>, Listed<float>);
+VORM_COMMON_SECOND(float, 6, asInTiles, Transposed<Packed<const float>>, Packed<float>);
+VORM_COMMON_SECOND(float, 6, asInTiles, Transposed<Listed<const float>>, Listed<float>);
 
-VORM_EACH_ORDER(VORM_WITH_FACTORS, float, Packed<const float>, Packed<float>);
-VORM_EACH_ORDER(VORM_WITH_FACTORS, float, Listed<const float>, Listed<float>);
-VORM_EACH_ORDER(VORM_WITH_FACTORS, float, Transposed<Packed<const float>>, Packed<float>);
-VORM_WITH_FACTORS(float, 6, asInTiles, Packed<const float>, Packed<float>);
-VORM_WITH_FACTORS(float, 6, asInTiles, Listed<const float>, Listed<float>);
+VORM_EACH_ORDER(VORM_COMMON_FIRST, float, Packed<const float>, Packed<float>);
+VORM_EACH_ORDER(VORM_COMMON_FIRST, float, Listed<const float>, Listed<float>);
+VORM_EACH_ORDER(VORM_COMMON_FIRST, float, Transposed<Packed<const float>>, Packed<float>);
+VORM_COMMON_FIRST(float, 6, asInTiles, Packed<const float>, Packed<float>);
+VORM_COMMON_FIRST(float, 6, asInTiles, Listed<const float>, Listed<float>);
 
 }  // namespace vorm::products

@@ -4,14 +4,14 @@
 
 namespace vorm::products {
 
-VORM_EACH_ORDER(VORM_WITH_ROWS, double, Packed<const double>, Packed<double>);
-VORM_EACH_ORDER(VORM_WITH_ROWS, double, Listed<const double>, Listed<double>);
-VORM_EACH_ORDER(VORM_WITH_ROWS, double, Transposed<Packed<const double>>, Packed<double>);
-VORM_EACH_ORDER(VORM_WITH_ROWS, double, Transposed<Listed<const double>>, Listed<double>);
+VORM_EACH_ORDER(VORM_COMMON_SECOND, double, Packed<const double>, Packed<double>);
+VORM_EACH_ORDER(VORM_COMMON_SECOND, double, Listed<const double>, Listed<double>);
+VORM_EACH_ORDER(VORM_COMMON_SECOND, double, Transposed<Packed<const double>>, Packed<double>);
+VORM_EACH_ORDER(VORM_COMMON_SECOND, double, Transposed<Listed<const double>>, Listed<double>);
 
-VORM_EACH_ORDER(VORM_WITH_FACTORS, double, Packed<const double>, Packed<double>);
-VORM_EACH_ORDER(VORM_WITH_FACTORS, double, Listed<const double>, Listed<double>);
-VORM_EACH_ORDER(VORM_WITH_FACTORS, double, Transposed<Packed<const double>>, Packed<double>);
-VORM_EACH_ORDER(VORM_WITH_FACTORS, double, Transposed<Listed<const double>>, Listed<double>);
+VORM_EACH_ORDER(VORM_COMMON_FIRST, double, Packed<const double>, Packed<double>);
+VORM_EACH_ORDER(VORM_COMMON_FIRST, double, Listed<const double>, Listed<double>);
+VORM_EACH_ORDER(VORM_COMMON_FIRST, double, Transposed<Packed<const double>>, Packed<double>);
+VORM_EACH_ORDER(VORM_COMMON_FIRST, double, Transposed<Listed<const double>>, Listed<double>);
 
 }  // namespace vorm::products
