@@ -74,24 +74,11 @@ struct FourRows {
     }
 };
 
-// Calls body(from, to) with the vectors and results of the objects up to count, some of them at once.
-template <int some, class X, class D, class Body>
+// Calls body(from, to) with each vector and its result.
+template <class X, class D, class Body>
 VORM_INLINE void eachVector(const X& x, const D& y, int object, int count, const Body& body)
 {
-    for (; count - object >= some; object += some)
-        unrolled<some>([&](auto o) VORM_INLINE_LAMBDA { body(x.object(object + o), y.object(object + o)); });
     for (; object < count; ++object) body(x.object(object), y.object(object));
-}
-template <int some, class T, class Body>
-VORM_INLINE void eachVector(const VectorArray<const T, Adjacent>& x, const VectorArray<T, Adjacent>& y, int object,
-                            int count, const Body& body)
-{
-    const std::ptrdiff_t xStep = x.stride0, yStep = y.stride0;
-    const T* from = x.object(object);
-    T* to = y.object(object);
-    for (; count - object >= some; object += some, from = advance(from, some * xStep), to = advance(to, some * yStep))
-        unrolled<some>([&](auto o) VORM_INLINE_LAMBDA { body(advance(from, o * xStep), advance(to, o * yStep)); });
-    for (; object < count; ++object, from = advance(from, xStep), to = advance(to, yStep)) body(from, to);
 }
 
 // Four packed vectors of three floats at a time, whose results fill three registers.
@@ -149,7 +136,7 @@ VORM_INLINE int productsOfFive(const A& a, const X& x, const D& y, int count)
 
 // Six rows of floats for two vectors at once: the first four of one, the last four of the other, and what
 // is left of both, which lies side by side where the results are packed.
-template <Start start, bool packed, class A, class X, class D>
+template <Start start, class A, class X, class D>
 VORM_INLINE int productsOfSix(const A& a, const X& x, const D& y, int count)
 {
     const FourRows<6> first(a, [](int l) { return l; }), last(a, [](int l) { return l + 2; }),
@@ -162,10 +149,7 @@ VORM_INLINE int productsOfSix(const A& a, const X& x, const D& y, int count)
         });
         float *const to0 = y.object(object), *const to1 = y.object(object + 1);
         first.times<start>(v0).store(to0);
-        if constexpr (packed)
-            ofBoth.store(to0 + 4);
-        else
-            storePairs(to0 + 4, to1, ofBoth);
+        storePairs(to0 + 4, to1, ofBoth);
         last.times<start>(v1).store(to1 + 2);
     }
     return object;
@@ -176,13 +160,12 @@ template <class T, int n, Start start, class A, class X, class D>
 requires(sizeof(T) == sizeof(float)) VORM_INLINE int bodyOf(const A& a, const X& x, const D& y, int count)
 {
     if constexpr (n == 6) {
-        if (isPacked(x, 6) && isPacked(y, 6)) return productsOfSix<start, true>(a, x, y, count);
-        return productsOfSix<start, false>(a, x, y, count);
+        return productsOfSix<start>(a, x, y, count);
     } else if constexpr (n == 5) {
         return productsOfFive<start>(a, x, y, count);
     } else if constexpr (n == 4) {
         const FourRows<4> rows(a, [](int l) { return l; });
-        eachVector<4>(x, y, 0, count, [&](const T* from, T* to) VORM_INLINE_LAMBDA {
+        eachVector(x, y, 0, count, [&](const T* from, T* to) VORM_INLINE_LAMBDA {
             rows.times<start>(FourRows<4>::Vector(from)).store(to);
         });
         return count;
@@ -190,7 +173,7 @@ requires(sizeof(T) == sizeof(float)) VORM_INLINE int bodyOf(const A& a, const X&
         int object = 0;
         if (isPacked(x, 3) && isPacked(y, 3)) object = packedThrees<start>(a, x.object(0), y.object(0), count);
         const Columns<T, n> columns(a);
-        eachVector<2>(x, y, object, count, [&](const T* from, T* to) VORM_INLINE_LAMBDA {
+        eachVector(x, y, object, count, [&](const T* from, T* to) VORM_INLINE_LAMBDA {
             storeThree(to, columns.template times<start, 0>(Spread<T, n>::load(Vector{from, adjacent}, 0)));
         });
         return count;
@@ -206,7 +189,7 @@ requires(sizeof(T) == sizeof(double)) VORM_INLINE int bodyOf(const A& a, const X
         for (int c = 0; c < n / 2; ++c) results[c].store(to + 2 * c);
     };
     if constexpr (n % 2 == 0) {
-        eachVector<n == 4 ? 2 : 1>(x, y, 0, count, [&](const T* from, T* to) VORM_INLINE_LAMBDA {
+        eachVector(x, y, 0, count, [&](const T* from, T* to) VORM_INLINE_LAMBDA {
             const auto vector = Spread<T, n>::load(Vector{from, adjacent}, 0);
             Lanes<T> results[n / 2];
             unrolled<n / 2>([&](auto c) VORM_INLINE_LAMBDA { results[c] = columns.template times<start, c>(vector); });
