@@ -5,46 +5,18 @@
 
 #include "frame/operands.hpp"
 #include "frame/operations.hpp"
+#include "frame/per_object.hpp"
 #include "frame/small_vector.hpp"
 
 namespace vorm::elementwise {
-
-// An operand as whole vectors of type V. What all objects share is loaded once.
-template <class V, class View>
-class Whole {
-public:
-    VORM_INLINE explicit Whole(const View& view) : view_(view)
-    {
-        if constexpr (View::isCommon) common_ = load(0);
-    }
-    VORM_INLINE V operator()(int n) const
-    {
-        if constexpr (View::isCommon)
-            return common_;
-        else
-            return load(n);
-    }
-
-private:
-    VORM_INLINE V load(int n) const
-    {
-        if constexpr (isConstant<View>)
-            return V::broadcast(view_(n, 0));
-        else
-            return V::load(view_, n);
-    }
-
-    View view_;
-    V common_;
-};
 
 // The objects from first up to end, each as one vector of type V.
 template <class Op, class V, class A, class B, class D>
 VORM_INLINE void eachObject(const A& a, const B& b, const D& dst, int first, int end)
 {
-    const Whole<V, A> wholeA(a);
-    const Whole<V, B> wholeB(b);
-    for (int n = first; n < end; ++n) combine<Op>(wholeA(n), wholeB(n)).store(dst, n);
+    const PerObject<V, A> ofA(a);
+    const PerObject<V, B> ofB(b);
+    for (int n = first; n < end; ++n) combine<Op>(ofA(n), ofB(n)).store(dst, n);
 }
 
 // One object of an operand in the plain loop; a constant is loaded once for it.

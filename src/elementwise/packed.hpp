@@ -2,10 +2,10 @@
 // an operand, it repeats with a period of Len registers.
 #pragma once
 
-#include <utility>
-
 #include "elementwise/objects.hpp"
 #include "elementwise/runs.hpp"
+#include "frame/shuffles.hpp"
+#include "frame/unrolled.hpp"
 
 namespace vorm::elementwise {
 
@@ -26,10 +26,7 @@ VORM_INLINE Lanes<T> blockOf(const ConstantRow<T>& constants, int n)
 template <class T>
 VORM_INLINE Lanes<T> blockOf(const ConstantArray<T>& constants, int n)
 {
-    if constexpr (sizeof(T) == sizeof(float))
-        return _mm_setr_ps(constants(n, 0), constants(n + 1, 0), constants(n + 2, 0), constants(n + 3, 0));
-    else
-        return _mm_setr_pd(constants(n, 0), constants(n + 1, 0));
+    return lanes<T>([&](int l) VORM_INLINE_LAMBDA { return constants(n + l, 0); });
 }
 
 // As many objects as a register has lanes make a block of Len registers: lane k of register j is
@@ -86,13 +83,10 @@ struct Block<T, Len, View> {  // the constants of the block's objects, spread ov
     {
         constexpr int width = Lanes<T>::width;
         constexpr auto object = [](int k) { return (width * j + k) / Len; };
-        if constexpr (width == 4) {
-            constexpr int order = object(0) | object(1) << 2 | object(2) << 4 | object(3) << 6;
-            return _mm_shuffle_ps(constants.v, constants.v, order);
-        } else {
-            constexpr int order = object(0) | object(1) << 1;
-            return _mm_shuffle_pd(constants.v, constants.v, order);
-        }
+        if constexpr (width == 4)
+            return shuffle<object(0), object(1), object(2), object(3)>(constants, constants);
+        else
+            return shuffle<object(0), object(1)>(constants, constants);
     }
 };
 
@@ -107,11 +101,9 @@ VORM_INLINE void packedBlocks(const A& a, const B& b, const VectorArray<T, Adjac
         Block<T, Len, VectorArray<T, Adjacent>> blockDst(dst);
         for (int n = 0; n < inBlocks; n += width) {
             blockA.enter(n), blockB.enter(n);
-            [&]<int... j>(std::integer_sequence<int, j...>) VORM_INLINE_LAMBDA
-            {
-                (..., blockDst.template put<j>(Op::apply(blockA.template get<j>(), blockB.template get<j>())));
-            }
-            (std::make_integer_sequence<int, Len>{});
+            unrolled<Len>([&](auto j) VORM_INLINE_LAMBDA {
+                blockDst.template put<j>(Op::apply(blockA.template get<j>(), blockB.template get<j>()));
+            });
             blockA.leave(), blockB.leave(), blockDst.leave();
         }
     }

@@ -8,12 +8,12 @@
 
 namespace vorm::products {
 
-VORM_INLINE float foldLanes(Lanes<float> s)
+template <class T>
+VORM_INLINE T foldLanes(Lanes<T> s)
 {
-    const __m128 pairs = _mm_hadd_ps(s.v, s.v);
-    return firstLane(Lanes<float>(_mm_hadd_ps(pairs, pairs)));
+    for (int left = narrow<T>; left > 1; left /= 2) s = pairSums(s, s);
+    return firstLane(s);
 }
-VORM_INLINE double foldLanes(Lanes<double> s) { return firstLane(Lanes<double>(_mm_hadd_pd(s.v, s.v))); }
 
 // y[r] = sum over k of row r of a times x, for some rows. The first lead terms are summed on their own,
 // the next ones in whole groups of registers, which are added to each other before the fold; then the

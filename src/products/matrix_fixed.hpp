@@ -73,7 +73,7 @@ struct FactorsInRows {
         if constexpr (Small::rest == 1) return columns[k];
         const Lanes<float> first = Small::template load<2 * g, k / 4>(view, 0);
         const Lanes<float> second = Small::template load<2 * g + 1, k / 4>(view, 0);
-        return _mm_shuffle_ps(first.v, second.v, k % 4 * 0x55);
+        return shuffle<k % 4, k % 4, k % 4, k % 4>(first, second);
     }
 };
 
@@ -98,7 +98,7 @@ struct FactorsInColumns {
         if constexpr (Small::rest == 1)
             return column;
         else
-            return _mm_shuffle_ps(column.v, column.v, g % 2 ? 0xFA : 0x50);
+            return shuffle<g % 2 * 2, g % 2 * 2, g % 2 * 2 + 1, g % 2 * 2 + 1>(column, column);
     }
 };
 
@@ -321,25 +321,6 @@ template <class T, int n, class View>
 VORM_INLINE Rows<T, n, View> rowsOf(const View& view)
 {
     return {view};
-}
-
-// A matrix that all of several objects share is prepared for them; the others are shown one by one, so that the body
-// is the same for an array and a list.
-template <class T, int n, Order order = Order::leftToRight, class A, class B, class D>
-VORM_INLINE void squareProducts(const A& a, const B& b, const D& dst, int first, int end)
-{
-    if constexpr (A::isCommon && !D::isCommon) {
-        const CommonFactors<T, n> factors(a);
-        for (int object = first; object < end; ++object)
-            product<T, n, order>(factors, rowsOf<T, n>(b.single(object)), dst.single(object));
-    } else if constexpr (B::isCommon && !D::isCommon) {
-        const CommonRows<T, n> rows(b);
-        for (int object = first; object < end; ++object)
-            product<T, n, order>(factorsOf<T, n>(a.single(object)), rows, dst.single(object));
-    } else {
-        for (int object = first; object < end; ++object)
-            product<T, n, order>(factorsOf<T, n>(a.single(object)), rowsOf<T, n>(b.single(object)), dst.single(object));
-    }
 }
 
 }  // namespace vorm::products

@@ -5,7 +5,7 @@
 #include <climits>
 
 #include "products/anywhere.hpp"
-#include "products/matrix_fixed.hpp"
+#include "products/matrix_common.hpp"
 #include "products/matrix_general.hpp"
 #include "products/matrix_kinds.hpp"
 #include "products/paths.hpp"
@@ -51,7 +51,7 @@ VORM_INLINE bool productsByRows(const A&, const B&, const D&, int)
 template <class T, int n, class A, class B, class D>
 VORM_INLINE void fixedProductsOfAll(const A& a, const B& b, const D& dst, int count)
 {
-    if (!productsByRows<T, n>(a, b, dst, count)) squareProducts<T, n>(a, b, dst, 0, count);
+    if (!productsByRows<T, n>(a, b, dst, count)) squareProducts<T, n>(a, b, dst, count);
 }
 
 // Contiguous rows: stored views of all three operands. -----------------------------------------------
@@ -63,7 +63,7 @@ VORM_INLINE VormStatus contiguousProducts(const A& src1, const B& src2, const D&
     const auto b = Kind::second(src2);
     if constexpr (bodies == Bodies::upTo5) {
         if (fixedOrder<Bodies::upTo6>(lengths) == 6)
-            return squareProducts<T, 6, Order::asInTiles>(a, b, dst, 0, count), StatusOk;
+            return squareProducts<T, 6, Order::asInTiles>(a, b, dst, count), StatusOk;
     }
     switch (fixedOrder<bodies>(lengths)) {
     case 3: fixedProductsOfAll<T, 3>(a, b, dst, count); break;

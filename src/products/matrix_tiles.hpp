@@ -206,22 +206,19 @@ VORM_INLINE void tiles(const A& a, const B& b, const D& dst, int rows, int colum
 
 // Tiles along k, for rows of A and columns of B that both run along it. ---------------------------
 
-VORM_INLINE Lanes<float> pairs(Lanes<float> a, Lanes<float> b) { return _mm_hadd_ps(a.v, b.v); }
-VORM_INLINE Lanes<double> pairs(Lanes<double> a, Lanes<double> b) { return _mm_hadd_pd(a.v, b.v); }
-
 // The sums of one column, folded: of four elements in a register each, or of one element in two or four.
 template <int registers, class T>
 VORM_INLINE void fold(const Lanes<T>* s, T* total)
 {
     if constexpr (registers == 1) {
-        pairs(pairs(s[0], s[1]), pairs(s[2], s[3])).store(total);
+        pairSums(pairSums(s[0], s[1]), pairSums(s[2], s[3])).store(total);
     } else {
         Lanes<T> half;
         if constexpr (registers == 2)
-            half = s[0] + s[1], half = pairs(half, half);
+            half = s[0] + s[1], half = pairSums(half, half);
         else
-            half = pairs(pairs(s[0], s[1]), pairs(s[2], s[3]));
-        *total = firstLane(pairs(half, half));
+            half = pairSums(pairSums(s[0], s[1]), pairSums(s[2], s[3]));
+        *total = firstLane(pairSums(half, half));
     }
 }
 

@@ -118,8 +118,8 @@ private:
 // Orders 3 to 6, for whole registers of objects. B and D have as many columns as A, or one. Every sum goes from left to
 // right, with the first product as its start value.
 template <class T, int n>
-void squareProducts(const TabledElements<const T>& a, const TabledElements<const T>& b, const TabledElements<T>& d,
-                    int columns, int atOnce, int count)
+void squarePlanes(const TabledElements<const T>& a, const TabledElements<const T>& b, const TabledElements<T>& d,
+                  int columns, int atOnce, int count)
 {
     constexpr int width = Lanes<T>::width;
     const auto eachRound = [&](const auto& round) {
@@ -191,10 +191,10 @@ void pointerProducts(const TabledElements<const T>& a, const TabledElements<cons
                     std::int64_t{lengths.k} * count)) {
         inLanes = count / width * width;
         switch (squareOrder<second>(lengths)) {
-        case 3: squareProducts<T, 3>(a, b, d, lengths.n, min(atOnce, inLanes), inLanes); break;
-        case 4: squareProducts<T, 4>(a, b, d, lengths.n, min(atOnce, inLanes), inLanes); break;
-        case 5: squareProducts<T, 5>(a, b, d, lengths.n, min(atOnce, inLanes), inLanes); break;
-        case 6: squareProducts<T, 6>(a, b, d, lengths.n, min(atOnce, inLanes), inLanes); break;
+        case 3: squarePlanes<T, 3>(a, b, d, lengths.n, min(atOnce, inLanes), inLanes); break;
+        case 4: squarePlanes<T, 4>(a, b, d, lengths.n, min(atOnce, inLanes), inLanes); break;
+        case 5: squarePlanes<T, 5>(a, b, d, lengths.n, min(atOnce, inLanes), inLanes); break;
+        case 6: squarePlanes<T, 6>(a, b, d, lengths.n, min(atOnce, inLanes), inLanes); break;
         default:
             if (a.isCommon())
                 anyLengths<T, true, false>(a, b, d, lengths, outermost, inLanes);

@@ -2,7 +2,7 @@
 // the sum of its products from left to right, whichever lanes they are computed in.
 #pragma once
 
-#include "products/vector_shared.hpp"
+#include "products/vector_common.hpp"
 
 namespace vorm::products {
 
@@ -19,11 +19,11 @@ VORM_INLINE void rowsProduct(const T* a, std::ptrdiff_t stride1, const InLine<T,
     if constexpr (n < width) {
         const Number r0 = loadRowOfThree<0>(row(0)) * x.v[0], r1 = loadRowOfThree<1>(row(1)) * x.v[0],
                      r2 = loadRowOfThree<2>(row(2)) * x.v[0];
-        const Number low = _mm_unpacklo_ps(r0.v, r1.v);                // 00 10 01 11
-        const Number high = _mm_unpackhi_ps(r0.v, r1.v);               // 02 12 03 13
-        const Number terms[3] = {_mm_shuffle_ps(low.v, r2.v, 0x04),    // 00 10 20
-                                 _mm_shuffle_ps(low.v, r2.v, 0x5E),    // 01 11 21
-                                 _mm_shuffle_ps(high.v, r2.v, 0xA4)};  // 02 12 22
+        const Number low = interleaveLow(r0, r1);                 // 00 10 01 11
+        const Number high = interleaveHigh(r0, r1);               // 02 12 03 13
+        const Number terms[3] = {shuffle<0, 1, 0, 0>(low, r2),    // 00 10 20
+                                 shuffle<2, 3, 1, 1>(low, r2),    // 01 11 21
+                                 shuffle<0, 1, 2, 2>(high, r2)};  // 02 12 22
         storeThree(y, leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA { return terms[k]; }));
     } else {
         unrolled<full>([&](auto g) VORM_INLINE_LAMBDA {
@@ -42,22 +42,22 @@ VORM_INLINE void rowsProduct(const T* a, std::ptrdiff_t stride1, const InLine<T,
             if constexpr (rest == 2) {
                 const Number low = loadPairs(row(r0) + n - 2, row(r0 + 1) + n - 2) * x.v[full];
                 const Number high = loadPairs(row(r0 + 2) + n - 2, row(r0 + 3) + n - 2) * x.v[full];
-                terms[n - 2] = _mm_shuffle_ps(low.v, high.v, 0x88);
-                terms[n - 1] = _mm_shuffle_ps(low.v, high.v, 0xDD);
+                terms[n - 2] = shuffle<0, 2, 0, 2>(low, high);
+                terms[n - 1] = shuffle<1, 3, 1, 3>(low, high);
             }
             leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA { return terms[k]; }).store(y + r0);
         });
         if constexpr (rest == 2) {  // two rows of floats side by side, 4 5 4 5
             const Number r4 = Number::load(row(4)) * x.v[0], r5 = Number::load(row(5)) * x.v[0];
             const Number tails = loadPairs(row(4) + 4, row(5) + 4) * x.v[1];
-            const Number low = _mm_unpacklo_ps(r4.v, r5.v);   // terms 0 0 1 1
-            const Number high = _mm_unpackhi_ps(r4.v, r5.v);  // terms 2 2 3 3
+            const Number low = interleaveLow(r4, r5);    // terms 0 0 1 1
+            const Number high = interleaveHigh(r4, r5);  // terms 2 2 3 3
             const Number terms[6] = {low,
-                                     _mm_movehl_ps(low.v, low.v),
+                                     highPairs(low, low),
                                      high,
-                                     _mm_movehl_ps(high.v, high.v),
-                                     _mm_shuffle_ps(tails.v, tails.v, 0x88),
-                                     _mm_shuffle_ps(tails.v, tails.v, 0xDD)};
+                                     highPairs(high, high),
+                                     shuffle<0, 2, 0, 2>(tails, tails),
+                                     shuffle<1, 3, 1, 3>(tails, tails)};
             storeHalf<0>(y + 4, leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA { return terms[k]; }));
         }
         unrolled<rest == 1>([&](auto g) VORM_INLINE_LAMBDA {
@@ -116,21 +116,20 @@ VORM_INLINE void productsByObject(const Transposed<Stored>& a, const X& x, const
 // Each register of elements holds the same one of as many rows as there are lanes.
 VORM_INLINE void loadConsecutiveRows(const float* p, Lanes<float> (&elements)[3])
 {
-    const __m128 r0 = _mm_loadu_ps(p), r1 = _mm_loadu_ps(p + 4), r2 = _mm_loadu_ps(p + 8);
-    const __m128 inner = _mm_shuffle_ps(r0, r1, _MM_SHUFFLE(1, 0, 2, 1));  // 1 2 4 5
-    const __m128 outer = _mm_shuffle_ps(r1, r2, _MM_SHUFFLE(2, 1, 3, 2));  // 6 7 9 10
-    elements[0] = _mm_shuffle_ps(r0, outer, _MM_SHUFFLE(2, 0, 3, 0));      // 0 3 6 9
-    elements[1] = _mm_shuffle_ps(inner, outer, _MM_SHUFFLE(3, 1, 2, 0));   // 1 4 7 10
-    elements[2] = _mm_shuffle_ps(inner, r2, _MM_SHUFFLE(3, 0, 3, 1));      // 2 5 8 11
+    const auto r0 = Lanes<float>::load(p), r1 = Lanes<float>::load(p + 4), r2 = Lanes<float>::load(p + 8);
+    const auto inner = shuffle<1, 2, 0, 1>(r0, r1);   // 1 2 4 5
+    const auto outer = shuffle<2, 3, 1, 2>(r1, r2);   // 6 7 9 10
+    elements[0] = shuffle<0, 3, 0, 2>(r0, outer);     // 0 3 6 9
+    elements[1] = shuffle<0, 2, 1, 3>(inner, outer);  // 1 4 7 10
+    elements[2] = shuffle<1, 3, 0, 3>(inner, r2);     // 2 5 8 11
 }
 template <int n>
 VORM_INLINE void loadConsecutiveRows(const double* p, Lanes<double> (&elements)[n])
 {
-    __m128d r[n];
-    for (int k = 0; k < n; ++k) r[k] = _mm_loadu_pd(p + 2 * k);
-    unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
-        elements[k] = _mm_shuffle_pd(r[k / 2], r[(n + k) / 2], k % 2 | (n + k) % 2 * 2);
-    });
+    Lanes<double> r[n];
+    for (int k = 0; k < n; ++k) r[k] = Lanes<double>::load(p + 2 * k);
+    unrolled<n>([&](auto k)
+                    VORM_INLINE_LAMBDA { elements[k] = shuffle<k % 2, (n + k) % 2>(r[k / 2], r[(n + k) / 2]); });
 }
 // Doubles with a vector for each object would need more loads than they save.
 template <class T, int n, class X>
@@ -143,7 +142,7 @@ VORM_INLINE int packedRows(const MatrixArray<U, Adjacent>& a, const X& x, const 
     int object = 0;
     if constexpr (rowsFillRegisters<T, n, X>) {
         if (((a.stride1 ^ row) | (a.stride0 ^ n * row) | (y.stride0 ^ row)) != 0) return 0;
-        if (!X::isCommon && !isPackedArray(x, n)) return 0;
+        if (!X::isCommon && !isPacked(x, n)) return 0;
         const T *from = a.p, *vectors = x.object(0);
         T* to = y.p;
         Lanes<T> common[n];
@@ -175,8 +174,7 @@ template <class T, int n, Start start, class A, class X, class D>
 VORM_INLINE void fixedProducts(const A& a, const X& x, const D& y, int count)
 {
     if constexpr (A::isCommon && !X::isCommon) {
-        const int done = productsOfCommon<T, n, start>(a, x, y, count);
-        if (done < count) scatteredProducts<T, n, start>(a, x, y, done, count);
+        productsOfCommon<T, n, start>(a, x, y, count);
     } else {
         const int done = packedRows<T, n, start>(a, x, y, count);
         if (done < count) productsByObject<T, n, start>(a, x, y, done, count);

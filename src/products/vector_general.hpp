@@ -15,6 +15,7 @@
 
 #include "frame/minmax.hpp"
 #include "frame/operands.hpp"
+#include "frame/overlap.hpp"
 #include "frame/unrolled.hpp"
 #include "products/dots.hpp"
 
@@ -188,14 +189,9 @@ VORM_INLINE void runningProducts(const A& a, const X& x, const D& y, int rows, i
         withCount<3>(rows - i,
                      [&](auto left) VORM_INLINE_LAMBDA { runningTile<tile, left, T>(a, x, y, object, i, terms); });
     };
-    const auto apart = [&](int object) VORM_INLINE_LAMBDA {  // results that overlap are written one after the other
-        const auto distance =
-            reinterpret_cast<const char*>(y.object(object + 1)) - reinterpret_cast<const char*>(y.object(object));
-        const std::ptrdiff_t span = rows * std::ptrdiff_t{sizeof(T)};
-        return distance >= span || distance <= -span;
-    };
     for (int object = 0; object < count;) {
-        if (object + 1 < count && apart(object)) {
+        // Results that overlap are written one after the other.
+        if (object + 1 < count && objectsApart<2>(y, object, 1, rows)) {
             objects.template operator()<2>(object);
             object += 2;
         } else {

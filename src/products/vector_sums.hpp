@@ -6,6 +6,7 @@
 
 #include "frame/lanes.hpp"
 #include "frame/operands.hpp"
+#include "frame/per_object.hpp"
 #include "frame/shuffles.hpp"
 #include "frame/small_vector.hpp"
 #include "frame/unrolled.hpp"
@@ -25,27 +26,6 @@ VORM_INLINE auto leftToRight(const Term& term)
     unrolled<n - 1>([&](auto k) VORM_INLINE_LAMBDA { sum = sum + term(std::integral_constant<int, k + 1>{}); });
     return sum;
 }
-
-// An operand in the form Part takes from its view; what all objects share is taken once.
-template <class Part, class View>
-class PerObject {
-public:
-    VORM_INLINE explicit PerObject(const View& view) : view_(view)
-    {
-        if constexpr (View::isCommon) common_ = Part::load(view, 0);
-    }
-    VORM_INLINE Part operator()(int object) const
-    {
-        if constexpr (View::isCommon)
-            return common_;
-        else
-            return Part::load(view_, object);
-    }
-
-private:
-    View view_;
-    Part common_;
-};
 
 // Elements anywhere, one number each. ------------------------------------------------------------------
 
@@ -129,9 +109,8 @@ VORM_INLINE Lanes<float> elementOfThrees(const float* x)
 {
     constexpr int begin = 4 * j, first = begin / 3;  // the lanes belong to this object and the next one
     constexpr auto from = [](int l) { return (begin + l) / 3 == first ? 0 : 3; };
-    constexpr int order = from(0) | from(1) << 2 | from(2) << 4 | from(3) << 6;
-    const __m128 elements = Lanes<float>::load(x + 3 * first + k).v;
-    return _mm_shuffle_ps(elements, elements, order);
+    const auto elements = Lanes<float>::load(x + 3 * first + k);
+    return shuffle<from(0), from(1), from(2), from(3)>(elements, elements);
 }
 
 // Row r of a contiguous matrix of three floats per row, as a whole register whose last lane is undefined.
@@ -140,7 +119,7 @@ template <int r>
 VORM_INLINE Lanes<float> loadRowOfThree(const float* row)
 {
     if constexpr (r == 2)
-        return _mm_castsi128_ps(_mm_srli_si128(_mm_castps_si128(_mm_loadu_ps(row - 1)), 4));
+        return behindFirst(Lanes<float>::load(row - 1));
     else
         return Lanes<float>::load(row);
 }

@@ -39,7 +39,7 @@ template <class Kind, int n, Order order, class T>
 {
     squareProducts<T, n, order>(Kind::first(Matrix{pSrc1, src1Stride1, adjacent}),
                                 Kind::second(Matrix{pSrc2, src2Stride1, adjacent}), Matrix{pDst, dstStride1, adjacent},
-                                0, 1);
+                                1);
     return StatusOk;
 }
 

@@ -34,17 +34,14 @@ struct Columns {
     template <Start start>
     VORM_INLINE Lanes<T> timesLast(const Spread<T, n>& x0, const Spread<T, n>& x1) const
     {
-        return leftToRight<n, start>(
-            [&](auto k) VORM_INLINE_LAMBDA { return last[k] * Lanes<T>(_mm_unpacklo_pd(x0.v[k].v, x1.v[k].v)); });
+        return leftToRight<n, start>([&](auto k)
+                                         VORM_INLINE_LAMBDA { return last[k] * interleaveLow(x0.v[k], x1.v[k]); });
     }
 };
 
 // Four rows of a matrix of floats. The first two products of a sum may change places: so two elements of
 // the vector are loaded twice over, 0 1 0 1, and exchanged, 1 0 1 0, where spreading them takes two shuffles.
-VORM_INLINE Lanes<float> exchanged(Lanes<float> pairs)
-{
-    return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(pairs.v), 0xB1));
-}
+VORM_INLINE Lanes<float> exchanged(Lanes<float> pairs) { return permute<1, 0, 3, 2>(pairs); }
 template <int n>
 struct FourRows {
     Lanes<float> columns[n];
@@ -77,24 +74,11 @@ struct FourRows {
     }
 };
 
-// Calls body(from, to) with the vectors and results of the objects up to count, some of them at once.
-template <int some, class X, class D, class Body>
+// Calls body(from, to) with each vector and its result.
+template <class X, class D, class Body>
 VORM_INLINE void eachVector(const X& x, const D& y, int object, int count, const Body& body)
 {
-    for (; count - object >= some; object += some)
-        unrolled<some>([&](auto o) VORM_INLINE_LAMBDA { body(x.object(object + o), y.object(object + o)); });
     for (; object < count; ++object) body(x.object(object), y.object(object));
-}
-template <int some, class T, class Body>
-VORM_INLINE void eachVector(const VectorArray<const T, Adjacent>& x, const VectorArray<T, Adjacent>& y, int object,
-                            int count, const Body& body)
-{
-    const std::ptrdiff_t xStep = x.stride0, yStep = y.stride0;
-    const T* from = x.object(object);
-    T* to = y.object(object);
-    for (; count - object >= some; object += some, from = advance(from, some * xStep), to = advance(to, some * yStep))
-        unrolled<some>([&](auto o) VORM_INLINE_LAMBDA { body(advance(from, o * xStep), advance(to, o * yStep)); });
-    for (; object < count; ++object, from = advance(from, xStep), to = advance(to, yStep)) body(from, to);
 }
 
 // Four packed vectors of three floats at a time, whose results fill three registers.
@@ -132,15 +116,13 @@ VORM_INLINE int productsOfFive(const A& a, const X& x, const D& y, int count)
         objectsAt(x, object, from), objectsAt(y, object, to);
         // Elements 0 1 0 1 and 1 2 3 4 of each vector.
         const FourRows<5>::Vector v0(from[0]), v1(from[1]), v2(from[2]), v3(from[3]);
-        const __m128 begin01 = _mm_unpacklo_ps(v0.firstTwo.v, v1.firstTwo.v),
-                     begin23 = _mm_unpacklo_ps(v2.firstTwo.v, v3.firstTwo.v),
-                     middle01 = _mm_shuffle_ps(v0.lastFour.v, v1.lastFour.v, 0x55),
-                     middle23 = _mm_shuffle_ps(v2.lastFour.v, v3.lastFour.v, 0x55),
-                     end01 = _mm_unpackhi_ps(v0.lastFour.v, v1.lastFour.v),
-                     end23 = _mm_unpackhi_ps(v2.lastFour.v, v3.lastFour.v);
-        const Lanes<float> elements[5] = {_mm_movelh_ps(begin01, begin23), _mm_movehl_ps(begin23, begin01),
-                                          _mm_shuffle_ps(middle01, middle23, 0x88), _mm_movelh_ps(end01, end23),
-                                          _mm_movehl_ps(end23, end01)};
+        const auto begin01 = interleaveLow(v0.firstTwo, v1.firstTwo), begin23 = interleaveLow(v2.firstTwo, v3.firstTwo),
+                   middle01 = shuffle<1, 1, 1, 1>(v0.lastFour, v1.lastFour),
+                   middle23 = shuffle<1, 1, 1, 1>(v2.lastFour, v3.lastFour),
+                   end01 = interleaveHigh(v0.lastFour, v1.lastFour), end23 = interleaveHigh(v2.lastFour, v3.lastFour);
+        const Lanes<float> elements[5] = {lowPairs(begin01, begin23), highPairs(begin01, begin23),
+                                          shuffle<0, 2, 0, 2>(middle01, middle23), lowPairs(end01, end23),
+                                          highPairs(end01, end23)};
         const auto sums = leftToRight<5, start>([&](auto k) VORM_INLINE_LAMBDA { return last[k] * elements[k]; });
         const auto store = [&](const auto& v, auto l) VORM_INLINE_LAMBDA {
             four.times<start>(v).store(to[l]);
@@ -154,7 +136,7 @@ VORM_INLINE int productsOfFive(const A& a, const X& x, const D& y, int count)
 
 // Six rows of floats for two vectors at once: the first four of one, the last four of the other, and what
 // is left of both, which lies side by side where the results are packed.
-template <Start start, bool packed, class A, class X, class D>
+template <Start start, class A, class X, class D>
 VORM_INLINE int productsOfSix(const A& a, const X& x, const D& y, int count)
 {
     const FourRows<6> first(a, [](int l) { return l; }), last(a, [](int l) { return l + 2; }),
@@ -162,53 +144,36 @@ VORM_INLINE int productsOfSix(const A& a, const X& x, const D& y, int count)
     int object = 0;
     for (; count - object >= 2; object += 2) {
         const FourRows<6>::Vector v0(x.object(object)), v1(x.object(object + 1));
-        const auto ofBoth =
-            left.times<start>(_mm_movelh_ps(v0.firstTwo.v, v1.firstTwo.v), [&](auto k) VORM_INLINE_LAMBDA {
-                return Lanes<float>(_mm_shuffle_ps(v0.lastFour.v, v1.lastFour.v, (k - 2) * 0x55));
-            });
+        const auto ofBoth = left.times<start>(lowPairs(v0.firstTwo, v1.firstTwo), [&](auto k) VORM_INLINE_LAMBDA {
+            return shuffle<k - 2, k - 2, k - 2, k - 2>(v0.lastFour, v1.lastFour);
+        });
         float *const to0 = y.object(object), *const to1 = y.object(object + 1);
         first.times<start>(v0).store(to0);
-        if constexpr (packed)
-            ofBoth.store(to0 + 4);
-        else
-            storePairs(to0 + 4, to1, ofBoth);
+        storePairs(to0 + 4, to1, ofBoth);
         last.times<start>(v1).store(to1 + 2);
     }
     return object;
 }
 
-template <class T>
-VORM_INLINE bool isPackedArray(const VectorArray<T, Adjacent>& view, int len)
-{
-    return view.stride0 == len * static_cast<int>(sizeof(T));
-}
-template <class View>
-VORM_INLINE bool isPackedArray(const View&, int)
-{
-    return false;
-}
-
 // In single precision.
 template <class T, int n, Start start, class A, class X, class D>
-requires(sizeof(T) == sizeof(float)) VORM_INLINE int productsOfCommon(const A& a, const X& x, const D& y, int count)
+requires(sizeof(T) == sizeof(float)) VORM_INLINE int bodyOf(const A& a, const X& x, const D& y, int count)
 {
     if constexpr (n == 6) {
-        if (isPackedArray(x, 6) && isPackedArray(y, 6)) return productsOfSix<start, true>(a, x, y, count);
-        return productsOfSix<start, false>(a, x, y, count);
+        return productsOfSix<start>(a, x, y, count);
     } else if constexpr (n == 5) {
         return productsOfFive<start>(a, x, y, count);
     } else if constexpr (n == 4) {
         const FourRows<4> rows(a, [](int l) { return l; });
-        eachVector<4>(x, y, 0, count, [&](const T* from, T* to) VORM_INLINE_LAMBDA {
+        eachVector(x, y, 0, count, [&](const T* from, T* to) VORM_INLINE_LAMBDA {
             rows.times<start>(FourRows<4>::Vector(from)).store(to);
         });
         return count;
     } else {
         int object = 0;
-        if (isPackedArray(x, 3) && isPackedArray(y, 3))
-            object = packedThrees<start>(a, x.object(0), y.object(0), count);
+        if (isPacked(x, 3) && isPacked(y, 3)) object = packedThrees<start>(a, x.object(0), y.object(0), count);
         const Columns<T, n> columns(a);
-        eachVector<2>(x, y, object, count, [&](const T* from, T* to) VORM_INLINE_LAMBDA {
+        eachVector(x, y, object, count, [&](const T* from, T* to) VORM_INLINE_LAMBDA {
             storeThree(to, columns.template times<start, 0>(Spread<T, n>::load(Vector{from, adjacent}, 0)));
         });
         return count;
@@ -217,14 +182,14 @@ requires(sizeof(T) == sizeof(float)) VORM_INLINE int productsOfCommon(const A& a
 
 // In double precision. A row left over is done for two objects at once.
 template <class T, int n, Start start, class A, class X, class D>
-requires(sizeof(T) == sizeof(double)) VORM_INLINE int productsOfCommon(const A& a, const X& x, const D& y, int count)
+requires(sizeof(T) == sizeof(double)) VORM_INLINE int bodyOf(const A& a, const X& x, const D& y, int count)
 {
     const Columns<T, n> columns(a);
     const auto store = [](const Lanes<T>(&results)[n / 2], T* to) VORM_INLINE_LAMBDA {
         for (int c = 0; c < n / 2; ++c) results[c].store(to + 2 * c);
     };
     if constexpr (n % 2 == 0) {
-        eachVector<n == 4 ? 2 : 1>(x, y, 0, count, [&](const T* from, T* to) VORM_INLINE_LAMBDA {
+        eachVector(x, y, 0, count, [&](const T* from, T* to) VORM_INLINE_LAMBDA {
             const auto vector = Spread<T, n>::load(Vector{from, adjacent}, 0);
             Lanes<T> results[n / 2];
             unrolled<n / 2>([&](auto c) VORM_INLINE_LAMBDA { results[c] = columns.template times<start, c>(vector); });
