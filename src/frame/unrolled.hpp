@@ -3,20 +3,22 @@
 #pragma once
 
 #include <type_traits>
-#include <utility>
 
 #include "frame/layers.hpp"
 
 namespace vorm {
 
-template <int n, class Body>
+// By hand, since a pack of indices takes one function more, which costs a tenth of the time to compile a unit.
+template <int n, int first = 0, class Body>
 VORM_INLINE void unrolled(const Body& body)
 {
-    [&]<int... k>(std::integer_sequence<int, k...>) VORM_INLINE_LAMBDA
-    {
-        (..., body(std::integral_constant<int, k>{}));
-    }
-    (std::make_integer_sequence<int, n>{});
+    if constexpr (n > first) body(std::integral_constant<int, first>{});
+    if constexpr (n > first + 1) body(std::integral_constant<int, first + 1>{});
+    if constexpr (n > first + 2) body(std::integral_constant<int, first + 2>{});
+    if constexpr (n > first + 3) body(std::integral_constant<int, first + 3>{});
+    if constexpr (n > first + 4) body(std::integral_constant<int, first + 4>{});
+    if constexpr (n > first + 5) body(std::integral_constant<int, first + 5>{});
+    if constexpr (n > first + 6) unrolled<n, first + 6>(body);
 }
 
 template <int n>

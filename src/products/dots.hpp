@@ -6,7 +6,7 @@
 #include "frame/memory.hpp"
 #include "frame/shuffles.hpp"
 
-namespace vorm {
+namespace vorm::products {
 
 VORM_INLINE float foldLanes(Lanes<float> s)
 {
@@ -47,4 +47,4 @@ VORM_INLINE void rowsTimesVector(const T* a, std::ptrdiff_t stride1, const T* x,
     for (int r = 0; r < rows; ++r) elementAt(y + r, 0) = total[r];
 }
 
-}  // namespace vorm
+}  // namespace vorm::products

@@ -4,7 +4,7 @@
 #include "frame/call.hpp"
 #include "products/matrix_kernels.hpp"
 
-namespace vorm {
+namespace vorm::products {
 
 template <class Kind, Bodies bodies = Bodies::upTo6, class T, class TheTests, class Parts>
 VORM_INLINE VormStatus contiguousKernel(const ArrayCall<T, TheTests, Parts>& call)
@@ -49,4 +49,4 @@ VORM_INLINE VormStatus anyStrideKernel(const Call<T, TheTests, Parts>& call)
     });
 }
 
-}  // namespace vorm
+}  // namespace vorm::products

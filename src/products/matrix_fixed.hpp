@@ -14,7 +14,7 @@
 #include "frame/pin.hpp"
 #include "frame/small_matrix.hpp"
 
-namespace vorm {
+namespace vorm::products {
 
 // Left to right with the first product as the start value, or as the general path adds (see
 // matrix_tiles.hpp).
@@ -32,19 +32,17 @@ constexpr int groups = n / groupRows<T, n>;
 template <class T, int n, class View>
 struct FactorsInMemory {
     View view;
-    int object;
 
     template <int i, int k>
     VORM_INLINE Lanes<T> get() const
     {
-        return T(view(object, i, k));
+        return T(view(0, i, k));
     }
     template <int g, int k>
     VORM_INLINE Lanes<T> group() const
     {
-        return lanes<T>([&](int l) VORM_INLINE_LAMBDA {
-            return T(view(object, g * groupRows<T, n> + l / SmallMatrix<T, n>::rest, k));
-        });
+        return lanes<T>(
+            [&](int l) VORM_INLINE_LAMBDA { return T(view(0, g * groupRows<T, n> + l / SmallMatrix<T, n>::rest, k)); });
     }
 };
 
@@ -53,29 +51,28 @@ template <int n, class View>
 struct FactorsInRows {
     using Small = SmallMatrix<float, n>;
     const View& view;
-    int object;
     Lanes<float> columns[n];  // of the first four rows
-    VORM_INLINE FactorsInRows(const View& view_, int object_) : view(view_), object(object_)
+    VORM_INLINE explicit FactorsInRows(const View& view_) : view(view_)
     {
-        if constexpr (Small::rest == 1) Small::template loadAll<0>(Transposed{view}, object, columns);
+        if constexpr (Small::rest == 1) Small::template loadAll<0>(Transposed{view}, 0, columns);
     }
 
     template <int i, int k>
     VORM_INLINE Lanes<float> get() const
     {
         if constexpr (k < 4)
-            return splat<k>(Small::template load<i, 0>(view, object));
+            return splat<k>(Small::template load<i, 0>(view, 0));
         else if constexpr (Small::rest == 2)
-            return splat<k % 4>(Small::template load<i, 1>(view, object));
+            return splat<k % 4>(Small::template load<i, 1>(view, 0));
         else
-            return float(view(object, i, k));
+            return float(view(0, i, k));
     }
     template <int g, int k>
     VORM_INLINE Lanes<float> group() const
     {
         if constexpr (Small::rest == 1) return columns[k];
-        const Lanes<float> first = Small::template load<2 * g, k / 4>(view, object);
-        const Lanes<float> second = Small::template load<2 * g + 1, k / 4>(view, object);
+        const Lanes<float> first = Small::template load<2 * g, k / 4>(view, 0);
+        const Lanes<float> second = Small::template load<2 * g + 1, k / 4>(view, 0);
         return _mm_shuffle_ps(first.v, second.v, k % 4 * 0x55);
     }
 };
@@ -85,20 +82,19 @@ template <int n, class Stored>
 struct FactorsInColumns {
     using Small = SmallMatrix<float, n>;
     const Stored& stored;
-    int object;
 
     template <int i, int k>
     VORM_INLINE Lanes<float> get() const
     {
         if constexpr (i / 4 == Small::full && Small::rest == 1)
-            return float(stored(object, k, i));
+            return float(stored(0, k, i));
         else
-            return splat<i % 4>(Small::template load<k, i / 4>(stored, object));
+            return splat<i % 4>(Small::template load<k, i / 4>(stored, 0));
     }
     template <int g, int k>
     VORM_INLINE Lanes<float> group() const
     {
-        const auto column = Small::template load<k, g * groupRows<float, n> / 4>(stored, object);
+        const auto column = Small::template load<k, g * groupRows<float, n> / 4>(stored, 0);
         if constexpr (Small::rest == 1)
             return column;
         else
@@ -113,7 +109,7 @@ struct FactorsPrepared {
     template <class View>
     VORM_INLINE explicit FactorsPrepared(const View& view)
     {
-        const FactorsInMemory<T, n, View> factors{view, 0};
+        const FactorsInMemory<T, n, View> factors{view};
         unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
             unrolled<n>([&](auto i) VORM_INLINE_LAMBDA { all[i][k] = factors.template get<i, k>(); });
             unrolled<SmallMatrix<T, n>::rest ? groups<T, n> : 0>(
@@ -133,33 +129,36 @@ struct FactorsPrepared {
     }
 };
 
-// The operands of the products of an array, by object. What all objects share is loaded once. ----------
+// The operands of one product, in the form each part of the body asks for them by (). What all objects share is
+// loaded once. -------------------------------------------------------------------------------------------
 
 template <class T, int n, class View>
 struct Factors {
     static constexpr bool isCommon = false, inRows = true;
     View view;
-    VORM_INLINE auto operator()(int object) const
+    VORM_INLINE auto operator()() const
     {
         if constexpr (sizeof(T) == sizeof(float) && View::isAdjacent)
-            return FactorsInRows<n, View>(view, object);
+            return FactorsInRows<n, View>(view);
         else
-            return FactorsInMemory<T, n, View>{view, object};
+            return FactorsInMemory<T, n, View>{view};
     }
 };
 template <int n, class Stored>
 requires Stored::isAdjacent struct Factors<float, n, Transposed<Stored>> {
     static constexpr bool isCommon = false, inRows = false;
     Transposed<Stored> view;
-    VORM_INLINE auto operator()(int object) const { return FactorsInColumns<n, Stored>{view.stored, object}; }
+    VORM_INLINE auto operator()() const { return FactorsInColumns<n, Stored>{view.stored}; }
 };
-template <class T, int n, class View>
+template <class T, int n>
 struct CommonFactors {
     static constexpr bool isCommon = true, inRows = false;
-    View view;
     FactorsPrepared<T, n> prepared;
-    VORM_INLINE explicit CommonFactors(const View& view_) : view(view_), prepared(view_) {}
-    VORM_INLINE const FactorsPrepared<T, n>& operator()(int) const { return prepared; }
+    template <class View>
+    VORM_INLINE explicit CommonFactors(const View& view) : prepared(view)
+    {
+    }
+    VORM_INLINE const FactorsPrepared<T, n>& operator()() const { return prepared; }
 };
 
 // The rows of B: get<p, k> is part p of row k. Those of a transposed matrix are made several at a time,
@@ -168,17 +167,16 @@ template <class T, int n, class View>
 struct RowsOfObject {
     using Small = SmallMatrix<T, n>;
     const View& view;
-    int object;
     Lanes<T> block[Small::parts][Small::width];
 
     template <int p, int k>
     VORM_INLINE Lanes<T> get()
     {
         if constexpr (isTransposed<View>) {
-            if constexpr (k % Small::width == 0) Small::template loadBlock<p, k / Small::width>(view, object, block[p]);
+            if constexpr (k % Small::width == 0) Small::template loadBlock<p, k / Small::width>(view, 0, block[p]);
             return block[p][k % Small::width];
         } else {
-            return Small::template load<k, p>(view, object);
+            return Small::template load<k, p>(view, 0);
         }
     }
 };
@@ -186,19 +184,19 @@ template <class T, int n, class View>
 struct Rows {
     static constexpr bool isCommon = false, inRows = !isTransposed<View>;
     View view;
-    VORM_INLINE RowsOfObject<T, n, View> operator()(int object) const { return {view, object, {}}; }
+    VORM_INLINE RowsOfObject<T, n, View> operator()() const { return {view, {}}; }
 };
-template <class T, int n, class View>
+template <class T, int n>
 struct CommonRows {
     static constexpr bool isCommon = true, inRows = true;
-    View view;
     Lanes<T> v[SmallMatrix<T, n>::parts][n];
-    VORM_INLINE explicit CommonRows(const View& view_) : view(view_)
+    template <class View>
+    VORM_INLINE explicit CommonRows(const View& view)
     {
         unrolled<SmallMatrix<T, n>::parts>(
             [&](auto p) VORM_INLINE_LAMBDA { SmallMatrix<T, n>::template loadAll<p>(view, 0, v[p]); });
     }
-    VORM_INLINE const CommonRows& operator()(int) const { return *this; }
+    VORM_INLINE const CommonRows& operator()() const { return *this; }
     template <int p, int k>
     VORM_INLINE Lanes<T> get() const
     {
@@ -213,7 +211,7 @@ struct CommonRows {
 template <class T, int n, bool commonA>
 constexpr bool pinnedSums = sizeof(T) == sizeof(double) || n > 4 || !commonA;
 template <class Number, int n, Order order, int row, int count, bool pinned>
-struct Sums {
+struct TileSums {
     static constexpr bool fromZero = order == Order::asInTiles;
     static constexpr int each = fromZero && row >= (n & ~3) && n % 4 != 3 ? 2 : 1;
     static_assert(each == 1 || n % 2 == 0);
@@ -230,16 +228,16 @@ struct Sums {
 
 // Some rows of D from row on, some parts of them.
 template <class T, int n, Order order, int row, int rows, int part, int parts, class A, class B, class D>
-VORM_INLINE void tile(const A& factors, const B& rowsOfB, const D& dst, int object)
+VORM_INLINE void tile(const A& factors, const B& rowsOfB, const D& dst)
 {
     using Small = SmallMatrix<T, n>;
     constexpr bool hasSingles = Small::rest == 1 && part + parts > Small::full;  // one number each
     constexpr int whole = parts - hasSingles;
-    const auto& a = factors(object);
-    auto&& b = rowsOfB(object);
+    const auto& a = factors();
+    auto&& b = rowsOfB();
     constexpr bool pinned = pinnedSums<T, n, A::isCommon>;
-    Sums<Lanes<T>, n, order, row, rows * whole, pinned> sums;
-    Sums<T, n, order, row, hasSingles ? rows : 0, pinned> singles;
+    TileSums<Lanes<T>, n, order, row, rows * whole, pinned> sums;
+    TileSums<T, n, order, row, hasSingles ? rows : 0, pinned> singles;
     unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
         Lanes<T> ofB[parts];
         unrolled<parts>([&](auto p) VORM_INLINE_LAMBDA { ofB[p] = b.template get<part + p, k>(); });
@@ -251,21 +249,21 @@ VORM_INLINE void tile(const A& factors, const B& rowsOfB, const D& dst, int obje
     });
     unrolled<rows>([&](auto i) VORM_INLINE_LAMBDA {
         unrolled<whole>([&](auto p) VORM_INLINE_LAMBDA {
-            Small::template store<row + i, part + p>(dst, object, sums.total(i * whole + p));
+            Small::template store<row + i, part + p>(dst, 0, sums.total(i * whole + p));
         });
-        if constexpr (hasSingles) dst(object, row + i, n - 1) = singles.total(i);
+        if constexpr (hasSingles) dst(0, row + i, n - 1) = singles.total(i);
     });
 }
 
 // Some groups of rests.
 template <class T, int n, Order order, int group, int count, class A, class B, class D>
-VORM_INLINE void groupTile(const A& factors, const B& rowsOfB, const D& dst, int object)
+VORM_INLINE void groupTile(const A& factors, const B& rowsOfB, const D& dst)
 {
     using Small = SmallMatrix<T, n>;
     constexpr int row = group * groupRows<T, n>;
-    const auto& a = factors(object);
-    auto&& b = rowsOfB(object);
-    Sums<Lanes<T>, n, order, row, count, pinnedSums<T, n, A::isCommon>> sums;
+    const auto& a = factors();
+    auto&& b = rowsOfB();
+    TileSums<Lanes<T>, n, order, row, count, pinnedSums<T, n, A::isCommon>> sums;
     unrolled<n>([&](auto k) VORM_INLINE_LAMBDA {
         const Lanes<T> ofB = b.template get<Small::full, k>();
         unrolled<count>([&](auto g)
@@ -273,7 +271,7 @@ VORM_INLINE void groupTile(const A& factors, const B& rowsOfB, const D& dst, int
     });
     unrolled<count * groupRows<T, n>>([&](auto i) VORM_INLINE_LAMBDA {
         const auto rests = sums.total(i / groupRows<T, n>);
-        Small::template store<row + i, Small::full>(dst, object, Small::template restOf<i % groupRows<T, n>>(rests));
+        Small::template store<row + i, Small::full>(dst, 0, Small::template restOf<i % groupRows<T, n>>(rests));
     });
 }
 
@@ -292,7 +290,7 @@ struct TileShape {
 };
 
 template <class T, int n, Order order, class A, class B, class D>
-VORM_INLINE void product(const A& factors, const B& rows, const D& dst, int object)
+VORM_INLINE void product(const A& factors, const B& rows, const D& dst)
 {
     using Small = SmallMatrix<T, n>;
     using Shape = TileShape<T, n, A, B>;
@@ -303,26 +301,45 @@ VORM_INLINE void product(const A& factors, const B& rows, const D& dst, int obje
         constexpr int p = across * breadth;
         unrolled<(n + height - 1) / height>([&](auto down) VORM_INLINE_LAMBDA {
             constexpr int i = down * height;
-            tile<T, n, order, i, min(height, n - i), p, min(breadth, parts - p)>(factors, rows, dst, object);
+            tile<T, n, order, i, min(height, n - i), p, min(breadth, parts - p)>(factors, rows, dst);
         });
     });
     if constexpr (Shape::grouping) {
         constexpr int inGroups = groups<T, n>, first = order == Order::asInTiles ? 4 / groupRows<T, n> : inGroups;
-        groupTile<T, n, order, 0, first>(factors, rows, dst, object);
-        groupTile<T, n, order, first, inGroups - first>(factors, rows, dst, object);
-        if constexpr (inGroups * groupRows<T, n> < n)
-            tile<T, n, order, n - 1, 1, Small::full, 1>(factors, rows, dst, object);
+        groupTile<T, n, order, 0, first>(factors, rows, dst);
+        groupTile<T, n, order, first, inGroups - first>(factors, rows, dst);
+        if constexpr (inGroups * groupRows<T, n> < n) tile<T, n, order, n - 1, 1, Small::full, 1>(factors, rows, dst);
     }
 }
 
-// A matrix that all of several objects share is prepared for them.
-template <class T, int n, Order order = Order::leftToRight, class A, class B, class D>
-VORM_INLINE void products(const A& a, const B& b, const D& dst, int first, int end)
+template <class T, int n, class View>
+VORM_INLINE Factors<T, n, View> factorsOf(const View& view)
 {
-    constexpr bool several = !D::isCommon;
-    const std::conditional_t<A::isCommon && several, CommonFactors<T, n, A>, Factors<T, n, A>> factors{a};
-    const std::conditional_t<B::isCommon && several, CommonRows<T, n, B>, Rows<T, n, B>> rows{b};
-    for (int object = first; object < end; ++object) product<T, n, order>(factors, rows, dst, object);
+    return {view};
+}
+template <class T, int n, class View>
+VORM_INLINE Rows<T, n, View> rowsOf(const View& view)
+{
+    return {view};
 }
 
-}  // namespace vorm
+// A matrix that all of several objects share is prepared for them; the others are shown one by one, so that the body
+// is the same for an array and a list.
+template <class T, int n, Order order = Order::leftToRight, class A, class B, class D>
+VORM_INLINE void squareProducts(const A& a, const B& b, const D& dst, int first, int end)
+{
+    if constexpr (A::isCommon && !D::isCommon) {
+        const CommonFactors<T, n> factors(a);
+        for (int object = first; object < end; ++object)
+            product<T, n, order>(factors, rowsOf<T, n>(b.single(object)), dst.single(object));
+    } else if constexpr (B::isCommon && !D::isCommon) {
+        const CommonRows<T, n> rows(b);
+        for (int object = first; object < end; ++object)
+            product<T, n, order>(factorsOf<T, n>(a.single(object)), rows, dst.single(object));
+    } else {
+        for (int object = first; object < end; ++object)
+            product<T, n, order>(factorsOf<T, n>(a.single(object)), rowsOf<T, n>(b.single(object)), dst.single(object));
+    }
+}
+
+}  // namespace vorm::products

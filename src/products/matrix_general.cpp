@@ -4,7 +4,7 @@
 
 #include "products/matrix_tiles.hpp"
 
-namespace vorm {
+namespace vorm::products {
 
 // Eight terms and whole tiles only: a product in which calls and loops cost as much as the sums.
 template <class Kind, class T>
@@ -30,12 +30,12 @@ VormStatus anyLengths(MM_PARAMS(T))
         const int fours = n & ~3;
         if (tiled != 0) {
             tiles<T>(stored2, stored1, columns, fours, tiled, terms);
-            strips<T, Sums::running, 1>(stored2, stored1, columns, fours, n, 0, tiled, terms);
+            strips<T, SumOrder::running, 1>(stored2, stored1, columns, fours, n, 0, tiled, terms);
         }
         if (left == 3)
-            strips<T, Sums::running, 1>(stored2, stored1, columns, 0, n, tiled, m, terms);
+            strips<T, SumOrder::running, 1>(stored2, stored1, columns, 0, n, tiled, m, terms);
         else if (left != 0)
-            strips<T, Sums::evenAndOdd, 1>(stored2, stored1, columns, 0, n, tiled, m, terms);
+            strips<T, SumOrder::evenAndOdd, 1>(stored2, stored1, columns, 0, n, tiled, m, terms);
     } else if constexpr (Kind::transposed2) {
         if constexpr (sizeof(T) == sizeof(double)) {
             tiles<T>(stored1, Transposed{stored2}, dst, tiled, n, terms);
@@ -53,13 +53,13 @@ VormStatus anyLengths(MM_PARAMS(T))
     } else {
         const auto a = Kind::first(stored1);
         if (tiled != 0) tiles<T>(a, stored2, dst, tiled, n, terms);
-        if (left == 1) strips<T, Sums::evenAndOdd, 1>(a, stored2, dst, tiled, m, 0, n, terms);
-        if (left == 2) strips<T, Sums::evenAndOdd, 2>(a, stored2, dst, tiled, m, 0, n, terms);
-        if (left == 3) strips<T, Sums::running, 3>(a, stored2, dst, tiled, m, 0, n, terms);
+        if (left == 1) strips<T, SumOrder::evenAndOdd, 1>(a, stored2, dst, tiled, m, 0, n, terms);
+        if (left == 2) strips<T, SumOrder::evenAndOdd, 2>(a, stored2, dst, tiled, m, 0, n, terms);
+        if (left == 3) strips<T, SumOrder::running, 3>(a, stored2, dst, tiled, m, 0, n, terms);
     }
     return StatusOk;
 }
 
 VORM_EACH_GENERAL_PRODUCT();
 
-}  // namespace vorm
+}  // namespace vorm::products

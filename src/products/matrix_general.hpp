@@ -13,7 +13,7 @@
     pSrc1, src1Stride1, src1Stride2, src1Width, src1Height, pSrc2, src2Stride1, src2Stride2, src2Width, src2Height, \
         pDst, dstStride1, dstStride2
 
-namespace vorm {
+namespace vorm::products {
 
 // Products with eight terms, four rows or a multiple, and columns that fill registers in pairs; and all
 // products. A kernel passes its arguments on with a jump, hence the strides that are not looked at.
@@ -50,4 +50,4 @@ VORM_INLINE VormStatus generalProduct(MM_PARAMS(T))
     prefix VORM_GENERAL_PRODUCT(anyLengths, Tt, double)
 VORM_EACH_GENERAL_PRODUCT(extern);
 
-}  // namespace vorm
+}  // namespace vorm::products

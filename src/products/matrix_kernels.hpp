@@ -4,16 +4,15 @@
 
 #include <climits>
 
-#include "products/gathered.hpp"
+#include "products/anywhere.hpp"
 #include "products/matrix_fixed.hpp"
 #include "products/matrix_general.hpp"
 #include "products/matrix_kinds.hpp"
 #include "products/paths.hpp"
-#include "products/planes.hpp"
 #include "products/vector_fixed.hpp"
 #include "vorm/status.h"
 
-namespace vorm {
+namespace vorm::products {
 
 // The order of a product with a straight-line body, or 0.
 template <Bodies bodies>
@@ -52,7 +51,7 @@ VORM_INLINE bool productsByRows(const A&, const B&, const D&, int)
 template <class T, int n, class A, class B, class D>
 VORM_INLINE void fixedProductsOfAll(const A& a, const B& b, const D& dst, int count)
 {
-    if (!productsByRows<T, n>(a, b, dst, count)) products<T, n>(a, b, dst, 0, count);
+    if (!productsByRows<T, n>(a, b, dst, count)) squareProducts<T, n>(a, b, dst, 0, count);
 }
 
 // Contiguous rows: stored views of all three operands. -----------------------------------------------
@@ -64,7 +63,7 @@ VORM_INLINE VormStatus contiguousProducts(const A& src1, const B& src2, const D&
     const auto b = Kind::second(src2);
     if constexpr (bodies == Bodies::upTo5) {
         if (fixedOrder<Bodies::upTo6>(lengths) == 6)
-            return products<T, 6, Order::asInTiles>(a, b, dst, 0, count), StatusOk;
+            return squareProducts<T, 6, Order::asInTiles>(a, b, dst, 0, count), StatusOk;
     }
     switch (fixedOrder<bodies>(lengths)) {
     case 3: fixedProductsOfAll<T, 3>(a, b, dst, count); break;
@@ -83,52 +82,18 @@ VORM_INLINE VormStatus contiguousProducts(const A& src1, const B& src2, const D&
 
 // Elements anywhere: the _S2 and _P kernels. --------------------------------------------------------
 
-enum class Outermost { rows, columns };
-
-// Every sum starts at zero and takes its products in ascending k.
-template <class Number, Outermost outermost, class A, class B, class D>
-VORM_INLINE void generalProductAnywhere(const A& a, const B& b, const D& dst, Lengths lengths, int object)
-{
-    const bool byRows = outermost == Outermost::rows;
-    for (int outer = 0; outer < (byRows ? lengths.m : lengths.n); ++outer)
-        for (int inner = 0; inner < (byRows ? lengths.n : lengths.m); ++inner) {
-            const int i = byRows ? outer : inner, j = byRows ? inner : outer;
-            Number sum(0);
-            for (int k = 0; k < lengths.k; ++k)
-                sum = sum + loadPlane<Number>(a, object, i, k) * loadPlane<Number>(b, object, k, j);
-            storePlane(sum, dst, object, i, j);
-        }
-}
-
 template <class T, Outermost outermost = Outermost::rows, class A, class B, class D>
 VORM_INLINE VormStatus productsAnywhere(const A& a, const B& b, const D& dst, Lengths lengths, int first, int count)
 {
-    switch (fixedOrder<Bodies::upTo6>(lengths)) {
-    case 3: gatheredProducts<T, 3>(a, b, dst, first, count); break;
-    case 4: gatheredProducts<T, 4>(a, b, dst, first, count); break;
-    case 5: gatheredProducts<T, 5>(a, b, dst, first, count); break;
-    case 6: gatheredProducts<T, 6>(a, b, dst, first, count); break;
-    default:
-        for (int n = first; n < count; ++n) generalProductAnywhere<T, outermost>(a, b, dst, lengths, n);
-    }
+    productsAnywhere<Second::matrices>(elementsOf(a), elementsOf(b), elementsOf(dst), lengths, outermost, first, count);
     return StatusOk;
 }
 
-template <class T, Outermost outermost, class A, class B>
-VORM_INLINE VormStatus pointerProducts(const A& a, const B& b, const MatrixArrayPointers<T>& dst, Lengths lengths,
-                                       int count)
+template <class T, Outermost outermost, class A, class B, class D>
+VORM_INLINE VormStatus pointerProducts(const A& a, const B& b, const D& dst, Lengths lengths, int count)
 {
-    constexpr int width = Lanes<T>::width;
-    int inLanes = 0;
-    if (count >= width && inPlanes(a) && inPlanes(b) && inPlanes(dst) &&
-        planesApart(dst, lengths.m, lengths.n, lengths.k, Run::matrices, count)) {
-        inLanes = count / width * width;
-        if (const int order = fixedOrder<Bodies::upTo6>(lengths); order != 0)
-            productsInPlanes<T>(order, planeTable(a), planeTable(b), planeTable(dst), order, Run::matrices, inLanes);
-        else
-            for (int n = 0; n < inLanes; n += width) generalProductAnywhere<Lanes<T>, outermost>(a, b, dst, lengths, n);
-    }
-    return productsAnywhere<T, outermost>(a, b, dst, lengths, inLanes, count);
+    pointerProducts<Second::matrices>(elementsOf(a), elementsOf(b), elementsOf(dst), lengths, outermost, count);
+    return StatusOk;
 }
 
-}  // namespace vorm
+}  // namespace vorm::products

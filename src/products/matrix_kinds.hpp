@@ -5,7 +5,7 @@
 #include "frame/operands.hpp"
 #include "frame/pin.hpp"
 
-namespace vorm {
+namespace vorm::products {
 
 // The shape of a product: D has m rows and n columns, each element is a sum of k terms.
 struct Lengths {
@@ -50,4 +50,4 @@ using Mt = Kind<AsStored, AsTransposed>;
 using Tm = Kind<AsTransposed, AsStored>;
 using Tt = Kind<AsTransposed, AsTransposed>;
 
-}  // namespace vorm
+}  // namespace vorm::products

@@ -19,9 +19,9 @@
 #include "frame/pin.hpp"
 #include "frame/small_matrix.hpp"
 
-namespace vorm {
+namespace vorm::products {
 
-enum class Sums { running, evenAndOdd };
+enum class SumOrder { running, evenAndOdd };
 
 // The view from row r and column c on. ---------------------------------------------------------------
 
@@ -111,8 +111,8 @@ VORM_INLINE void addTerm(Lanes<T> (&sum)[all], const Terms& terms, const B& b, i
 
 // height rows, registers side by side; some of their lanes are in use. A known number of terms, a multiple
 // of four as an integral_constant, makes straight-line code.
-template <class T, Sums sums, int height, int registers, int some, class A, class B, class D, class Terms>
-VORM_INLINE void tileHere(const A& a, const B& b, const D& dst, Terms terms)
+template <class T, SumOrder sums, int height, int registers, int some, class A, class B, class D, class Terms>
+VORM_INLINE void generalTileHere(const A& a, const B& b, const D& dst, Terms terms)
 {
     constexpr int width = Lanes<T>::width, all = height * registers;
     Lanes<T> sum[all];
@@ -129,9 +129,9 @@ VORM_INLINE void tileHere(const A& a, const B& b, const D& dst, Terms terms)
     };
     int k = 0;
     if constexpr (!std::is_integral_v<Terms>) {
-        static_assert(sums == Sums::running && Terms::value % 4 == 0);
+        static_assert(sums == SumOrder::running && Terms::value % 4 == 0);
         unrolled<Terms::value / 4>([&](auto q) VORM_INLINE_LAMBDA { four(4 * q); });
-    } else if constexpr (sums == Sums::running) {
+    } else if constexpr (sums == SumOrder::running) {
         for (; width == 4 && k + width <= terms; k += width) four(k);
     } else {
         Lanes<T> odd[all];
@@ -149,10 +149,10 @@ VORM_INLINE void tileHere(const A& a, const B& b, const D& dst, Terms terms)
 }
 
 // A function of its own for each, so that the many tiles of a product do not share its registers.
-template <class T, Sums sums, int height, int registers, int some, class A, class B, class D>
-[[gnu::noinline]] void tile(const A a, const B b, const D dst, int terms)
+template <class T, SumOrder sums, int height, int registers, int some, class A, class B, class D>
+[[gnu::noinline]] void generalTile(const A a, const B b, const D dst, int terms)
 {
-    tileHere<T, sums, height, registers, some>(a, b, dst, terms);
+    generalTileHere<T, sums, height, registers, some>(a, b, dst, terms);
 }
 
 // The bulk of a product: a multiple of four rows, and of two registers of columns.
@@ -162,7 +162,8 @@ VORM_INLINE void fullTilesHere(const A& a, const B& b, const D& dst, int rows, i
     constexpr int breadth = 2 * Lanes<T>::width;
     for (int r = 0; r < rows; r += 4)
         for (int c = 0; c < columns; c += breadth)
-            tileHere<T, Sums::running, 4, 2, Lanes<T>::width>(from(a, r, 0), from(b, 0, c), from(dst, r, c), terms);
+            generalTileHere<T, SumOrder::running, 4, 2, Lanes<T>::width>(from(a, r, 0), from(b, 0, c), from(dst, r, c),
+                                                                         terms);
 }
 template <class T, class A, class B, class D>
 [[gnu::noinline]] void fullTiles(const A a, const B b, const D dst, int rows, int columns, int terms)
@@ -171,14 +172,14 @@ template <class T, class A, class B, class D>
 }
 
 // Strips of tiles: height rows each from row r up to toRow, columns c up to toColumn.
-template <class T, Sums sums, int height, class A, class B, class D>
+template <class T, SumOrder sums, int height, class A, class B, class D>
 [[gnu::noinline]] void strips(const A a, const B b, const D dst, int r, int toRow, int c, int toColumn, int terms)
 {
     constexpr int width = Lanes<T>::width;
     for (; r < toRow; r += height) {
         const A rows = from(a, r, 0);
         const auto across = [&]<int registers, int some>(int j) VORM_INLINE_LAMBDA {
-            tile<T, sums, height, registers, some>(rows, from(b, 0, j), from(dst, r, j), terms);
+            generalTile<T, sums, height, registers, some>(rows, from(b, 0, j), from(dst, r, j), terms);
         };
         int j = c;
         if constexpr (height != 4)
@@ -200,7 +201,7 @@ VORM_INLINE void tiles(const A& a, const B& b, const D& dst, int rows, int colum
 {
     const int full = columns & -(2 * Lanes<T>::width);
     if (full != 0) fullTiles<T>(a, b, dst, rows, full, terms);
-    if (full != columns) strips<T, Sums::running, 4>(a, b, dst, 0, rows, full, columns, terms);
+    if (full != columns) strips<T, SumOrder::running, 4>(a, b, dst, 0, rows, full, columns, terms);
 }
 
 // Tiles along k, for rows of A and columns of B that both run along it. ---------------------------
@@ -255,4 +256,4 @@ template <class T, int registers, int height, int breadth>
     });
 }
 
-}  // namespace vorm
+}  // namespace vorm::products

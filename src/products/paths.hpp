@@ -1,7 +1,7 @@
 // What decides the path of a product: the limits of the team, and which kernels have straight-line bodies.
 #pragma once
 
-namespace vorm {
+namespace vorm::products {
 
 // The largest work measures that stay serial where both precisions share them; that of the contiguous
 // standard layout stands at each member.
@@ -10,4 +10,4 @@ constexpr int teamLimitList = 3600, teamLimitAnyStride = 1440, teamLimitPointers
 // The orders from 3 on that have straight-line bodies. A kernel that has fewer says so by name.
 enum class Bodies { none, upTo5, upTo6 };
 
-}  // namespace vorm
+}  // namespace vorm::products

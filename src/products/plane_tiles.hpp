@@ -8,7 +8,7 @@
 #include "frame/pin.hpp"
 #include "frame/unrolled.hpp"
 
-namespace vorm {
+namespace vorm::products {
 
 // Planes that lie at even distances, in bytes.
 template <class T>
@@ -118,4 +118,4 @@ template <class T, int terms, int rows>
     }
 }
 
-}  // namespace vorm
+}  // namespace vorm::products

@@ -1,12 +1,32 @@
-// Products over structures of arrays, orders 3 to 6: which tiles cover them.
+// Products in pointer layout. Where the objects lie in planes, one for each element, whole registers of objects go
+// through the tiles of plane_tiles.hpp at the orders 3 to 6; objects left over and all other tables, one by one.
 
-#include "products/planes.hpp"
-
+#include "frame/planes.hpp"
+#include "frame/minmax.hpp"
+#include "frame/overlap.hpp"
+#include "products/anywhere.hpp"
 #include "products/plane_tiles.hpp"
 
-namespace vorm {
+namespace vorm::products {
 
 namespace {
+
+// At orders 3 to 6 results are computed for so many objects at once, some of their elements after the
+// other. Sources that are read again for other elements should stay in the cache, but the longer the
+// run along a plane, the better does the memory keep up. No plane is read twice where all objects share the vector.
+template <Second second, class T>
+int objectsAtOnce(const TabledElements<const T>& b, int count)
+{
+    if (second == Second::vectors && b.isCommon()) return count;
+    return min(count, (second == Second::vectors ? 32768 : 2048) / int{sizeof(T)});
+}
+
+// Whether the objects of an array lie side by side, a plane for each element.
+template <class T>
+bool inPlanes(const TabledElements<T>& elements)
+{
+    return elements.isCommon() || elements.object == sizeof(T);
+}
 
 // The fastest tiles where D has several columns. Where it has one, as many rows as there are.
 template <int n>
@@ -42,7 +62,7 @@ void cover(const A& a, const B& b, const D& d, int columns, int steps, bool cach
 
 // The distance from one pointer of a table to the next, if it is the same for all: bytes.
 template <class T>
-bool evenDistance(const PlaneTable<T>& table, int elements, std::ptrdiff_t& distance)
+bool evenDistance(const TabledElements<T>& table, int elements, std::ptrdiff_t& distance)
 {
     const auto address = [&](int i) { return reinterpret_cast<const char*>(table.pp[i]); };
     distance = address(1) - address(0);
@@ -56,15 +76,16 @@ bool evenDistance(const PlaneTable<T>& table, int elements, std::ptrdiff_t& dist
 template <class T, int n>
 class HeldProduct {
 public:
-    HeldProduct(const PlaneTable<const T>& a, const PlaneTable<const T>& b, const PlaneTable<T>& d, int columns)
-        : planes_(a.isCommon ? transposed(b) : a),
-          d_(a.isCommon ? d : transposed(d)),
-          heldLines_(a.isCommon ? n : columns),
-          lines_(a.isCommon ? columns : n)
+    HeldProduct(const TabledElements<const T>& a, const TabledElements<const T>& b, const TabledElements<T>& d,
+                int columns)
+        : planes_(a.isCommon() ? transposed(b) : a),
+          d_(a.isCommon() ? d : transposed(d)),
+          heldLines_(a.isCommon() ? n : columns),
+          lines_(a.isCommon() ? columns : n)
     {
-        const PlaneTable<const T> held = a.isCommon ? a : transposed(b);
+        const TabledElements<const T> held = a.isCommon() ? a : transposed(b);
         for (int i = 0; i < heldLines_; ++i)
-            for (int k = 0; k < n; ++k) held_[i][k] = T(elementAt(address(held, i, k, 0), 0));
+            for (int k = 0; k < n; ++k) held_[i][k] = T(elementAt(held.plane(i, k), 0));
     }
     void objects(std::ptrdiff_t begin, int steps) const
     {
@@ -78,62 +99,52 @@ public:
     }
 
 private:
-    template <class Element>
-    static PlaneTable<Element> transposed(PlaneTable<Element> table)
-    {
-        std::swap(table.row, table.column);
-        return table;
-    }
     template <int some>
     void someLines(int i, int j, std::ptrdiff_t begin, int steps) const
     {
         const T* planes[n];
         T* d[some];
-        for (int k = 0; k < n; ++k) planes[k] = address(planes_, j, k, begin);
-        for (int r = 0; r < some; ++r) d[r] = address(d_, i + r, j, begin);
+        for (int k = 0; k < n; ++k) planes[k] = advance(planes_.plane(j, k), begin);
+        for (int r = 0; r < some; ++r) d[r] = advance(d_.plane(i + r, j), begin);
         heldTile<T, n, some>(&held_[i], planes, d, steps);
-    }
-    template <class Element>
-    static Element* address(const PlaneTable<Element>& table, int r, int c, std::ptrdiff_t begin)
-    {
-        return advance(table.pp[r * table.row + c * table.column], table.shift + begin);
     }
 
     Lanes<T> held_[n][n];
-    PlaneTable<const T> planes_;
-    PlaneTable<T> d_;
+    TabledElements<const T> planes_;
+    TabledElements<T> d_;
     int heldLines_, lines_;
 };
 
+// Orders 3 to 6, for whole registers of objects. B and D have as many columns as A, or one. Every sum goes from left to
+// right, with the first product as its start value.
 template <class T, int n>
-void products(const PlaneTable<const T>& a, const PlaneTable<const T>& b, const PlaneTable<T>& d, int columns, Run run,
-              int count)
+void squareProducts(const TabledElements<const T>& a, const TabledElements<const T>& b, const TabledElements<T>& d,
+                    int columns, int atOnce, int count)
 {
     constexpr int width = Lanes<T>::width;
-    const int atOnce = objectsAtOnce<T>(run, count);
-    const bool cached = atOnce == count;
     const auto eachRound = [&](const auto& round) {
         for (std::ptrdiff_t first = 0; first < count; first += atOnce)
             round(first * int{sizeof(T)}, static_cast<int>(min<std::ptrdiff_t>(atOnce, count - first)) / width);
     };
-    if (a.isCommon || b.isCommon) {
+    if (a.isCommon() || b.isCommon()) {
         const HeldProduct<T, n> product(a, b, d, columns);
         eachRound([&](std::ptrdiff_t begin, int steps) { product.objects(begin, steps); });
         return;
     }
 
-    std::ptrdiff_t distanceA, distanceB, distanceD;
+    const bool cached = atOnce >= count;
+    std::ptrdiff_t distanceA = 0, distanceB = 0, distanceD = 0;
     const bool even = evenDistance(a, n * n, distanceA) && evenDistance(b, n * columns, distanceB) &&
                       evenDistance(d, n * columns, distanceD);
     eachRound([&](std::ptrdiff_t begin, int steps) {
         if (even) {
-            const auto planes = [&]<class Element>(const PlaneTable<Element>& table, std::ptrdiff_t distance) {
+            const auto planes = [&]<class Element>(const TabledElements<Element>& table, std::ptrdiff_t distance) {
                 return EvenPlanes<Element>{advance(table.pp[0], table.shift + begin), distance * table.row,
                                            distance * table.column};
             };
             cover<T, n>(planes(a, distanceA), planes(b, distanceB), planes(d, distanceD), columns, steps, cached);
         } else {
-            const auto planes = [&]<class Element>(const PlaneTable<Element>& table) {
+            const auto planes = [&]<class Element>(const TabledElements<Element>& table) {
                 return ListedPlanes<Element>{table.pp, table.row, table.column, table.shift + begin};
             };
             cover<T, n>(planes(a), planes(b), planes(d), columns, steps, cached);
@@ -141,23 +152,67 @@ void products(const PlaneTable<const T>& a, const PlaneTable<const T>& b, const 
     });
 }
 
-}  // namespace
-
-template <class T>
-void productsInPlanes(int order, const PlaneTable<const T>& a, const PlaneTable<const T>& b, const PlaneTable<T>& d,
-                      int columns, Run run, int count)
+// Any lengths, for a register of objects. Every sum starts at zero and takes its products in ascending k.
+template <class T, bool commonA, bool commonB>
+void anyLengths(const TabledElements<const T>& a, const TabledElements<const T>& b, const TabledElements<T>& d,
+                Lengths lengths, Outermost outermost, int count)
 {
-    switch (order) {
-    case 3: return products<T, 3>(a, b, d, columns, run, count);
-    case 4: return products<T, 4>(a, b, d, columns, run, count);
-    case 5: return products<T, 5>(a, b, d, columns, run, count);
-    case 6: return products<T, 6>(a, b, d, columns, run, count);
-    }
+    if (outermost == Outermost::columns)
+        return anyLengths<T, commonB, commonA>(transposed(b), transposed(a), transposed(d),
+                                               {lengths.n, lengths.m, lengths.k}, Outermost::rows, count);
+    const auto load = [](auto isCommon, const T* plane, int object) VORM_INLINE_LAMBDA {
+        if constexpr (isCommon)
+            return Lanes<T>(T(elementAt(plane, 0)));
+        else
+            return Lanes<T>::load(plane + object);
+    };
+    for (int object = 0; object < count; object += Lanes<T>::width)
+        for (int i = 0; i < lengths.m; ++i)
+            for (int j = 0; j < lengths.n; ++j) {
+                Lanes<T> sum(0);
+                for (int k = 0; k < lengths.k; ++k)
+                    sum = sum + load(std::bool_constant<commonA>{}, a.plane(i, k), object) *
+                                    load(std::bool_constant<commonB>{}, b.plane(k, j), object);
+                sum.store(d.plane(i, j) + object);
+            }
 }
 
-template void productsInPlanes(int, const PlaneTable<const float>&, const PlaneTable<const float>&,
-                               const PlaneTable<float>&, int, Run, int);
-template void productsInPlanes(int, const PlaneTable<const double>&, const PlaneTable<const double>&,
-                               const PlaneTable<double>&, int, Run, int);
+}  // namespace
 
-}  // namespace vorm
+template <Second second, class T>
+void pointerProducts(const TabledElements<const T>& a, const TabledElements<const T>& b, const TabledElements<T>& d,
+                     Lengths lengths, Outermost outermost, int count)
+{
+    constexpr int width = Lanes<T>::width;
+    int inLanes = 0;
+    const int atOnce = objectsAtOnce<second>(b, count);
+    if (count >= width && inPlanes(a) && inPlanes(b) && inPlanes(d) &&
+        planesApart(d.pp, lengths.m, lengths.n, std::ptrdiff_t{atOnce} * int{sizeof(T)},
+                    std::int64_t{lengths.k} * count)) {
+        inLanes = count / width * width;
+        switch (squareOrder<second>(lengths)) {
+        case 3: squareProducts<T, 3>(a, b, d, lengths.n, min(atOnce, inLanes), inLanes); break;
+        case 4: squareProducts<T, 4>(a, b, d, lengths.n, min(atOnce, inLanes), inLanes); break;
+        case 5: squareProducts<T, 5>(a, b, d, lengths.n, min(atOnce, inLanes), inLanes); break;
+        case 6: squareProducts<T, 6>(a, b, d, lengths.n, min(atOnce, inLanes), inLanes); break;
+        default:
+            if (a.isCommon())
+                anyLengths<T, true, false>(a, b, d, lengths, outermost, inLanes);
+            else if (b.isCommon())
+                anyLengths<T, false, true>(a, b, d, lengths, outermost, inLanes);
+            else
+                anyLengths<T, false, false>(a, b, d, lengths, outermost, inLanes);
+        }
+    }
+    if (inLanes < count) productsAnywhere<second>(a, b, d, lengths, outermost, inLanes, count);
+}
+
+#define VORM_POINTER_PRODUCTS(second, T)                                                                          \
+    template void pointerProducts<Second::second>(const TabledElements<const T>&, const TabledElements<const T>&, \
+                                                  const TabledElements<T>&, Lengths, Outermost, int)
+VORM_POINTER_PRODUCTS(matrices, float);
+VORM_POINTER_PRODUCTS(matrices, double);
+VORM_POINTER_PRODUCTS(vectors, float);
+VORM_POINTER_PRODUCTS(vectors, double);
+
+}  // namespace vorm::products

@@ -4,7 +4,7 @@
 
 #include "products/vector_shared.hpp"
 
-namespace vorm {
+namespace vorm::products {
 
 // A matrix for each object. ------------------------------------------------------------------------------
 
@@ -183,4 +183,4 @@ VORM_INLINE void fixedProducts(const A& a, const X& x, const D& y, int count)
     }
 }
 
-}  // namespace vorm
+}  // namespace vorm::products

@@ -18,7 +18,7 @@
 #include "frame/unrolled.hpp"
 #include "products/dots.hpp"
 
-namespace vorm {
+namespace vorm::products {
 
 // Calls body(integral_constant<int, count>) for a count from 1 to most.
 template <int most, class Body>
@@ -138,7 +138,7 @@ VORM_INLINE void columnStrip(const T* a, int stride1, const T* x, T* y, int i, i
 }
 
 template <class T>
-[[gnu::noinline]] void generalProductTurned(const T* a, int stride1, const T* x, T* y, int rows, int terms)
+[[gnu::noinline]] void generalProductTransposed(const T* a, int stride1, const T* x, T* y, int rows, int terms)
 {
     const int paired = rows % 8 == 1 || rows % 8 == 2 ? rows % 8 : 0;
     columnStrip<RunningSums>(a, stride1, x, y, 0, rows - paired, terms);
@@ -159,7 +159,7 @@ template <class T>
 }
 
 template <class T>
-[[gnu::noinline]] void generalProductOfArrayTurned(const T* a, int stride1, const T* x, T* y, int rows, int terms)
+[[gnu::noinline]] void generalProductOfArrayTransposed(const T* a, int stride1, const T* x, T* y, int rows, int terms)
 {
     columnStrip<FoldedSums>(a, stride1, x, y, 0, rows, terms);
 }
@@ -204,4 +204,4 @@ VORM_INLINE void runningProducts(const A& a, const X& x, const D& y, int rows, i
     }
 }
 
-}  // namespace vorm
+}  // namespace vorm::products

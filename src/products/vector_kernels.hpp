@@ -2,13 +2,13 @@
 // views its operands are.
 #pragma once
 
-#include "products/planes.hpp"
+#include "products/anywhere.hpp"
+#include "products/paths.hpp"
 #include "products/vector_fixed.hpp"
-#include "products/vector_forms.hpp"
 #include "products/vector_general.hpp"
 #include "vorm/status.h"
 
-namespace vorm {
+namespace vorm::products {
 
 // Calls body(integral_constant<int, n>) for a square matrix of order n from 3 to 6; false for any other.
 template <class Body>
@@ -33,7 +33,7 @@ VORM_INLINE VormStatus contiguousProduct(const A& src1, const X& x, const D& y, 
     });
     if (done) return StatusOk;
     if constexpr (Form::isTransposed)
-        generalProductTurned(src1.p, src1.stride1, x.p, y.p, width, height);
+        generalProductTransposed(src1.p, src1.stride1, x.p, y.p, width, height);
     else
         generalProduct(src1.p, src1.stride1, x.p, y.p, height, width);
     return StatusOk;
@@ -58,7 +58,7 @@ VORM_INLINE VormStatus contiguousProducts(const A& src1, const X& x, const D& y,
             if constexpr (bodies == Bodies::none)
                 columnStrip<RunningSums>(matrix, src1.stride1, x.object(n), y.object(n), 0, rows, terms);
             else if constexpr (Form::isTransposed)
-                generalProductOfArrayTurned(matrix, src1.stride1, x.object(n), y.object(n), rows, terms);
+                generalProductOfArrayTransposed(matrix, src1.stride1, x.object(n), y.object(n), rows, terms);
             else
                 generalProductOfArray(matrix, src1.stride1, x.object(n), y.object(n), rows, terms);
         }
@@ -68,42 +68,37 @@ VORM_INLINE VormStatus contiguousProducts(const A& src1, const X& x, const D& y,
 
 // Elements anywhere: the _S2 and _P kernels. ------------------------------------------------------------
 
-// Every sum starts at zero and takes its products in ascending k.
-template <class T, class Number, class A, class X, class D>
-VORM_INLINE void generalProductAnywhere(const A& a, const X& x, const D& y, int rows, int terms, int object)
+// One product is done where it is called, since that takes less time than to say where the elements lie.
+template <class T, class A, class X, class D>
+VORM_INLINE void productAnywhere(const A& a, const X& x, const D& y, int rows, int terms)
 {
+    const bool done =
+        withOrder(rows, terms, [&](auto n) VORM_INLINE_LAMBDA { scatteredProducts<T, n>(a, x, y, 0, 1); });
+    if (done) return;
     for (int i = 0; i < rows; ++i) {
-        Number sum(0);
-        for (int k = 0; k < terms; ++k)
-            sum = sum + loadPlane<Number>(a, object, i, k) * loadPlane<Number>(x, object, k);
-        storePlane(sum, y, object, i);
+        T sum(0);
+        for (int k = 0; k < terms; ++k) sum += a(0, i, k) * x(0, k);
+        y(0, i) = sum;
     }
 }
 
 template <class T, class A, class X, class D>
 VORM_INLINE VormStatus productsAnywhere(const A& a, const X& x, const D& y, int rows, int terms, int first, int count)
 {
-    const bool done =
-        withOrder(rows, terms, [&](auto n) VORM_INLINE_LAMBDA { scatteredProducts<T, n>(a, x, y, first, count); });
-    if (done) return StatusOk;
-    for (int n = first; n < count; ++n) generalProductAnywhere<T, T>(a, x, y, rows, terms, n);
+    if constexpr (D::isCommon)
+        productAnywhere<T>(a, x, y, rows, terms);
+    else
+        productsAnywhere<Second::vectors>(elementsOf(a), elementsOf(x), elementsOf(y), {rows, 1, terms},
+                                          Outermost::rows, first, count);
     return StatusOk;
 }
 
 template <class T, class A, class X, class D>
 VORM_INLINE VormStatus pointerProducts(const A& a, const X& x, const D& y, int rows, int terms, int count)
 {
-    constexpr int width = Lanes<T>::width;
-    constexpr Run run = X::isCommon ? Run::whole : Run::vectors;
-    int inLanes = 0;
-    if (count >= width && inPlanes(a) && inPlanes(x) && inPlanes(y) && planesApart(y, rows, 1, terms, run, count)) {
-        inLanes = count / width * width;
-        if (rows == terms && rows >= 3 && rows <= 6)
-            productsInPlanes<T>(rows, planeTable(a), planeTable(x), planeTable(y), 1, run, inLanes);
-        else
-            for (int n = 0; n < inLanes; n += width) generalProductAnywhere<T, Lanes<T>>(a, x, y, rows, terms, n);
-    }
-    return productsAnywhere<T>(a, x, y, rows, terms, inLanes, count);
+    pointerProducts<Second::vectors>(elementsOf(a), elementsOf(x), elementsOf(y), {rows, 1, terms}, Outermost::rows,
+                                     count);
+    return StatusOk;
 }
 
-}  // namespace vorm
+}  // namespace vorm::products

@@ -6,7 +6,7 @@
 #include "frame/object_lanes.hpp"
 #include "products/vector_sums.hpp"
 
-namespace vorm {
+namespace vorm::products {
 
 // Its columns, as whole registers of rows, and the elements of the last row, each in all lanes.
 template <class T, int n>
@@ -249,4 +249,4 @@ requires(sizeof(T) == sizeof(double)) VORM_INLINE int productsOfCommon(const A& 
     }
 }
 
-}  // namespace vorm
+}  // namespace vorm::products

@@ -10,7 +10,7 @@
 #include "frame/small_vector.hpp"
 #include "frame/unrolled.hpp"
 
-namespace vorm {
+namespace vorm::products {
 
 // What a sum starts with: the first product, or zero as in the general path. A sum of negative zeros
 // shows the difference.
@@ -145,4 +145,4 @@ VORM_INLINE Lanes<float> loadRowOfThree(const float* row)
         return Lanes<float>::load(row);
 }
 
-}  // namespace vorm
+}  // namespace vorm::products

@@ -1,9 +1,10 @@
 // vormMul_mama: the kernels for contiguous elements, single precision.
 
-#include "products/mama.hpp"
 #include "products/matrix_calls.hpp"
+#include "products/shapes/mama.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 

@@ -4,6 +4,7 @@
 #include "products/matrix_fixed.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 
@@ -16,7 +17,7 @@ VormStatus n8_vormMul_mm4x4_32f(const float* pSrc1, const float* pSrc2, float* p
     using Operand = Matrix<const float, Adjacent>;
     const Factors<float, 4, Operand> a{{pSrc1, stride1, adjacent}};
     const Rows<float, 4, Operand> b{{pSrc2, stride1, adjacent}};
-    tile<float, 4, Order::leftToRight, 0, 4, 0, 1>(a, b, Matrix{pDst, stride1, adjacent}, 0);
+    tile<float, 4, Order::leftToRight, 0, 4, 0, 1>(a, b, Matrix{pDst, stride1, adjacent});
     return StatusOk;
 }
 }

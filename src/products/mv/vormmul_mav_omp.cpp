@@ -1,9 +1,10 @@
 // vormMul_mav: team-parallel drivers.
 
 #include "frame/driver.hpp"
-#include "products/mav.hpp"
+#include "products/shapes/mav.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 

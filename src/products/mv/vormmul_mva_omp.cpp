@@ -1,9 +1,10 @@
 // vormMul_mva: team-parallel drivers.
 
 #include "frame/driver.hpp"
-#include "products/mva.hpp"
+#include "products/shapes/mva.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 

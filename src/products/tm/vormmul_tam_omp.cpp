@@ -1,9 +1,10 @@
 // vormMul_tam: team-parallel drivers.
 
 #include "frame/driver.hpp"
-#include "products/mam.hpp"
+#include "products/shapes/mam.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 

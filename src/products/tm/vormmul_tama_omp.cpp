@@ -1,9 +1,10 @@
 // vormMul_tama: team-parallel drivers.
 
 #include "frame/driver.hpp"
-#include "products/mama.hpp"
+#include "products/shapes/mama.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 

@@ -1,8 +1,9 @@
 // vormMul_tt: the kernel for contiguous elements, double precision.
 
-#include "products/mm.hpp"
+#include "products/shapes/mm.hpp"
 
 using namespace vorm;
+using namespace vorm::products;
 
 extern "C" {
 

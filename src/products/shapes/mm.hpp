@@ -13,7 +13,7 @@
         int src2Width, int src2Height, T *const *ppDst, int dstShift
 #define MM_ARGS_P ppSrc1, src1Shift, src1Width, src1Height, ppSrc2, src2Shift, src2Width, src2Height, ppDst, dstShift
 
-namespace vorm {
+namespace vorm::products {
 
 template <class Kind, class T>
 VORM_INLINE auto mm(MM_PARAMS(T))
@@ -37,8 +37,9 @@ VORM_INLINE auto mmP(MM_PARAMS_P(T))
 template <class Kind, int n, Order order, class T>
 [[gnu::noinline]] VormStatus mmFixed(MM_PARAMS(T))
 {
-    products<T, n, order>(Kind::first(Matrix{pSrc1, src1Stride1, adjacent}),
-                          Kind::second(Matrix{pSrc2, src2Stride1, adjacent}), Matrix{pDst, dstStride1, adjacent}, 0, 1);
+    squareProducts<T, n, order>(Kind::first(Matrix{pSrc1, src1Stride1, adjacent}),
+                                Kind::second(Matrix{pSrc2, src2Stride1, adjacent}), Matrix{pDst, dstStride1, adjacent},
+                                0, 1);
     return StatusOk;
 }
 
@@ -61,4 +62,4 @@ VORM_INLINE VormStatus mmContiguous(MM_PARAMS(T))
     return mmSquare<Kind, bodies>(MM_ARGS);
 }
 
-}  // namespace vorm
+}  // namespace vorm::products

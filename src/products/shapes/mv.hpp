@@ -14,7 +14,7 @@
         int src2Len, T *const *ppDst, int dstShift
 #define MV_ARGS_P ppSrc1, src1Shift, src1Width, src1Height, ppSrc2, src2Shift, src2Len, ppDst, dstShift
 
-namespace vorm {
+namespace vorm::products {
 
 template <class As, class T>
 VORM_INLINE auto mv(MV_PARAMS(T))
@@ -31,4 +31,4 @@ VORM_INLINE auto mvP(MV_PARAMS_P(T))
                      Fit{As::columns(src1Width, src1Height), src2Len});
 }
 
-}  // namespace vorm
+}  // namespace vorm::products
