@@ -58,6 +58,14 @@ int someSize(Random& random)
     return chance(random, 60) ? pick(random, 3, 6) : sizes[pick(random, 0, 12)];
 }
 
+// So many objects that the work of a call pays for a team, some hundred microseconds.
+int largeCount(const Function& f, const Sizes& s)
+{
+    const bool isCubic = !f.isProduct() && f.operands[0].kind == 'm';
+    const int steps = f.isProduct() ? s.rows * s.columns * s.terms : isCubic ? s.rows * s.rows * s.rows : s.columns;
+    return std::max(20, 400000 / (steps + 5));
+}
+
 // Where a team's chunks begin shows in what failing objects leave, so the numbers of threads are part of it.
 std::uint64_t digestOf(const Function& f)
 {
@@ -75,10 +83,9 @@ std::uint64_t digestOf(const Function& f)
             p.threads = call == 0 ? 3 : teams[pick(random, 0, 5)];
             // Results that overlap each other are written in ascending order on one thread; not in sums of
             // vectors, in which older builds of the library differ there.
-            if (!p.inPlace && f.family != "Add" && f.family != "Sub" && chance(random, 10)) {
+            if (f.family != "Add" && f.family != "Sub" && chance(random, 15)) {
                 p.threads = 1;
-                Lie& lie = p.lies[f.operandNamed("dst")];
-                lie.overlapping = pick(random, 1, 3), lie.planes = false;
+                letResultsOverlap(f, p, pick(random, f.layout == "P" ? 0 : 1, 4), random);
             }
             if (familyOf(f) && familyOf(f)->spoil && chance(random, 25)) p.failing = {pick(random, 0, p.count - 1)};
         }

@@ -38,7 +38,7 @@ TEST(Calls, Parts)
     static int rows[30];
     float* const p = memory;
     const auto call = [&](const float* src, int stride0, int stride2, int len, int other, int count) {
-        return arrayCallOf<float>(workOf(7, 3), count, VectorArray{src, stride0, stride2}, ObjectTable{rows, 5},
+        return arrayCallOf<float>(workOf(7, 3, len), count, VectorArray{src, stride0, stride2}, ObjectTable{rows, 5},
                                   Transposed{MatrixArray{p, 40, 20, 4}}, Size{len}, Fit{len, other});
     };
     EXPECT_EQ(tested(call(p, 12, 4, 3, 3, 2)), StatusOk);

@@ -161,11 +161,15 @@ Problem someProblem(const Function& f, const Sizes& sizes, Random& random)
     return p;
 }
 
-int largeCount(const Function& f, const Sizes& s)
+void letResultsOverlap(const Function& f, Problem& p, int way, Random& random)
 {
-    const bool isCubic = !f.isProduct() && f.operands[0].kind == 'm';
-    const int steps = f.isProduct() ? s.rows * s.columns * s.terms : isCubic ? s.rows * s.rows * s.rows : s.columns;
-    return std::max(20, 400000 / (steps + 5));
+    Lie& lie = p.lies[f.operandNamed("dst")];
+    p.inPlace = false, lie.planes = way == 0;
+    if (way == 0) lie.padObject = -pick(random, 0, p.count - 1);  // planes share memory
+    if (way == 1) lie.overlapping = pick(random, 1, 3);
+    if (way == 2) lie.overlapping = p.sizes.columns * lie.gap2 + lie.padRow;  // by whole rows
+    if (way == 3) lie.interleaved = 1, lie.among = pick(random, 2, 4);
+    if (way == 4) lie.isRepeated = true;  // objects that are no neighbours
 }
 
 namespace {

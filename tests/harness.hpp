@@ -77,8 +77,8 @@ private:
 // A problem of a function with all that may vary in it drawn by lot, but for its sizes, count and threads.
 Problem someProblem(const Function& f, const Sizes& sizes, Random& random);
 
-// So many objects that the work of a call pays for a team anywhere, some hundred microseconds.
-int largeCount(const Function& f, const Sizes& sizes);
+// Lets the objects of the destination share memory, in one of the ways 1 to 4, in pointer layout from 0 on.
+void letResultsOverlap(const Function& f, Problem& p, int way, Random& random);
 
 // Makes the call beside the model of its family; all that it may touch has to be as the model left it, and
 // the core library asked as often as its limit says. Returns what is wrong, nothing where all is well.

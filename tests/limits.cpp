@@ -11,7 +11,7 @@ struct Work {
     std::uint32_t m, n, k, count;
 };
 
-// The first measures for which the driver runs.
+// The first measures for which the driver runs; 0 where there is none.
 struct From {
     int standard32f, standard64f, list, pointers;
     int anyStride = 0;  // standard and list layout, 0 where contiguity changes nothing
@@ -77,5 +77,5 @@ Limit limitOf(const Function& f, const Sizes& s, int count, bool isContiguous)
                      : f.layout == "L"                     ? row.from.list
                      : f.type == "32f"                     ? row.from.standard32f
                                                            : row.from.standard64f;
-    return {static_cast<std::int32_t>(measure), from};
+    return {static_cast<std::int32_t>(measure), from ? from : INT32_MAX};
 }

@@ -1,5 +1,5 @@
-// LU decomposition and substitution: thresholds and pivots known without a model, and solutions by residuals,
-// with LAPACK as an independent opinion on the factors.
+// LU decomposition and substitution without the models: solutions by residuals, and LAPACK as an independent
+// opinion on the factors.
 
 #include <gtest/gtest.h>
 #include <lapacke.h>
@@ -25,52 +25,6 @@ struct Functions<double> {
     static constexpr auto substitute = vormLUBackSubst_mv_64f;
     static constexpr auto theirs = LAPACKE_dgetrf;
 };
-
-// The two thresholds, absolute and deliberately unlike.
-template <class T>
-void checkThresholds(T small, T epsilon)
-{
-    constexpr int e = sizeof(T);
-    for (int order = 1; order <= 8; ++order)
-        for (int column = 0; column < order; ++column) {
-            const auto statusOf = [&](T pivot) {
-                std::vector<T> a(std::size_t(order * order)), lu = a;
-                std::vector<int> rows(static_cast<std::size_t>(order));
-                for (int k = 0; k < order; ++k) a[std::size_t(k * order + k)] = k == column ? pivot : T(1);
-                return Functions<T>::decompose(a.data(), order * e, e, rows.data(), lu.data(), order * e, e, order);
-            };
-            const VormStatus tiny = order >= 3 && order <= 6 ? StatusOk : StatusSingular;
-            EXPECT_EQ(statusOf(small), tiny);
-            EXPECT_EQ(statusOf(std::nextafter(small, T(0))), StatusSingular);
-            EXPECT_EQ(statusOf(-epsilon), tiny);
-            EXPECT_EQ(statusOf(std::nextafter(epsilon, T(1))), StatusOk);
-            EXPECT_EQ(statusOf(std::numeric_limits<T>::quiet_NaN()), StatusOk);
-        }
-}
-
-TEST(Lu, Thresholds)
-{
-    checkThresholds(0x1p-125f, 0x1p-23f);
-    checkThresholds(0x1p-1021, 0x1p-52);
-}
-
-// The first of equal magnitudes; NaN neither displaces nor is displaced.
-TEST(Lu, Pivots)
-{
-    const float nan = std::numeric_limits<float>::quiet_NaN();
-    const float matrices[][9] = {{1, 5, 2, -1, 3, 4, 1, 2, 7},  {1, 0, 0, -2, 1, 0, 2, 0, 1},
-                                 {nan, 1, 1, 2, 1, 0, 1, 0, 1}, {1, 1, 1, nan, 1, 0, 2, 0, 1},
-                                 {0, 0, 1, 0, 1, 0, 1, 0, 0},   {0, 0, 0, 0, 0, 0, 0, 0, 0}};
-    const int expected[][3] = {{0, 1, 2}, {1, 2, 0}, {0, 1, 2}, {2, 1, 0}, {2, 1, 0}, {0, 1, 2}};
-    float factors[6][9];
-    int rows[6][3];
-    std::fill_n(&factors[0][0], 54, -7.f);
-    EXPECT_EQ(vormLUDecomp_ma_32f(matrices[0], 36, 12, 4, rows[0], factors[0], 36, 12, 4, 3, 6), StatusSingular);
-    for (int n : {0, 2, 3, 4, 5})
-        for (int k = 0; k < 3; ++k) EXPECT_EQ(rows[n][k], expected[n][k]) << "object " << n;
-    EXPECT_EQ(rows[1][0], expected[1][0]);
-    EXPECT_EQ(std::count(factors[5], factors[5] + 9, -7.f), 9);  // nothing passed
-}
 
 // max |A x - b| over n eps (max |A| sum |x|), in higher precision. LAPACK orders the rows in the same way
 // unless magnitudes are nearly equal, and then has nearly the same factors.

@@ -42,6 +42,7 @@ inline double uniform(Random& random, double low, double high)
 template <class Items>
 void shuffle(Items& items, Random& random)
 {
+    if (chance(random, 30)) return std::reverse(items.begin(), items.end());
     for (std::size_t i = items.size(); i > 1; --i) std::swap(items[i - 1], items[random() % i]);
 }
 
@@ -107,13 +108,13 @@ struct Lie {
     int gap2 = 1;                             // stride2 in elements
     int padRow = 0, padObject = 0, slot = 0;  // elements behind rows and objects; objects at multiples of slot bytes
     bool planes = false;                      // pointer layout: a plane for each element, objects side by side
-    bool shuffled = false;                    // the order of a list's objects or of a table's planes or elements
-    int overlapping = 0;                      // objects so few elements apart, 0 for a place of their own
-    int interleaved = 0;                      // objects so many rows apart, all of them between two rows of one,
-    int among = 0;                            // or only so many, which then overlap
-    bool isRepeated = false;                  // list: some objects are the same one
-    bool atFront = false;                     // against the page before
-    int misaligned = 0;                       // bytes between the operand and its page
+    bool shuffled = false;    // a list's objects or a table's planes or elements in any order, or reversed
+    int overlapping = 0;      // objects so few elements apart, 0 for a place of their own
+    int interleaved = 0;      // objects so many rows apart, all of them between two rows of one,
+    int among = 0;            // or only so many, which then overlap
+    bool isRepeated = false;  // list: some objects are the same one
+    bool atFront = false;     // against the page before
+    int misaligned = 0;       // bytes between the operand and its page
     int shift = 0;
     Far far = Far::nothing;
 };

@@ -66,8 +66,7 @@ TEST_P(AllFamilies, Teams)
             for (int repeat = 0; repeat < 6; ++repeat) {
                 const Sizes& s = sizes[random() % sizes.size()];
                 Problem p = someProblem(*f, s, random);
-                const bool isLarge = repeat == 0 && threads < 8;
-                p.count = isLarge ? largeCount(*f, s) : std::max(countOfDriver(*f, s), threads) + pick(random, 0, 3);
+                p.count = std::max(countOfDriver(*f, s), threads) + pick(random, 0, 3);
                 p.threads = threads;
                 expectModel(*f, p);
                 if (HasFatalFailure()) return;
@@ -82,15 +81,8 @@ TEST_P(AllFamilies, OverlappingResults)
         for (const Sizes& s : sizesOf(*f, 13))
             for (int way = f->layout == "P" ? 0 : 1; way <= 4; ++way) {
                 Problem p = someProblem(*f, s, random);
-                p.inPlace = false;
                 p.count = pick(random, 5, 19);
-                Lie& lie = p.lies[f->operandNamed("dst")];
-                lie.planes = way == 0;
-                if (way == 0) lie.padObject = -pick(random, 1, p.count - 1);  // planes share memory
-                if (way == 1) lie.overlapping = pick(random, 1, 3);
-                if (way == 2) lie.overlapping = s.columns * lie.gap2 + lie.padRow;  // by whole rows
-                if (way == 3) lie.interleaved = 1, lie.among = pick(random, 2, 4);
-                if (way == 4) lie.isRepeated = true;  // objects that are no neighbours
+                letResultsOverlap(*f, p, way, random);
                 expectModel(*f, p);
                 if (HasFatalFailure()) return;
             }

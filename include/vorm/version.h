@@ -13,14 +13,14 @@ typedef struct VersionRecord {
     int versionUpdate;
     int revision;               /* source revision of the build                            */
     char targetCode[4];         /* "n8" or "u8", padded with NUL bytes                     */
-    const char *libraryLabel;   /* library and target, NUL-terminated like the other texts */
-    const char *versionLabel;   /* version and revision                                    */
-    const char *buildDateLabel; /* date of the build                                       */
+    const char* libraryLabel;   /* library and target, NUL-terminated like the other texts */
+    const char* versionLabel;   /* version and revision                                    */
+    const char* buildDateLabel; /* date of the build                                       */
 } VersionRecord;
 
 /* The record of the target chosen when the library was loaded: "n8" on processors with SSSE3 and
  * SSE4.1, "u8" otherwise. Both run the same arithmetic. Never null, the same address every time. */
-const VersionRecord *vormGetLibVersion(void);
+const VersionRecord* vormGetLibVersion(void);
 
 #ifdef __cplusplus
 }

@@ -13,9 +13,9 @@ extern "C" {
 
 #define VORM_FUNCTION(name, parameters) VormStatus name parameters;
 #include "vorm/elementwise.inc"
-#include "vorm/products.inc"
 #include "vorm/factor.inc"
 #include "vorm/math3d.inc"
+#include "vorm/products.inc"
 #undef VORM_FUNCTION
 
 #ifdef __cplusplus

@@ -16,14 +16,24 @@ struct Along {
     {
         return loadFirst<Count>(p + i);
     }
+    template <class L>
+    VORM_INLINE L lanes(std::ptrdiff_t i) const
+    {
+        return L::load(p + i);
+    }
 };
 template <class T>
 struct Everywhere {
-    Lanes<T> value;
+    Wide<T> value;
     template <int Count = Lanes<T>::width>
     VORM_INLINE Lanes<T> lanes(std::ptrdiff_t) const
     {
-        return value;
+        return firstLanes<Lanes<T>>(value);
+    }
+    template <class L>
+    VORM_INLINE L lanes(std::ptrdiff_t) const
+    {
+        return firstLanes<L>(value);
     }
 };
 
@@ -43,24 +53,18 @@ VORM_INLINE void runTail(A a, B b, T* dst, std::ptrdiff_t i, std::ptrdiff_t leng
 template <class Op, class A, class B, class T>
 VORM_INLINE void run(A a, B b, T* dst, std::ptrdiff_t length)
 {
-    constexpr int width = Lanes<T>::width;
+    constexpr int width = Wide<T>::width;
     std::ptrdiff_t i = 0;
+    const auto one = [&]<class L>(L, std::ptrdiff_t at) VORM_INLINE_LAMBDA {
+        Op::apply(a.template lanes<L>(at), b.template lanes<L>(at)).store(dst + at);
+    };
     // Each register is stored before the next is loaded: faster here than four loads, then four stores.
     for (; i + 4 * width <= length; i += 4 * width)
-        for (int k = 0; k < 4; ++k)
-            Op::apply(a.lanes(i + k * width), b.lanes(i + k * width)).store(dst + i + k * width);
-    for (; i + width <= length; i += width) Op::apply(a.lanes(i), b.lanes(i)).store(dst + i);
+        for (int k = 0; k < 4; ++k) one(Wide<T>(), i + k * width);
+    for (; i + width <= length; i += width) one(Wide<T>(), i);
+    if constexpr (width > Lanes<T>::width)
+        for (; i + Lanes<T>::width <= length; i += Lanes<T>::width) one(Lanes<T>(), i);
     runTail<Op>(a, b, dst, i, length);
-}
-
-// Whether a run gives what a loop over ascending elements would: no element of the source may be
-// stored after the run has loaded it but before the loop would have read it, which could only happen
-// within a register.
-template <class T>
-VORM_INLINE bool runsAsLoop(const T* src, const T* dst)
-{
-    const auto ahead = reinterpret_cast<std::uintptr_t>(dst) - reinterpret_cast<std::uintptr_t>(src);
-    return ahead - 1 >= sizeof(Lanes<T>) - 1;  // 0 and everything behind the source wrap to large values
 }
 
 }  // namespace vorm::elementwise

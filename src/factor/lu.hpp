@@ -26,7 +26,7 @@ VORM_INLINE VormStatus luObjects(const Src& src, const Dst& dst, int first, int*
 {
     LuBlock<n, Number> lu;
     // Two lanes of even orders are rather stored one by one, where their rows belong.
-    constexpr bool rowsStay = isInPlanes<Dst> && (objectsIn<Number> > 2 || n % 2 == 1);
+    constexpr bool rowsStay = isInPlanes<Dst> && (objectsIn < Number >> 2 || n % 2 == 1);
     // Or the loop keeps more addresses than there are registers.
     if constexpr (isInPlanes<Dst> && !rowsStay) first = opaque(first);
     loadMatrices(src, first, lu.a);

@@ -57,11 +57,14 @@ namespace vorm::factor {
 constexpr int sameRows = 0;
 
 // (2 count + order) order and (order + 2) order count
-constexpr Work luMvaWork(int order, int count)
+constexpr Work luMvaWork(int order, int count, int picoseconds)
 {
-    return workOf(wrapMul(wrapAdd(wrapMul(2, count), order), order), 1000);
+    return workOf(wrapMul(wrapAdd(wrapMul(2, count), order), order), picoseconds, order, order, count);
 }
-constexpr Work luMavaWork(int order, int count) { return workOf(wrapMul(wrapAdd(order, 2), order, count), 1000); }
+constexpr Work luMavaWork(int order, int count, int picoseconds)
+{
+    return workOf(wrapMul(wrapAdd(order, 2), order, count), picoseconds, order, order, count);
+}
 
 template <class T>
 VORM_INLINE auto luMv(LU_MV_PARAMS(T))
@@ -79,43 +82,46 @@ VORM_INLINE auto luMvP(LU_MV_PARAMS_P(T))
 template <class T>
 VORM_INLINE auto luMva(LU_MVA_PARAMS(T))
 {
-    return arrayCallOf<T>(luMvaWork(order, count), count, Matrix{src, srcStride1, srcStride2},
+    return arrayCallOf<T>(luMvaWork(order, count, byType<T>(93, 142)), count, Matrix{src, srcStride1, srcStride2},
                           ObjectTable{pivotIndex, sameRows}, VectorArray{src2, src2Stride0, src2Stride2},
                           VectorArray{dst, dstStride0, dstStride2}, Size{order});
 }
 template <class T>
 VORM_INLINE auto luMvaL(LU_MVA_PARAMS_L(T))
 {
-    return arrayCallOf<T>(luMvaWork(order, count), count, Matrix{src, srcStride1, srcStride2},
+    return arrayCallOf<T>(luMvaWork(order, count, byType<T>(110, 158)), count, Matrix{src, srcStride1, srcStride2},
                           ObjectTable{pivotIndex, sameRows}, VectorList{src2List, src2Shift, src2Stride2},
                           VectorList{dstList, dstShift, dstStride2}, Size{order});
 }
 template <class T>
 VORM_INLINE auto luMvaP(LU_MVA_PARAMS_P(T))
 {
-    return arrayCallOf<T>(luMvaWork(order, count), count, MatrixPointers{srcPointers, srcShift, order},
-                          ObjectTable{pivotIndex, sameRows}, VectorArrayPointers{src2Pointers, src2Shift, src2Stride0},
+    return arrayCallOf<T>(luMvaWork(order, count, byType<T>(60, 120)), count,
+                          MatrixPointers{srcPointers, srcShift, order}, ObjectTable{pivotIndex, sameRows},
+                          VectorArrayPointers{src2Pointers, src2Shift, src2Stride0},
                           VectorArrayPointers{dstPointers, dstShift, dstStride0}, Size{order});
 }
 
 template <class T>
 VORM_INLINE auto luMava(LU_MAVA_PARAMS(T))
 {
-    return arrayCallOf<T>(luMavaWork(order, count), count, MatrixArray{src, srcStride0, srcStride1, srcStride2},
-                          ObjectTable{pivotIndex, order}, VectorArray{src2, src2Stride0, src2Stride2},
-                          VectorArray{dst, dstStride0, dstStride2}, Size{order});
+    return arrayCallOf<T>(luMavaWork(order, count, byType<T>(270, 380)), count,
+                          MatrixArray{src, srcStride0, srcStride1, srcStride2}, ObjectTable{pivotIndex, order},
+                          VectorArray{src2, src2Stride0, src2Stride2}, VectorArray{dst, dstStride0, dstStride2},
+                          Size{order});
 }
 template <class T>
 VORM_INLINE auto luMavaL(LU_MAVA_PARAMS_L(T))
 {
-    return arrayCallOf<T>(luMavaWork(order, count), count, MatrixList{srcList, srcShift, srcStride1, srcStride2},
-                          ObjectTable{pivotIndex, order}, VectorList{src2List, src2Shift, src2Stride2},
-                          VectorList{dstList, dstShift, dstStride2}, Size{order});
+    return arrayCallOf<T>(luMavaWork(order, count, byType<T>(290, 420)), count,
+                          MatrixList{srcList, srcShift, srcStride1, srcStride2}, ObjectTable{pivotIndex, order},
+                          VectorList{src2List, src2Shift, src2Stride2}, VectorList{dstList, dstShift, dstStride2},
+                          Size{order});
 }
 template <class T>
 VORM_INLINE auto luMavaP(LU_MAVA_PARAMS_P(T))
 {
-    return arrayCallOf<T>(luMavaWork(order, count), count,
+    return arrayCallOf<T>(luMavaWork(order, count, byType<T>(360, 540)), count,
                           MatrixArrayPointers{srcPointers, srcShift, srcStride0, order}, ObjectTable{pivotIndex, order},
                           VectorArrayPointers{src2Pointers, src2Shift, src2Stride0},
                           VectorArrayPointers{dstPointers, dstShift, dstStride0}, Size{order});

@@ -204,16 +204,29 @@ void luSubstituteBuffered(const Factor* lu, Number* x, int n)
 LU_SUBSTITUTES(float)
 LU_SUBSTITUTES(double)
 
-#define LU_BLOCKS(n, T)                                  \
-    template int luFactorise<false>(LuBlock<n, T> & lu); \
-    template int luFactorise<false>(LuBlock<n, Lanes<T>> & lu);
-#define LU_BLOCKS_OF_TYPE(T) LU_BLOCKS(3, T) LU_BLOCKS(4, T) LU_BLOCKS(5, T) LU_BLOCKS(6, T)
+#define LU_FACTORISE(rowsStay, n, Number) template int luFactorise<rowsStay>(LuBlock<n, Number> & lu);
+#define LU_BLOCKS(n)                      \
+    LU_FACTORISE(false, n, float)         \
+    LU_FACTORISE(false, n, double)        \
+    LU_FACTORISE(false, n, Lanes<float>)  \
+    LU_FACTORISE(false, n, Lanes<double>) \
+    LU_WIDE_BLOCKS(n)
+#ifdef VORM_WIDER_REGISTERS
+#define LU_WIDE_BLOCKS(n)                \
+    LU_FACTORISE(false, n, Wide<float>)  \
+    LU_FACTORISE(false, n, Wide<double>) \
+    LU_FACTORISE(true, n, Wide<float>)   \
+    LU_FACTORISE(true, n, Wide<double>)
+#else
+#define LU_WIDE_BLOCKS(n)
+#endif
 
-LU_BLOCKS_OF_TYPE(float)
-LU_BLOCKS_OF_TYPE(double)
-
-template int luFactorise<true>(LuBlock<5, Lanes<float>>& lu);
-template int luFactorise<true>(LuBlock<5, Lanes<double>>& lu);
-template int luFactorise<true>(LuBlock<6, Lanes<float>>& lu);
+LU_BLOCKS(3)
+LU_BLOCKS(4)
+LU_BLOCKS(5)
+LU_BLOCKS(6)
+LU_FACTORISE(true, 5, Lanes<float>)
+LU_FACTORISE(true, 5, Lanes<double>)
+LU_FACTORISE(true, 6, Lanes<float>)
 
 }  // namespace vorm::factor

@@ -30,7 +30,10 @@
 namespace vorm::factor {
 
 // order order count
-constexpr Work luDecompWork(int order, int count) { return workOf(wrapMul(order, order, count), 1000); }
+constexpr Work luDecompWork(int order, int count, int picoseconds)
+{
+    return workOf(wrapMul(order, order, count), picoseconds, order, order, count);
+}
 
 template <class T>
 VORM_INLINE auto luDecompM(LU_DECOMP_M_PARAMS(T))
@@ -47,21 +50,21 @@ VORM_INLINE auto luDecompMP(LU_DECOMP_M_PARAMS_P(T))
 template <class T>
 VORM_INLINE auto luDecompMa(LU_DECOMP_MA_PARAMS(T))
 {
-    return arrayCallOf<T>(luDecompWork(order, count), count, MatrixArray{src, srcStride0, srcStride1, srcStride2},
-                          ObjectTable{pivotIndex, order}, MatrixArray{dst, dstStride0, dstStride1, dstStride2},
-                          Size{order});
+    return arrayCallOf<T>(luDecompWork(order, count, byType<T>(680, 1100)), count,
+                          MatrixArray{src, srcStride0, srcStride1, srcStride2}, ObjectTable{pivotIndex, order},
+                          MatrixArray{dst, dstStride0, dstStride1, dstStride2}, Size{order});
 }
 template <class T>
 VORM_INLINE auto luDecompMaL(LU_DECOMP_MA_PARAMS_L(T))
 {
-    return arrayCallOf<T>(luDecompWork(order, count), count, MatrixList{srcList, srcShift, srcStride1, srcStride2},
-                          ObjectTable{pivotIndex, order}, MatrixList{dstList, dstShift, dstStride1, dstStride2},
-                          Size{order});
+    return arrayCallOf<T>(luDecompWork(order, count, byType<T>(710, 1100)), count,
+                          MatrixList{srcList, srcShift, srcStride1, srcStride2}, ObjectTable{pivotIndex, order},
+                          MatrixList{dstList, dstShift, dstStride1, dstStride2}, Size{order});
 }
 template <class T>
 VORM_INLINE auto luDecompMaP(LU_DECOMP_MA_PARAMS_P(T))
 {
-    return arrayCallOf<T>(luDecompWork(order, count), count,
+    return arrayCallOf<T>(luDecompWork(order, count, byType<T>(620, 1200)), count,
                           MatrixArrayPointers{srcPointers, srcShift, srcStride0, order}, ObjectTable{pivotIndex, order},
                           MatrixArrayPointers{dstPointers, dstShift, dstStride0, order}, Size{order});
 }

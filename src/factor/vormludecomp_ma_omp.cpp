@@ -10,30 +10,28 @@ extern "C" {
 
 VormStatus n8_ownOMP_vormLUDecomp_ma_32f(LU_DECOMP_MA_PARAMS(float))
 {
-    return team<Kernels::canFail>(luDecompMa(LU_DECOMP_MA_ARGS), n8_ownvormLUDecomp_ma_32f,
-                                  n8_ownvormLUDecomp_ma_32f_S2);
+    return team<StatusSingular>(luDecompMa(LU_DECOMP_MA_ARGS), n8_ownvormLUDecomp_ma_32f, n8_ownvormLUDecomp_ma_32f_S2);
 }
 VormStatus n8_ownOMP_vormLUDecomp_ma_64f(LU_DECOMP_MA_PARAMS(double))
 {
-    return team<Kernels::canFail>(luDecompMa(LU_DECOMP_MA_ARGS), n8_ownvormLUDecomp_ma_64f,
-                                  n8_ownvormLUDecomp_ma_64f_S2);
+    return team<StatusSingular>(luDecompMa(LU_DECOMP_MA_ARGS), n8_ownvormLUDecomp_ma_64f, n8_ownvormLUDecomp_ma_64f_S2);
 }
 VormStatus n8_ownOMP_vormLUDecomp_ma_32f_L(LU_DECOMP_MA_PARAMS_L(float))
 {
-    return team<Kernels::canFail>(luDecompMaL(LU_DECOMP_MA_ARGS_L), n8_ownvormLUDecomp_ma_32f_L,
-                                  n8_ownvormLUDecomp_ma_32f_LS2);
+    return team<StatusSingular>(luDecompMaL(LU_DECOMP_MA_ARGS_L), n8_ownvormLUDecomp_ma_32f_L,
+                                n8_ownvormLUDecomp_ma_32f_LS2);
 }
 VormStatus n8_ownOMP_vormLUDecomp_ma_64f_L(LU_DECOMP_MA_PARAMS_L(double))
 {
-    return team<Kernels::canFail>(luDecompMaL(LU_DECOMP_MA_ARGS_L), n8_ownvormLUDecomp_ma_64f_L,
-                                  n8_ownvormLUDecomp_ma_64f_LS2);
+    return team<StatusSingular>(luDecompMaL(LU_DECOMP_MA_ARGS_L), n8_ownvormLUDecomp_ma_64f_L,
+                                n8_ownvormLUDecomp_ma_64f_LS2);
 }
 VormStatus n8_ownOMP_vormLUDecomp_ma_32f_P(LU_DECOMP_MA_PARAMS_P(float))
 {
-    return team<Kernels::canFail>(luDecompMaP(LU_DECOMP_MA_ARGS_P), n8_ownvormLUDecomp_ma_32f_P);
+    return team<StatusSingular>(luDecompMaP(LU_DECOMP_MA_ARGS_P), n8_ownvormLUDecomp_ma_32f_P);
 }
 VormStatus n8_ownOMP_vormLUDecomp_ma_64f_P(LU_DECOMP_MA_PARAMS_P(double))
 {
-    return team<Kernels::canFail>(luDecompMaP(LU_DECOMP_MA_ARGS_P), n8_ownvormLUDecomp_ma_64f_P);
+    return team<StatusSingular>(luDecompMaP(LU_DECOMP_MA_ARGS_P), n8_ownvormLUDecomp_ma_64f_P);
 }
 }

@@ -4,6 +4,8 @@
 // object on, itself for a single object, and itself with adjacent elements.
 #pragma once
 
+#include <climits>
+
 #include "frame/memory.hpp"
 #include "frame/pin.hpp"
 #include "frame/wrapping.hpp"
@@ -84,9 +86,13 @@ struct Fit : Untested {
     VORM_INLINE constexpr Fit withAdjacent() const { return *this; }
 };
 
+// A driver may set the sign bit of a kernel's count, to be told which object failed (driver.hpp).
 struct Count : Untested {
     int value;
     constexpr explicit Count(int count) : value(count) {}
+    constexpr int objects() const { return value & INT_MAX; }
+    constexpr bool asks() const { return value < 0; }
+    constexpr Count asking() const { return Count{value | INT_MIN}; }
     constexpr int countOr(int) const { return value; }
     template <class Body>
     VORM_INLINE constexpr auto arguments(const Body& body) const

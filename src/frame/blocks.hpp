@@ -9,6 +9,7 @@
 
 #include <type_traits>
 
+#include "frame/arguments.hpp"
 #include "frame/lanes.hpp"
 #include "frame/minmax.hpp"
 #include "frame/overlap.hpp"
@@ -50,18 +51,21 @@ VORM_INLINE void wholeBlocks(int& done, int count, const Apart& apart, const Met
     }
 }
 
-// Number is the widest that pays. apart.template operator()<Number>(first) says whether the results of the objects from
+// Number is the widest that pays. A count that asks gets the number of the first object that fails, from 1, instead of
+// its status. apart.template operator()<Number>(first) says whether the results of the objects from
 // the first on may be stored in any order.
 template <class Number, class Apart, class Method>
-VORM_INLINE VormStatus inBlocks(int count, const Apart& apart, const Method& method)
+VORM_INLINE VormStatus inBlocks(int countOrAsking, const Apart& apart, const Method& method)
 {
     using T = Element<Number>;
+    const int count = Count{countOrAsking}.objects();
     for (int done = 0; done < count;) {
         const int before = done;
         wholeBlocks<Number>(done, count, apart, method);
         if (done > before) continue;
         for (const int end = done + min(narrow<T>, count - done); done < end; ++done)
-            if (const VormStatus status = method.template operator()<T>(done); status != StatusOk) return status;
+            if (const VormStatus status = method.template operator()<T>(done); status != StatusOk)
+                return Count{countOrAsking}.asks() ? done + 1 : status;
     }
     return StatusOk;
 }

@@ -28,16 +28,23 @@ struct PartList<std::integer_sequence<int, index...>, Part...> : PartAt<index, P
     }
 };
 
-// What a driver is chosen by: the measure, which is compared with the limit of the member, and roughly the time that
-// the call takes one thread.
+// What a driver is chosen by: the measure, which is compared with the limit of the member, and about how long the call
+// takes one thread where elements lie side by side, which decides how many work.
 struct Work {
     int measure;
-    std::int64_t picoseconds;
+    double picoseconds;
 };
-// The usual work: a time for each unit of the measure.
-VORM_INLINE constexpr Work workOf(int measure, int picosecondsPerUnit)
+// The time of so many steps, given by how many there are along each size of the call.
+template <class... Int>
+VORM_INLINE constexpr Work workOf(int measure, int picoseconds, Int... sizes)
 {
-    return {measure, std::int64_t{measure} * picosecondsPerUnit};
+    return {measure, (double(picoseconds) * ... * sizes)};
+}
+// A number for each element type.
+template <class T>
+constexpr int byType(int single, int twice)
+{
+    return sizeof(T) == sizeof(float) ? single : twice;
 }
 
 // The tests of a public layer. Each of them comes once, in an order; sizes that need not fit have no Fit among

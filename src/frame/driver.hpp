@@ -6,10 +6,18 @@
 
 namespace vorm {
 
+// Elements anywhere take about twice as long.
+template <class T, class TheTests, class Parts>
+VORM_INLINE std::int64_t picosecondsOf(const ArrayCall<T, TheTests, Parts>& call)
+{
+    const double picoseconds = isContiguous(call) ? call.work.picoseconds : 2 * call.work.picoseconds;
+    return static_cast<std::int64_t>(picoseconds < 1e15 ? picoseconds : 1e15);
+}
+
 template <Kernels kernels = Kernels::cannotFail, class T, class TheTests, class Parts, class... Argument>
 VORM_INLINE VormStatus team(const ArrayCall<T, TheTests, Parts>& call, VormStatus (*kernel)(Argument...))
 {
-    return inTeam<kernels>(call.count, call.work.picoseconds, [&call, kernel](const Chunk& chunk) {
+    return inTeam<kernels>(call.count, picosecondsOf(call), [&call, kernel](const Chunk& chunk) {
         return call.parts.with([&](const auto&... part)
                                    VORM_INLINE_LAMBDA { return withArguments(kernel, part.chunk(chunk)...); });
     });
@@ -19,6 +27,25 @@ VORM_INLINE VormStatus team(const ArrayCall<T, TheTests, Parts>& call, VormStatu
                             VormStatus (*kernelS2)(Argument...))
 {
     return team<kernels>(call, isContiguous(call) ? kernel : kernelS2);
+}
+
+// Kernels that fail with one status only and tell where: small chunks then cost nothing (team.hpp).
+template <VormStatus failure, class T, class TheTests, class Parts, class... Argument>
+VORM_INLINE VormStatus team(const ArrayCall<T, TheTests, Parts>& call, VormStatus (*kernel)(Argument...))
+{
+    return inTeam<Kernels::canFail>(call.count, picosecondsOf(call), [&call, kernel](const Chunk& chunk, int& failed) {
+        const Chunk asking{chunk.first, Count{chunk.objects}.asking().value, chunk.thread, chunk.scratch};
+        const int place = call.parts.with(
+            [&](const auto&... part) VORM_INLINE_LAMBDA { return withArguments(kernel, part.chunk(asking)...); });
+        failed = chunk.first + place - 1;
+        return place ? failure : VormStatus{StatusOk};
+    });
+}
+template <VormStatus failure, class T, class TheTests, class Parts, class... Argument>
+VORM_INLINE VormStatus team(const ArrayCall<T, TheTests, Parts>& call, VormStatus (*kernel)(Argument...),
+                            VormStatus (*kernelS2)(Argument...))
+{
+    return team<failure>(call, isContiguous(call) ? kernel : kernelS2);
 }
 
 }  // namespace vorm

@@ -1,5 +1,6 @@
 // Operands as the kernels see them: object(n) is the address of the n-th object and element (n, i)
-// or (n, r, c) one of its elements. Views exist inside kernels only; all of it is inlined away.
+// or (n, r, c) one of its elements. This file has the standard and the list layout. Views exist inside kernels only;
+// all of it is inlined away.
 //
 // A view of a const type reads elements by value, one of a plain type gives a reference to assign
 // to. Single operands ignore n, so that a kernel need not know which of its operands are arrays;
@@ -13,6 +14,9 @@
 #include <utility>
 
 #include "frame/arguments.hpp"
+#include "frame/constant_operands.hpp"
+#include "frame/pointer_operands.hpp"
+#include "frame/transposed.hpp"
 
 namespace vorm {
 
@@ -172,185 +176,6 @@ struct MatrixList {  // ma
     VORM_INLINE constexpr auto withAdjacent() const { return MatrixList<T, Adjacent>{pp, shift, stride1, adjacent}; }
 };
 
-// Pointer layout: one pointer per element of the stored object. ----------------------------------
-
-template <class T>
-struct VectorPointers {  // v
-    static constexpr bool isCommon = true, isAdjacent = false;
-    T* const* pp;
-    int shift;
-    T* element(int i) const { return advance(pp[i], shift); }
-    decltype(auto) operator()(int, int i) const { return elementAt(element(i), 0); }
-    template <class Body>
-    VORM_INLINE constexpr auto arguments(const Body& body) const
-    {
-        return body(Pointer<T* const>{pp}, Shift{shift});
-    }
-    VORM_INLINE constexpr VectorPointers chunk(const Chunk&) const { return *this; }
-    VORM_INLINE constexpr auto withAdjacent() const { return *this; }
-};
-
-template <class T>
-struct VectorArrayPointers {  // va
-    static constexpr bool isCommon = false, isAdjacent = false;
-    T* const* pp;
-    int shift, stride0;
-    T* element(int i) const { return advance(pp[i], shift); }  // of object 0
-    decltype(auto) operator()(int n, int i) const { return elementAt(element(i), std::ptrdiff_t{n} * stride0); }
-    template <class Body>
-    VORM_INLINE constexpr auto arguments(const Body& body) const
-    {
-        return body(Pointer<T* const>{pp}, Shift{shift}, Stride{stride0});
-    }
-    VORM_INLINE constexpr VectorArrayPointers chunk(const Chunk& chunk) const
-    {
-        return {pp, wrapAdd(shift, wrapMul(chunk.first, stride0)), stride0};
-    }
-    VORM_INLINE constexpr auto withAdjacent() const { return *this; }
-};
-
-template <class T>
-struct MatrixPointers {  // m; width is that of the stored matrix
-    static constexpr bool isCommon = true, isAdjacent = false;
-    T* const* pp;
-    int shift, width;
-    T* element(int r, int c) const { return advance(pp[std::ptrdiff_t{r} * width + c], shift); }
-    decltype(auto) operator()(int, int r, int c) const { return elementAt(element(r, c), 0); }
-    template <class Body>
-    VORM_INLINE constexpr auto arguments(const Body& body) const
-    {
-        return body(Pointer<T* const>{pp}, Shift{shift});
-    }
-    VORM_INLINE constexpr MatrixPointers chunk(const Chunk&) const { return *this; }
-    VORM_INLINE constexpr auto withAdjacent() const { return *this; }
-};
-
-template <class T>
-struct MatrixArrayPointers {  // ma; width is that of the stored matrix
-    static constexpr bool isCommon = false, isAdjacent = false;
-    T* const* pp;
-    int shift, stride0, width;
-    T* element(int r, int c) const { return advance(pp[std::ptrdiff_t{r} * width + c], shift); }
-    decltype(auto) operator()(int n, int r, int c) const
-    {
-        return elementAt(element(r, c), std::ptrdiff_t{n} * stride0);
-    }
-    template <class Body>
-    VORM_INLINE constexpr auto arguments(const Body& body) const
-    {
-        return body(Pointer<T* const>{pp}, Shift{shift}, Stride{stride0});
-    }
-    VORM_INLINE constexpr MatrixArrayPointers chunk(const Chunk& chunk) const
-    {
-        return {pp, wrapAdd(shift, wrapMul(chunk.first, stride0)), stride0, width};
-    }
-    VORM_INLINE constexpr auto withAdjacent() const { return *this; }
-};
-
-// Transposed: any matrix view read with its indices swapped. -------------------------------------
-
-template <class Stored>
-struct Transposed {  // t, ta
-    static constexpr bool isCommon = Stored::isCommon, isAdjacent = false;
-    Stored stored;
-    decltype(auto) operator()(int n, int r, int c) const { return stored(n, c, r); }
-    template <class Body>
-    VORM_INLINE constexpr auto arguments(const Body& body) const
-    {
-        return stored.arguments(body);
-    }
-    VORM_INLINE constexpr Transposed chunk(const Chunk& chunk) const { return {stored.chunk(chunk)}; }
-    VORM_INLINE constexpr auto single(int n) const { return transposed(stored.single(n)); }
-    VORM_INLINE constexpr auto withAdjacent() const { return transposed(stored.withAdjacent()); }
-
-private:
-    template <class Other>
-    static constexpr Transposed<Other> transposed(const Other& other)
-    {
-        return {other};
-    }
-};
-
-template <class View>
-constexpr bool isTransposed = false;
-template <class Stored>
-constexpr bool isTransposed<Transposed<Stored>> = true;
-
-// How a matrix operand is read, m or t in the name of its shape: the view that shows it so, and its rows and columns
-// then, out of the sizes it is stored with; the same two functions lead back.
-struct AsStored {
-    static constexpr bool isTransposed = false;
-    template <class Stored>
-    static Stored used(const Stored& stored)
-    {
-        return stored;
-    }
-    static constexpr int rows(int /*width*/, int height) { return height; }
-    static constexpr int columns(int width, int /*height*/) { return width; }
-};
-struct AsTransposed {
-    static constexpr bool isTransposed = true;
-    template <class Stored>
-    static Transposed<Stored> used(const Stored& stored)
-    {
-        return {stored};
-    }
-    static constexpr int rows(int width, int /*height*/) { return width; }
-    static constexpr int columns(int /*width*/, int height) { return height; }
-};
-
-// Constants. -------------------------------------------------------------------------------------
-
-template <class T>
-struct Constant {  // c
-    static constexpr bool isCommon = true, isAdjacent = false, isConstant = true;
-    T val;
-    T operator()(int, int) const { return val; }
-    template <class Body>
-    VORM_INLINE constexpr auto arguments(const Body& body) const
-    {
-        return body(Value<T>{val});
-    }
-    VORM_INLINE constexpr Constant chunk(const Chunk&) const { return *this; }
-    VORM_INLINE constexpr auto single(int) const { return *this; }
-    VORM_INLINE constexpr auto withAdjacent() const { return *this; }
-};
-
-template <class T>
-struct ConstantArray {  // ca, standard and pointer layout
-    static constexpr bool isCommon = false, isAdjacent = false, isConstant = true;
-    const T* p;
-    int stride0;
-    T operator()(int n, int) const { return elementAt(p, std::ptrdiff_t{n} * stride0); }
-    template <class Body>
-    VORM_INLINE constexpr auto arguments(const Body& body) const
-    {
-        return body(Pointer<const T>{p}, Stride{stride0});
-    }
-    VORM_INLINE constexpr ConstantArray chunk(const Chunk& chunk) const
-    {
-        return {advance(p, wrapMul(chunk.first, stride0)), stride0};
-    }
-    VORM_INLINE constexpr auto single(int n) const { return Constant<T>{(*this)(n, 0)}; }
-    VORM_INLINE constexpr auto withAdjacent() const { return *this; }
-};
-
-template <class T>
-struct ConstantList {  // ca, list layout
-    static constexpr bool isCommon = false, isAdjacent = false, isConstant = true;
-    const T* const* pp;
-    int shift;
-    T operator()(int n, int) const { return elementAt(pp[n], shift); }
-    template <class Body>
-    VORM_INLINE constexpr auto arguments(const Body& body) const
-    {
-        return body(Pointer<const T* const>{pp}, Shift{shift});
-    }
-    VORM_INLINE constexpr ConstantList chunk(const Chunk& chunk) const { return {pp + chunk.first, shift}; }
-    VORM_INLINE constexpr auto single(int n) const { return Constant<T>{(*this)(n, 0)}; }
-    VORM_INLINE constexpr auto withAdjacent() const { return *this; }
-};
-
 template <class View>
 constexpr bool isAdjacent = View::isAdjacent;
 template <class View>
@@ -402,21 +227,5 @@ template <class T, class Step>
 VectorList(T* const*, int, Step) -> VectorList<T, Step>;
 template <class T, class Step>
 MatrixList(T* const*, int, int, Step) -> MatrixList<T, Step>;
-template <class T>
-VectorPointers(T* const*, int) -> VectorPointers<T>;
-template <class T>
-VectorArrayPointers(T* const*, int, int) -> VectorArrayPointers<T>;
-template <class T>
-MatrixPointers(T* const*, int, int) -> MatrixPointers<T>;
-template <class T>
-MatrixArrayPointers(T* const*, int, int, int) -> MatrixArrayPointers<T>;
-template <class Stored>
-Transposed(Stored) -> Transposed<Stored>;
-template <class T>
-Constant(T) -> Constant<T>;
-template <class T>
-ConstantArray(const T*, int) -> ConstantArray<T>;
-template <class T>
-ConstantList(const T* const*, int) -> ConstantList<T>;
 
 }  // namespace vorm

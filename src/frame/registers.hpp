@@ -5,6 +5,9 @@
 #ifdef __AVX2__
 #pragma GCC diagnostic push  // g++ 12 warns of undefined registers that its own header means to be undefined
 #pragma GCC diagnostic ignored "-Wuninitialized"
+#ifndef __clang__
+#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
+#endif
 #include <immintrin.h>
 #pragma GCC diagnostic pop
 #else
@@ -18,9 +21,11 @@ namespace vorm {
 // As many lanes as 128 bits have, the width that results are defined by; and as many as this build has.
 template <class T>
 constexpr int narrow = 16 / int{sizeof(T)};
-#if defined(__AVX512DQ__) && defined(__AVX512VL__)
+#if defined(__AVX512BW__) && defined(__AVX512DQ__) && defined(__AVX512VL__)
+#define VORM_WIDER_REGISTERS
 constexpr int registerBytes = 64;
 #elif defined(__AVX2__)
+#define VORM_WIDER_REGISTERS
 constexpr int registerBytes = 32;
 #else
 constexpr int registerBytes = 16;
@@ -159,6 +164,6 @@ struct Register<double, 2> {
 #ifdef __AVX2__
 #include "frame/registers_256.hpp"
 #endif
-#if defined(__AVX512DQ__) && defined(__AVX512VL__)
+#if defined(__AVX512BW__) && defined(__AVX512DQ__) && defined(__AVX512VL__)
 #include "frame/registers_512.hpp"
 #endif

@@ -13,7 +13,7 @@ VORM_INLINE VormStatus contiguousKernel(const ArrayCall<T, TheTests, Parts>& cal
     return call.parts.with([](const auto& a, Size width, Size height, const auto& x, Size, const auto& y, Fit,
                               Count count) VORM_INLINE_LAMBDA {
         return contiguousProducts<As, bodies, T>(a.withAdjacent(), x.withAdjacent(), y.withAdjacent(), width.value,
-                                                   height.value, count.value);
+                                                 height.value, count.value);
     });
 }
 template <class As, class T, class TheTests, class Parts>
@@ -21,8 +21,7 @@ VORM_INLINE VormStatus anyStrideKernel(const ArrayCall<T, TheTests, Parts>& call
 {
     return call.parts.with([](const auto& a, Size width, Size height, const auto& x, Size len, const auto& y, Fit,
                               Count count) VORM_INLINE_LAMBDA {
-        return productsAnywhere<T>(As::used(a), x, y, As::rows(width.value, height.value), len.value, 0,
-                                   count.value);
+        return productsAnywhere<T>(As::used(a), x, y, As::rows(width.value, height.value), len.value, 0, count.value);
     });
 }
 template <class As, class T, class TheTests, class Parts>
@@ -40,8 +39,8 @@ VORM_INLINE VormStatus contiguousKernel(const Call<T, TheTests, Parts>& call)
 {
     return call.parts.with([](const auto& a, Size width, Size height, const auto& x, Size, const auto& y, Fit)
                                VORM_INLINE_LAMBDA {
-                                   return contiguousProduct<As, T>(a.withAdjacent(), x.withAdjacent(),
-                                                                     y.withAdjacent(), width.value, height.value);
+                                   return contiguousProduct<As, T>(a.withAdjacent(), x.withAdjacent(), y.withAdjacent(),
+                                                                   width.value, height.value);
                                });
 }
 template <class As, class T, class TheTests, class Parts>

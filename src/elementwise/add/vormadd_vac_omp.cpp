@@ -1,6 +1,6 @@
 // vormAdd_vac: team-parallel drivers.
 
-#include "elementwise/vac.hpp"
+#include "elementwise/shapes/vac.hpp"
 #include "frame/driver.hpp"
 
 using namespace vorm;

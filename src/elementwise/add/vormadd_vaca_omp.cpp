@@ -1,6 +1,6 @@
 // vormAdd_vaca: team-parallel drivers.
 
-#include "elementwise/vaca.hpp"
+#include "elementwise/shapes/vaca.hpp"
 #include "frame/driver.hpp"
 
 using namespace vorm;

@@ -1,7 +1,7 @@
 // vormAdd_vav: public layers, and the kernels for elements anywhere.
 
-#include "elementwise/array_kernels.hpp"
-#include "elementwise/vav.hpp"
+#include "elementwise/calls.hpp"
+#include "elementwise/shapes/vav.hpp"
 
 using namespace vorm;
 using namespace vorm::elementwise;

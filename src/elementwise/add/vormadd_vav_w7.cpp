@@ -1,7 +1,7 @@
 // vormAdd_vav: the kernels for contiguous elements, double precision.
 
-#include "elementwise/array_kernels.hpp"
-#include "elementwise/vav.hpp"
+#include "elementwise/calls.hpp"
+#include "elementwise/shapes/vav.hpp"
 
 using namespace vorm;
 using namespace vorm::elementwise;

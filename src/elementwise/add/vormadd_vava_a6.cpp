@@ -1,7 +1,7 @@
 // vormAdd_vava: the kernels for contiguous elements, single precision.
 
-#include "elementwise/array_kernels.hpp"
-#include "elementwise/vava.hpp"
+#include "elementwise/calls.hpp"
+#include "elementwise/shapes/vava.hpp"
 
 using namespace vorm;
 using namespace vorm::elementwise;

@@ -1,7 +1,7 @@
 // vormAdd_vava: public layers, and the kernels for elements anywhere.
 
-#include "elementwise/array_kernels.hpp"
-#include "elementwise/vava.hpp"
+#include "elementwise/calls.hpp"
+#include "elementwise/shapes/vava.hpp"
 
 using namespace vorm;
 using namespace vorm::elementwise;

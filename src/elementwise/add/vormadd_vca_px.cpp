@@ -1,7 +1,7 @@
 // vormAdd_vca: public layers, and the kernels for elements anywhere.
 
-#include "elementwise/array_kernels.hpp"
-#include "elementwise/vca.hpp"
+#include "elementwise/calls.hpp"
+#include "elementwise/shapes/vca.hpp"
 
 using namespace vorm;
 using namespace vorm::elementwise;

@@ -1,7 +1,7 @@
 // vormAdd_vv: the kernel for contiguous elements, double precision.
 
-#include "elementwise/array_kernels.hpp"
-#include "elementwise/vv.hpp"
+#include "elementwise/calls.hpp"
+#include "elementwise/shapes/vv.hpp"
 
 using namespace vorm;
 using namespace vorm::elementwise;

@@ -1,6 +1,6 @@
 // vormSub_cav: team-parallel drivers.
 
-#include "elementwise/vca.hpp"
+#include "elementwise/shapes/vca.hpp"
 #include "frame/driver.hpp"
 
 using namespace vorm;

@@ -1,6 +1,6 @@
 // vormSub_cava: team-parallel drivers.
 
-#include "elementwise/vaca.hpp"
+#include "elementwise/shapes/vaca.hpp"
 #include "frame/driver.hpp"
 
 using namespace vorm;

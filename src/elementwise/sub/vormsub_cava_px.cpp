@@ -1,7 +1,7 @@
 // vormSub_cava: public layers, and the kernels for elements anywhere.
 
-#include "elementwise/array_kernels.hpp"
-#include "elementwise/vaca.hpp"
+#include "elementwise/calls.hpp"
+#include "elementwise/shapes/vaca.hpp"
 
 using namespace vorm;
 using namespace vorm::elementwise;

@@ -1,7 +1,7 @@
 // vormSub_cv: public layers, and the kernels for elements anywhere.
 
-#include "elementwise/array_kernels.hpp"
-#include "elementwise/vc.hpp"
+#include "elementwise/calls.hpp"
+#include "elementwise/shapes/vc.hpp"
 
 using namespace vorm;
 using namespace vorm::elementwise;

@@ -1,7 +1,7 @@
 // vormSub_cva: the kernels for contiguous elements, single precision.
 
-#include "elementwise/array_kernels.hpp"
-#include "elementwise/vac.hpp"
+#include "elementwise/calls.hpp"
+#include "elementwise/shapes/vac.hpp"
 
 using namespace vorm;
 using namespace vorm::elementwise;

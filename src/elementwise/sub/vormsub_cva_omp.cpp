@@ -1,6 +1,6 @@
 // vormSub_cva: team-parallel drivers.
 
-#include "elementwise/vac.hpp"
+#include "elementwise/shapes/vac.hpp"
 #include "frame/driver.hpp"
 
 using namespace vorm;

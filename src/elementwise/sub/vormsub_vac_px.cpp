@@ -1,7 +1,7 @@
 // vormSub_vac: public layers, and the kernels for elements anywhere.
 
-#include "elementwise/array_kernels.hpp"
-#include "elementwise/vac.hpp"
+#include "elementwise/calls.hpp"
+#include "elementwise/shapes/vac.hpp"
 
 using namespace vorm;
 using namespace vorm::elementwise;

@@ -1,7 +1,7 @@
 // vormSub_vav: the kernels for contiguous elements, single precision.
 
-#include "elementwise/array_kernels.hpp"
-#include "elementwise/vav.hpp"
+#include "elementwise/calls.hpp"
+#include "elementwise/shapes/vav.hpp"
 
 using namespace vorm;
 using namespace vorm::elementwise;

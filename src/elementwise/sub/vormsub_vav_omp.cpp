@@ -1,6 +1,6 @@
 // vormSub_vav: team-parallel drivers.
 
-#include "elementwise/vav.hpp"
+#include "elementwise/shapes/vav.hpp"
 #include "frame/driver.hpp"
 
 using namespace vorm;

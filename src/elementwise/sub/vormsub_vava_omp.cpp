@@ -1,6 +1,6 @@
 // vormSub_vava: team-parallel drivers.
 
-#include "elementwise/vava.hpp"
+#include "elementwise/shapes/vava.hpp"
 #include "frame/driver.hpp"
 
 using namespace vorm;

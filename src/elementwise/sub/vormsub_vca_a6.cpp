@@ -1,7 +1,7 @@
 // vormSub_vca: the kernels for contiguous elements, single precision.
 
-#include "elementwise/array_kernels.hpp"
-#include "elementwise/vca.hpp"
+#include "elementwise/calls.hpp"
+#include "elementwise/shapes/vca.hpp"
 
 using namespace vorm;
 using namespace vorm::elementwise;

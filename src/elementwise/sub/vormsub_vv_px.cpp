@@ -1,7 +1,7 @@
 // vormSub_vv: public layers, and the kernels for elements anywhere.
 
-#include "elementwise/array_kernels.hpp"
-#include "elementwise/vv.hpp"
+#include "elementwise/calls.hpp"
+#include "elementwise/shapes/vv.hpp"
 
 using namespace vorm;
 using namespace vorm::elementwise;

@@ -1,7 +1,7 @@
 // vormSub_vva: the kernels for contiguous elements, single precision.
 
-#include "elementwise/array_kernels.hpp"
-#include "elementwise/vva.hpp"
+#include "elementwise/calls.hpp"
+#include "elementwise/shapes/vva.hpp"
 
 using namespace vorm;
 using namespace vorm::elementwise;

@@ -1,6 +1,6 @@
 // vormSub_vva: team-parallel drivers.
 
-#include "elementwise/vva.hpp"
+#include "elementwise/shapes/vva.hpp"
 #include "frame/driver.hpp"
 
 using namespace vorm;

@@ -1,7 +1,7 @@
 // vormMul_mama: the kernels for contiguous elements, single precision.
 
-#include "products/mama.hpp"
 #include "products/matrix_calls.hpp"
+#include "products/shapes/mama.hpp"
 
 using namespace vorm;
 using namespace vorm::products;

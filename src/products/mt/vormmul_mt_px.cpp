@@ -1,6 +1,6 @@
 // vormMul_mt: public layers, and the kernels for elements anywhere.
 
-#include "products/mm.hpp"
+#include "products/shapes/mm.hpp"
 
 using namespace vorm;
 using namespace vorm::products;

@@ -1,7 +1,7 @@
 // vormMul_mta: the kernels for contiguous elements, single precision.
 
 #include "products/matrix_calls.hpp"
-#include "products/mma.hpp"
+#include "products/shapes/mma.hpp"
 
 using namespace vorm;
 using namespace vorm::products;

@@ -1,6 +1,6 @@
 // vormMul_mav: the kernels for contiguous elements, single precision.
 
-#include "products/mav.hpp"
+#include "products/shapes/mav.hpp"
 #include "products/vector_calls.hpp"
 
 using namespace vorm;

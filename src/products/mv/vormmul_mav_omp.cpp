@@ -1,7 +1,7 @@
 // vormMul_mav: team-parallel drivers.
 
 #include "frame/driver.hpp"
-#include "products/mav.hpp"
+#include "products/shapes/mav.hpp"
 
 using namespace vorm;
 using namespace vorm::products;

@@ -1,6 +1,6 @@
 // vormMul_mav: public layers, and the kernels for elements anywhere.
 
-#include "products/mav.hpp"
+#include "products/shapes/mav.hpp"
 #include "products/vector_calls.hpp"
 
 using namespace vorm;

@@ -1,6 +1,6 @@
 // vormMul_mava: public layers, and the kernels for elements anywhere.
 
-#include "products/mava.hpp"
+#include "products/shapes/mava.hpp"
 #include "products/vector_calls.hpp"
 
 using namespace vorm;

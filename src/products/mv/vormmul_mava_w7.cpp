@@ -1,6 +1,6 @@
 // vormMul_mava: the kernels for contiguous elements, double precision.
 
-#include "products/mava.hpp"
+#include "products/shapes/mava.hpp"
 #include "products/vector_calls.hpp"
 
 using namespace vorm;

@@ -1,6 +1,6 @@
 // vormMul_mv: public layers, and the kernels for elements anywhere.
 
-#include "products/mv.hpp"
+#include "products/shapes/mv.hpp"
 #include "products/vector_calls.hpp"
 
 using namespace vorm;

@@ -1,6 +1,6 @@
 // vormMul_mva: the kernels for contiguous elements, single precision.
 
-#include "products/mva.hpp"
+#include "products/shapes/mva.hpp"
 #include "products/vector_calls.hpp"
 
 using namespace vorm;

@@ -1,7 +1,7 @@
 // vormMul_mva: team-parallel drivers.
 
 #include "frame/driver.hpp"
-#include "products/mva.hpp"
+#include "products/shapes/mva.hpp"
 
 using namespace vorm;
 using namespace vorm::products;

@@ -1,6 +1,6 @@
 // vormMul_mva: public layers, and the kernels for elements anywhere.
 
-#include "products/mva.hpp"
+#include "products/shapes/mva.hpp"
 #include "products/vector_calls.hpp"
 
 using namespace vorm;

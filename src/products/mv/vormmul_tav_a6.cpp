@@ -1,6 +1,6 @@
 // vormMul_tav: the kernels for contiguous elements, single precision.
 
-#include "products/mav.hpp"
+#include "products/shapes/mav.hpp"
 #include "products/vector_calls.hpp"
 
 using namespace vorm;
@@ -8,6 +8,12 @@ using namespace vorm::products;
 
 extern "C" {
 
-VormStatus n8_ownvormMul_tav_32f(MAV_PARAMS(float)) { return contiguousKernel<AsTransposed>(mav<AsTransposed>(MAV_ARGS)); }
-VormStatus n8_ownvormMul_tav_32f_L(MAV_PARAMS_L(float)) { return contiguousKernel<AsTransposed>(mavL<AsTransposed>(MAV_ARGS_L)); }
+VormStatus n8_ownvormMul_tav_32f(MAV_PARAMS(float))
+{
+    return contiguousKernel<AsTransposed>(mav<AsTransposed>(MAV_ARGS));
+}
+VormStatus n8_ownvormMul_tav_32f_L(MAV_PARAMS_L(float))
+{
+    return contiguousKernel<AsTransposed>(mavL<AsTransposed>(MAV_ARGS_L));
+}
 }

@@ -1,6 +1,6 @@
 // vormMul_tav: public layers, and the kernels for elements anywhere.
 
-#include "products/mav.hpp"
+#include "products/shapes/mav.hpp"
 #include "products/vector_calls.hpp"
 
 using namespace vorm;
@@ -10,13 +10,13 @@ extern "C" {
 
 VormStatus n8_vormMul_tav_32f(MAV_PARAMS(float))
 {
-    return checked<2500, teamLimitAnyStride>(mav<AsTransposed>(MAV_ARGS), n8_ownOMP_vormMul_tav_32f, n8_ownvormMul_tav_32f,
-                                             n8_ownvormMul_tav_32f_S2, MAV_ARGS);
+    return checked<2500, teamLimitAnyStride>(mav<AsTransposed>(MAV_ARGS), n8_ownOMP_vormMul_tav_32f,
+                                             n8_ownvormMul_tav_32f, n8_ownvormMul_tav_32f_S2, MAV_ARGS);
 }
 VormStatus n8_vormMul_tav_64f(MAV_PARAMS(double))
 {
-    return checked<3600, teamLimitAnyStride>(mav<AsTransposed>(MAV_ARGS), n8_ownOMP_vormMul_tav_64f, n8_ownvormMul_tav_64f,
-                                             n8_ownvormMul_tav_64f_S2, MAV_ARGS);
+    return checked<3600, teamLimitAnyStride>(mav<AsTransposed>(MAV_ARGS), n8_ownOMP_vormMul_tav_64f,
+                                             n8_ownvormMul_tav_64f, n8_ownvormMul_tav_64f_S2, MAV_ARGS);
 }
 VormStatus n8_vormMul_tav_32f_L(MAV_PARAMS_L(float))
 {
@@ -30,17 +30,23 @@ VormStatus n8_vormMul_tav_64f_L(MAV_PARAMS_L(double))
 }
 VormStatus n8_vormMul_tav_32f_P(MAV_PARAMS_P(float))
 {
-    return checked<teamLimitPointers>(mavP<AsTransposed>(MAV_ARGS_P), n8_ownOMP_vormMul_tav_32f_P, n8_ownvormMul_tav_32f_P,
-                                      MAV_ARGS_P);
+    return checked<teamLimitPointers>(mavP<AsTransposed>(MAV_ARGS_P), n8_ownOMP_vormMul_tav_32f_P,
+                                      n8_ownvormMul_tav_32f_P, MAV_ARGS_P);
 }
 VormStatus n8_vormMul_tav_64f_P(MAV_PARAMS_P(double))
 {
-    return checked<teamLimitPointers>(mavP<AsTransposed>(MAV_ARGS_P), n8_ownOMP_vormMul_tav_64f_P, n8_ownvormMul_tav_64f_P,
-                                      MAV_ARGS_P);
+    return checked<teamLimitPointers>(mavP<AsTransposed>(MAV_ARGS_P), n8_ownOMP_vormMul_tav_64f_P,
+                                      n8_ownvormMul_tav_64f_P, MAV_ARGS_P);
 }
 
-VormStatus n8_ownvormMul_tav_32f_S2(MAV_PARAMS(float)) { return anyStrideKernel<AsTransposed>(mav<AsTransposed>(MAV_ARGS)); }
-VormStatus n8_ownvormMul_tav_64f_S2(MAV_PARAMS(double)) { return anyStrideKernel<AsTransposed>(mav<AsTransposed>(MAV_ARGS)); }
+VormStatus n8_ownvormMul_tav_32f_S2(MAV_PARAMS(float))
+{
+    return anyStrideKernel<AsTransposed>(mav<AsTransposed>(MAV_ARGS));
+}
+VormStatus n8_ownvormMul_tav_64f_S2(MAV_PARAMS(double))
+{
+    return anyStrideKernel<AsTransposed>(mav<AsTransposed>(MAV_ARGS));
+}
 VormStatus n8_ownvormMul_tav_32f_LS2(MAV_PARAMS_L(float))
 {
     return eachSingle(mavL<AsTransposed>(MAV_ARGS_L), n8_ownvormMul_tv_32f_S2);
@@ -49,6 +55,12 @@ VormStatus n8_ownvormMul_tav_64f_LS2(MAV_PARAMS_L(double))
 {
     return eachSingle(mavL<AsTransposed>(MAV_ARGS_L), n8_ownvormMul_tv_64f_S2);
 }
-VormStatus n8_ownvormMul_tav_32f_P(MAV_PARAMS_P(float)) { return pointerKernel<AsTransposed>(mavP<AsTransposed>(MAV_ARGS_P)); }
-VormStatus n8_ownvormMul_tav_64f_P(MAV_PARAMS_P(double)) { return pointerKernel<AsTransposed>(mavP<AsTransposed>(MAV_ARGS_P)); }
+VormStatus n8_ownvormMul_tav_32f_P(MAV_PARAMS_P(float))
+{
+    return pointerKernel<AsTransposed>(mavP<AsTransposed>(MAV_ARGS_P));
+}
+VormStatus n8_ownvormMul_tav_64f_P(MAV_PARAMS_P(double))
+{
+    return pointerKernel<AsTransposed>(mavP<AsTransposed>(MAV_ARGS_P));
+}
 }

@@ -1,6 +1,6 @@
 // vormMul_tav: the kernels for contiguous elements, double precision.
 
-#include "products/mav.hpp"
+#include "products/shapes/mav.hpp"
 #include "products/vector_calls.hpp"
 
 using namespace vorm;
@@ -8,6 +8,12 @@ using namespace vorm::products;
 
 extern "C" {
 
-VormStatus n8_ownvormMul_tav_64f(MAV_PARAMS(double)) { return contiguousKernel<AsTransposed>(mav<AsTransposed>(MAV_ARGS)); }
-VormStatus n8_ownvormMul_tav_64f_L(MAV_PARAMS_L(double)) { return contiguousKernel<AsTransposed>(mavL<AsTransposed>(MAV_ARGS_L)); }
+VormStatus n8_ownvormMul_tav_64f(MAV_PARAMS(double))
+{
+    return contiguousKernel<AsTransposed>(mav<AsTransposed>(MAV_ARGS));
+}
+VormStatus n8_ownvormMul_tav_64f_L(MAV_PARAMS_L(double))
+{
+    return contiguousKernel<AsTransposed>(mavL<AsTransposed>(MAV_ARGS_L));
+}
 }

@@ -1,7 +1,7 @@
 // vormMul_tava: team-parallel drivers.
 
 #include "frame/driver.hpp"
-#include "products/mava.hpp"
+#include "products/shapes/mava.hpp"
 
 using namespace vorm;
 using namespace vorm::products;

@@ -1,6 +1,6 @@
 // vormMul_tava: public layers, and the kernels for elements anywhere.
 
-#include "products/mava.hpp"
+#include "products/shapes/mava.hpp"
 #include "products/vector_calls.hpp"
 
 using namespace vorm;
@@ -41,8 +41,14 @@ VormStatus n8_vormMul_tava_64f_P(MAVA_PARAMS_P(double))
                                       n8_ownvormMul_tava_64f_P, MAVA_ARGS_P);
 }
 
-VormStatus n8_ownvormMul_tava_32f_S2(MAVA_PARAMS(float)) { return anyStrideKernel<AsTransposed>(mava<AsTransposed>(MAVA_ARGS)); }
-VormStatus n8_ownvormMul_tava_64f_S2(MAVA_PARAMS(double)) { return anyStrideKernel<AsTransposed>(mava<AsTransposed>(MAVA_ARGS)); }
+VormStatus n8_ownvormMul_tava_32f_S2(MAVA_PARAMS(float))
+{
+    return anyStrideKernel<AsTransposed>(mava<AsTransposed>(MAVA_ARGS));
+}
+VormStatus n8_ownvormMul_tava_64f_S2(MAVA_PARAMS(double))
+{
+    return anyStrideKernel<AsTransposed>(mava<AsTransposed>(MAVA_ARGS));
+}
 VormStatus n8_ownvormMul_tava_32f_LS2(MAVA_PARAMS_L(float))
 {
     return eachSingle(mavaL<AsTransposed>(MAVA_ARGS_L), n8_ownvormMul_tv_32f_S2);
@@ -51,6 +57,12 @@ VormStatus n8_ownvormMul_tava_64f_LS2(MAVA_PARAMS_L(double))
 {
     return eachSingle(mavaL<AsTransposed>(MAVA_ARGS_L), n8_ownvormMul_tv_64f_S2);
 }
-VormStatus n8_ownvormMul_tava_32f_P(MAVA_PARAMS_P(float)) { return pointerKernel<AsTransposed>(mavaP<AsTransposed>(MAVA_ARGS_P)); }
-VormStatus n8_ownvormMul_tava_64f_P(MAVA_PARAMS_P(double)) { return pointerKernel<AsTransposed>(mavaP<AsTransposed>(MAVA_ARGS_P)); }
+VormStatus n8_ownvormMul_tava_32f_P(MAVA_PARAMS_P(float))
+{
+    return pointerKernel<AsTransposed>(mavaP<AsTransposed>(MAVA_ARGS_P));
+}
+VormStatus n8_ownvormMul_tava_64f_P(MAVA_PARAMS_P(double))
+{
+    return pointerKernel<AsTransposed>(mavaP<AsTransposed>(MAVA_ARGS_P));
+}
 }

@@ -1,6 +1,6 @@
 // vormMul_tv: the kernel for contiguous elements, double precision.
 
-#include "products/mv.hpp"
+#include "products/shapes/mv.hpp"
 #include "products/vector_calls.hpp"
 
 using namespace vorm;

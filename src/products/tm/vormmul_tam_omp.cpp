@@ -1,7 +1,7 @@
 // vormMul_tam: team-parallel drivers.
 
 #include "frame/driver.hpp"
-#include "products/mam.hpp"
+#include "products/shapes/mam.hpp"
 
 using namespace vorm;
 using namespace vorm::products;

@@ -1,7 +1,7 @@
 // vormMul_tama: public layers, and the kernels for elements anywhere.
 
-#include "products/mama.hpp"
 #include "products/matrix_calls.hpp"
+#include "products/shapes/mama.hpp"
 
 using namespace vorm;
 using namespace vorm::products;

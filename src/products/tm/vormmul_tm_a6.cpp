@@ -1,6 +1,6 @@
 // vormMul_tm: the kernel for contiguous elements, single precision.
 
-#include "products/mm.hpp"
+#include "products/shapes/mm.hpp"
 
 using namespace vorm;
 using namespace vorm::products;

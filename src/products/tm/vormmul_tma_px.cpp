@@ -1,7 +1,7 @@
 // vormMul_tma: public layers, and the kernels for elements anywhere.
 
 #include "products/matrix_calls.hpp"
-#include "products/mma.hpp"
+#include "products/shapes/mma.hpp"
 
 using namespace vorm;
 using namespace vorm::products;

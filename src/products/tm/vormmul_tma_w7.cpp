@@ -1,7 +1,7 @@
 // vormMul_tma: the kernels for contiguous elements, double precision.
 
 #include "products/matrix_calls.hpp"
-#include "products/mma.hpp"
+#include "products/shapes/mma.hpp"
 
 using namespace vorm;
 using namespace vorm::products;

@@ -1,7 +1,7 @@
 // vormMul_tat: public layers, and the kernels for elements anywhere.
 
-#include "products/mam.hpp"
 #include "products/matrix_calls.hpp"
+#include "products/shapes/mam.hpp"
 
 using namespace vorm;
 using namespace vorm::products;

@@ -1,7 +1,7 @@
 // vormMul_tat: the kernels for contiguous elements, double precision.
 
-#include "products/mam.hpp"
 #include "products/matrix_calls.hpp"
+#include "products/shapes/mam.hpp"
 
 using namespace vorm;
 using namespace vorm::products;

@@ -1,7 +1,7 @@
 // vormMul_tata: team-parallel drivers.
 
 #include "frame/driver.hpp"
-#include "products/mama.hpp"
+#include "products/shapes/mama.hpp"
 
 using namespace vorm;
 using namespace vorm::products;

@@ -1,7 +1,7 @@
 // vormMul_tata: the kernels for contiguous elements, double precision.
 
-#include "products/mama.hpp"
 #include "products/matrix_calls.hpp"
+#include "products/shapes/mama.hpp"
 
 using namespace vorm;
 using namespace vorm::products;

@@ -1,7 +1,7 @@
 // vormMul_tta: team-parallel drivers.
 
 #include "frame/driver.hpp"
-#include "products/mma.hpp"
+#include "products/shapes/mma.hpp"
 
 using namespace vorm;
 using namespace vorm::products;

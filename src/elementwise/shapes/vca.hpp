@@ -21,25 +21,28 @@
 
 namespace vorm::elementwise {
 
-constexpr Work vcaWork(int len, int count) { return workOf(wrapAdd(wrapMul(len, count), len, count), 250); }
+constexpr Work vcaWork(int len, int count, int picoseconds)
+{
+    return workOf(wrapAdd(wrapMul(len, count), len, count), picoseconds, len, count);
+}
 
 template <class T>
 VORM_INLINE auto vca(VCA_PARAMS(T))
 {
-    return arrayCallOf<T>(vcaWork(len, count), count, Vector{pSrc, srcStride2}, ConstantArray{pVal, valStride0},
-                          VectorArray{pDst, dstStride0, dstStride2}, Size{len});
+    return arrayCallOf<T>(vcaWork(len, count, byType<T>(73, 230)), count, Vector{pSrc, srcStride2},
+                          ConstantArray{pVal, valStride0}, VectorArray{pDst, dstStride0, dstStride2}, Size{len});
 }
 template <class T>
 VORM_INLINE auto vcaL(VCA_PARAMS_L(T))
 {
-    return arrayCallOf<T>(vcaWork(len, count), count, Vector{pSrc, srcStride2}, ConstantList{ppVal, valShift},
-                          VectorList{ppDst, dstShift, dstStride2}, Size{len});
+    return arrayCallOf<T>(vcaWork(len, count, byType<T>(175, 360)), count, Vector{pSrc, srcStride2},
+                          ConstantList{ppVal, valShift}, VectorList{ppDst, dstShift, dstStride2}, Size{len});
 }
 template <class T>
 VORM_INLINE auto vcaP(VCA_PARAMS_P(T))
 {
-    return arrayCallOf<T>(vcaWork(len, count), count, VectorPointers{ppSrc, srcShift}, ConstantArray{pVal, valStride0},
-                          VectorArrayPointers{ppDst, dstShift, dstStride0}, Size{len});
+    return arrayCallOf<T>(vcaWork(len, count, byType<T>(78, 225)), count, VectorPointers{ppSrc, srcShift},
+                          ConstantArray{pVal, valStride0}, VectorArrayPointers{ppDst, dstShift, dstStride0}, Size{len});
 }
 
 }  // namespace vorm::elementwise

@@ -29,33 +29,35 @@
 namespace vorm::products {
 
 // W H + (W + H) count
-constexpr Work mvaWork(int src1Width, int src1Height, int count)
+constexpr Work mvaWork(int src1Width, int src1Height, int count, int picoseconds)
 {
-    return workOf(wrapAdd(wrapMul(src1Width, src1Height), wrapMul(wrapAdd(src1Width, src1Height), count)), 250);
+    return workOf(wrapAdd(wrapMul(src1Width, src1Height), wrapMul(wrapAdd(src1Width, src1Height), count)), picoseconds,
+                  src1Width, src1Height, count);
 }
 
 template <class As, class T>
 VORM_INLINE auto mva(MVA_PARAMS(T))
 {
-    return arrayCallOf<T>(mvaWork(src1Width, src1Height, count), count, Matrix{pSrc1, src1Stride1, src1Stride2},
-                          Size{src1Width}, Size{src1Height}, VectorArray{pSrc2, src2Stride0, src2Stride2},
-                          Size{src2Len}, VectorArray{pDst, dstStride0, dstStride2},
-                          Fit{As::columns(src1Width, src1Height), src2Len});
+    return arrayCallOf<T>(mvaWork(src1Width, src1Height, count, byType<T>(70, 105)), count,
+                          Matrix{pSrc1, src1Stride1, src1Stride2}, Size{src1Width}, Size{src1Height},
+                          VectorArray{pSrc2, src2Stride0, src2Stride2}, Size{src2Len},
+                          VectorArray{pDst, dstStride0, dstStride2}, Fit{As::columns(src1Width, src1Height), src2Len});
 }
 template <class As, class T>
 VORM_INLINE auto mvaL(MVA_PARAMS_L(T))
 {
-    return arrayCallOf<T>(mvaWork(src1Width, src1Height, count), count, Matrix{pSrc1, src1Stride1, src1Stride2},
-                          Size{src1Width}, Size{src1Height}, VectorList{ppSrc2, src2Shift, src2Stride2}, Size{src2Len},
+    return arrayCallOf<T>(mvaWork(src1Width, src1Height, count, byType<T>(95, 120)), count,
+                          Matrix{pSrc1, src1Stride1, src1Stride2}, Size{src1Width}, Size{src1Height},
+                          VectorList{ppSrc2, src2Shift, src2Stride2}, Size{src2Len},
                           VectorList{ppDst, dstShift, dstStride2}, Fit{As::columns(src1Width, src1Height), src2Len});
 }
 template <class As, class T>
 VORM_INLINE auto mvaP(MVA_PARAMS_P(T))
 {
-    return arrayCallOf<T>(mvaWork(src1Width, src1Height, count), count, MatrixPointers{ppSrc1, src1Shift, src1Width},
-                          Size{src1Width}, Size{src1Height}, VectorArrayPointers{ppSrc2, src2Shift, src2Stride0},
-                          Size{src2Len}, VectorArrayPointers{ppDst, dstShift, dstStride0},
-                          Fit{As::columns(src1Width, src1Height), src2Len});
+    return arrayCallOf<T>(
+        mvaWork(src1Width, src1Height, count, byType<T>(56, 115)), count, MatrixPointers{ppSrc1, src1Shift, src1Width},
+        Size{src1Width}, Size{src1Height}, VectorArrayPointers{ppSrc2, src2Shift, src2Stride0}, Size{src2Len},
+        VectorArrayPointers{ppDst, dstShift, dstStride0}, Fit{As::columns(src1Width, src1Height), src2Len});
 }
 
 }  // namespace vorm::products

@@ -33,16 +33,17 @@ namespace vorm::products {
 
 // W2 H2 + (N + K) M count
 template <class Kind>
-constexpr Work mamWork(int src1Width, int src1Height, int src2Width, int src2Height, int count)
+constexpr Work mamWork(int src1Width, int src1Height, int src2Width, int src2Height, int count, int picoseconds)
 {
     const Lengths d = Kind::lengths(src1Width, src1Height, src2Width, src2Height);
-    return workOf(wrapAdd(wrapMul(src2Width, src2Height), wrapMul(wrapAdd(d.n, d.k), d.m, count)), 250);
+    return workOf(wrapAdd(wrapMul(src2Width, src2Height), wrapMul(wrapAdd(d.n, d.k), d.m, count)), picoseconds, d.m,
+                  d.n, d.k, count);
 }
 
 template <class Kind, class T>
 VORM_INLINE auto mam(MAM_PARAMS(T))
 {
-    return arrayCallOf<T>(mamWork<Kind>(src1Width, src1Height, src2Width, src2Height, count), count,
+    return arrayCallOf<T>(mamWork<Kind>(src1Width, src1Height, src2Width, src2Height, count, byType<T>(65, 97)), count,
                           MatrixArray{pSrc1, src1Stride0, src1Stride1, src1Stride2}, Size{src1Width}, Size{src1Height},
                           Matrix{pSrc2, src2Stride1, src2Stride2}, Size{src2Width}, Size{src2Height},
                           MatrixArray{pDst, dstStride0, dstStride1, dstStride2},
@@ -51,7 +52,7 @@ VORM_INLINE auto mam(MAM_PARAMS(T))
 template <class Kind, class T>
 VORM_INLINE auto mamL(MAM_PARAMS_L(T))
 {
-    return arrayCallOf<T>(mamWork<Kind>(src1Width, src1Height, src2Width, src2Height, count), count,
+    return arrayCallOf<T>(mamWork<Kind>(src1Width, src1Height, src2Width, src2Height, count, byType<T>(72, 105)), count,
                           MatrixList{ppSrc1, src1Shift, src1Stride1, src1Stride2}, Size{src1Width}, Size{src1Height},
                           Matrix{pSrc2, src2Stride1, src2Stride2}, Size{src2Width}, Size{src2Height},
                           MatrixList{ppDst, dstShift, dstStride1, dstStride2},
@@ -61,7 +62,7 @@ template <class Kind, class T>
 VORM_INLINE auto mamP(MAM_PARAMS_P(T))
 {
     return arrayCallOf<T>(
-        mamWork<Kind>(src1Width, src1Height, src2Width, src2Height, count), count,
+        mamWork<Kind>(src1Width, src1Height, src2Width, src2Height, count, byType<T>(61, 125)), count,
         MatrixArrayPointers{ppSrc1, src1Shift, src1Stride0, src1Width}, Size{src1Width}, Size{src1Height},
         MatrixPointers{ppSrc2, src2Shift, src2Width}, Size{src2Width}, Size{src2Height},
         MatrixArrayPointers{ppDst, dstShift, dstStride0, Kind::lengths(src1Width, src1Height, src2Width, src2Height).n},

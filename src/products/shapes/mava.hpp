@@ -30,15 +30,16 @@
 namespace vorm::products {
 
 // (W (H + 1) + H) count
-constexpr Work mavaWork(int src1Width, int src1Height, int count)
+constexpr Work mavaWork(int src1Width, int src1Height, int count, int picoseconds)
 {
-    return workOf(wrapMul(wrapAdd(wrapMul(src1Width, wrapAdd(src1Height, 1)), src1Height), count), 250);
+    return workOf(wrapMul(wrapAdd(wrapMul(src1Width, wrapAdd(src1Height, 1)), src1Height), count), picoseconds,
+                  src1Width, src1Height, count);
 }
 
 template <class As, class T>
 VORM_INLINE auto mava(MAVA_PARAMS(T))
 {
-    return arrayCallOf<T>(mavaWork(src1Width, src1Height, count), count,
+    return arrayCallOf<T>(mavaWork(src1Width, src1Height, count, byType<T>(145, 265)), count,
                           MatrixArray{pSrc1, src1Stride0, src1Stride1, src1Stride2}, Size{src1Width}, Size{src1Height},
                           VectorArray{pSrc2, src2Stride0, src2Stride2}, Size{src2Len},
                           VectorArray{pDst, dstStride0, dstStride2}, Fit{As::columns(src1Width, src1Height), src2Len});
@@ -46,7 +47,7 @@ VORM_INLINE auto mava(MAVA_PARAMS(T))
 template <class As, class T>
 VORM_INLINE auto mavaL(MAVA_PARAMS_L(T))
 {
-    return arrayCallOf<T>(mavaWork(src1Width, src1Height, count), count,
+    return arrayCallOf<T>(mavaWork(src1Width, src1Height, count, byType<T>(160, 280)), count,
                           MatrixList{ppSrc1, src1Shift, src1Stride1, src1Stride2}, Size{src1Width}, Size{src1Height},
                           VectorList{ppSrc2, src2Shift, src2Stride2}, Size{src2Len},
                           VectorList{ppDst, dstShift, dstStride2}, Fit{As::columns(src1Width, src1Height), src2Len});
@@ -54,10 +55,11 @@ VORM_INLINE auto mavaL(MAVA_PARAMS_L(T))
 template <class As, class T>
 VORM_INLINE auto mavaP(MAVA_PARAMS_P(T))
 {
-    return arrayCallOf<T>(mavaWork(src1Width, src1Height, count), count,
+    return arrayCallOf<T>(mavaWork(src1Width, src1Height, count, byType<T>(140, 280)), count,
                           MatrixArrayPointers{ppSrc1, src1Shift, src1Stride0, src1Width}, Size{src1Width},
                           Size{src1Height}, VectorArrayPointers{ppSrc2, src2Shift, src2Stride0}, Size{src2Len},
-                          VectorArrayPointers{ppDst, dstShift, dstStride0}, Fit{As::columns(src1Width, src1Height), src2Len});
+                          VectorArrayPointers{ppDst, dstShift, dstStride0},
+                          Fit{As::columns(src1Width, src1Height), src2Len});
 }
 
 }  // namespace vorm::products

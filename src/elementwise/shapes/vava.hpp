@@ -23,26 +23,30 @@
 
 namespace vorm::elementwise {
 
-constexpr Work vavaWork(int len, int count) { return workOf(wrapMul(3, count, len), 250); }
+constexpr Work vavaWork(int len, int count, int picoseconds)
+{
+    return workOf(wrapMul(3, count, len), picoseconds, len, count);
+}
 
 template <class T>
 VORM_INLINE auto vava(VAVA_PARAMS(T))
 {
-    return arrayCallOf<T>(vavaWork(len, count), count, VectorArray{pSrc1, src1Stride0, src1Stride2},
-                          VectorArray{pSrc2, src2Stride0, src2Stride2}, VectorArray{pDst, dstStride0, dstStride2},
-                          Size{len});
+    return arrayCallOf<T>(vavaWork(len, count, byType<T>(300, 660)), count,
+                          VectorArray{pSrc1, src1Stride0, src1Stride2}, VectorArray{pSrc2, src2Stride0, src2Stride2},
+                          VectorArray{pDst, dstStride0, dstStride2}, Size{len});
 }
 template <class T>
 VORM_INLINE auto vavaL(VAVA_PARAMS_L(T))
 {
-    return arrayCallOf<T>(vavaWork(len, count), count, VectorList{ppSrc1, src1Shift, src1Stride2},
+    return arrayCallOf<T>(vavaWork(len, count, byType<T>(400, 660)), count, VectorList{ppSrc1, src1Shift, src1Stride2},
                           VectorList{ppSrc2, src2Shift, src2Stride2}, VectorList{ppDst, dstShift, dstStride2},
                           Size{len});
 }
 template <class T>
 VORM_INLINE auto vavaP(VAVA_PARAMS_P(T))
 {
-    return arrayCallOf<T>(vavaWork(len, count), count, VectorArrayPointers{ppSrc1, src1Shift, src1Stride0},
+    return arrayCallOf<T>(vavaWork(len, count, byType<T>(270, 570)), count,
+                          VectorArrayPointers{ppSrc1, src1Shift, src1Stride0},
                           VectorArrayPointers{ppSrc2, src2Shift, src2Stride0},
                           VectorArrayPointers{ppDst, dstShift, dstStride0}, Size{len});
 }

@@ -34,35 +34,36 @@ namespace vorm::products {
 
 // ((N + K) M + W2 H2) count
 template <class Kind>
-constexpr Work mamaWork(int src1Width, int src1Height, int src2Width, int src2Height, int count)
+constexpr Work mamaWork(int src1Width, int src1Height, int src2Width, int src2Height, int count, int picoseconds)
 {
     const Lengths d = Kind::lengths(src1Width, src1Height, src2Width, src2Height);
-    return workOf(wrapMul(wrapAdd(wrapMul(wrapAdd(d.n, d.k), d.m), wrapMul(src2Width, src2Height)), count), 250);
+    return workOf(wrapMul(wrapAdd(wrapMul(wrapAdd(d.n, d.k), d.m), wrapMul(src2Width, src2Height)), count), picoseconds,
+                  d.m, d.n, d.k, count);
 }
 
 template <class Kind, class T>
 VORM_INLINE auto mama(MAMA_PARAMS(T))
 {
-    return arrayCallOf<T>(mamaWork<Kind>(src1Width, src1Height, src2Width, src2Height, count), count,
-                          MatrixArray{pSrc1, src1Stride0, src1Stride1, src1Stride2}, Size{src1Width}, Size{src1Height},
-                          MatrixArray{pSrc2, src2Stride0, src2Stride1, src2Stride2}, Size{src2Width}, Size{src2Height},
-                          MatrixArray{pDst, dstStride0, dstStride1, dstStride2},
+    return arrayCallOf<T>(mamaWork<Kind>(src1Width, src1Height, src2Width, src2Height, count, byType<T>(80, 120)),
+                          count, MatrixArray{pSrc1, src1Stride0, src1Stride1, src1Stride2}, Size{src1Width},
+                          Size{src1Height}, MatrixArray{pSrc2, src2Stride0, src2Stride1, src2Stride2}, Size{src2Width},
+                          Size{src2Height}, MatrixArray{pDst, dstStride0, dstStride1, dstStride2},
                           Kind::fit(src1Width, src1Height, src2Width, src2Height));
 }
 template <class Kind, class T>
 VORM_INLINE auto mamaL(MAMA_PARAMS_L(T))
 {
-    return arrayCallOf<T>(mamaWork<Kind>(src1Width, src1Height, src2Width, src2Height, count), count,
-                          MatrixList{ppSrc1, src1Shift, src1Stride1, src1Stride2}, Size{src1Width}, Size{src1Height},
-                          MatrixList{ppSrc2, src2Shift, src2Stride1, src2Stride2}, Size{src2Width}, Size{src2Height},
-                          MatrixList{ppDst, dstShift, dstStride1, dstStride2},
+    return arrayCallOf<T>(mamaWork<Kind>(src1Width, src1Height, src2Width, src2Height, count, byType<T>(85, 130)),
+                          count, MatrixList{ppSrc1, src1Shift, src1Stride1, src1Stride2}, Size{src1Width},
+                          Size{src1Height}, MatrixList{ppSrc2, src2Shift, src2Stride1, src2Stride2}, Size{src2Width},
+                          Size{src2Height}, MatrixList{ppDst, dstShift, dstStride1, dstStride2},
                           Kind::fit(src1Width, src1Height, src2Width, src2Height));
 }
 template <class Kind, class T>
 VORM_INLINE auto mamaP(MAMA_PARAMS_P(T))
 {
     return arrayCallOf<T>(
-        mamaWork<Kind>(src1Width, src1Height, src2Width, src2Height, count), count,
+        mamaWork<Kind>(src1Width, src1Height, src2Width, src2Height, count, byType<T>(82, 165)), count,
         MatrixArrayPointers{ppSrc1, src1Shift, src1Stride0, src1Width}, Size{src1Width}, Size{src1Height},
         MatrixArrayPointers{ppSrc2, src2Shift, src2Stride0, src2Width}, Size{src2Width}, Size{src2Height},
         MatrixArrayPointers{ppDst, dstShift, dstStride0, Kind::lengths(src1Width, src1Height, src2Width, src2Height).n},

@@ -21,25 +21,29 @@
 
 namespace vorm::elementwise {
 
-constexpr Work vacaWork(int len, int count) { return workOf(wrapMul(count, wrapAdd(wrapMul(2, len), 1)), 250); }
+constexpr Work vacaWork(int len, int count, int picoseconds)
+{
+    return workOf(wrapMul(count, wrapAdd(wrapMul(2, len), 1)), picoseconds, len, count);
+}
 
 template <class T>
 VORM_INLINE auto vaca(VACA_PARAMS(T))
 {
-    return arrayCallOf<T>(vacaWork(len, count), count, VectorArray{pSrc, srcStride0, srcStride2},
+    return arrayCallOf<T>(vacaWork(len, count, byType<T>(165, 460)), count, VectorArray{pSrc, srcStride0, srcStride2},
                           ConstantArray{pVal, valStride0}, VectorArray{pDst, dstStride0, dstStride2}, Size{len});
 }
 template <class T>
 VORM_INLINE auto vacaL(VACA_PARAMS_L(T))
 {
-    return arrayCallOf<T>(vacaWork(len, count), count, VectorList{ppSrc, srcShift, srcStride2},
+    return arrayCallOf<T>(vacaWork(len, count, byType<T>(340, 550)), count, VectorList{ppSrc, srcShift, srcStride2},
                           ConstantList{ppVal, valShift}, VectorList{ppDst, dstShift, dstStride2}, Size{len});
 }
 template <class T>
 VORM_INLINE auto vacaP(VACA_PARAMS_P(T))
 {
-    return arrayCallOf<T>(vacaWork(len, count), count, VectorArrayPointers{ppSrc, srcShift, srcStride0},
-                          ConstantArray{pVal, valStride0}, VectorArrayPointers{ppDst, dstShift, dstStride0}, Size{len});
+    return arrayCallOf<T>(vacaWork(len, count, byType<T>(170, 480)), count,
+                          VectorArrayPointers{ppSrc, srcShift, srcStride0}, ConstantArray{pVal, valStride0},
+                          VectorArrayPointers{ppDst, dstShift, dstStride0}, Size{len});
 }
 
 }  // namespace vorm::elementwise

@@ -33,16 +33,17 @@ namespace vorm::products {
 
 // W1 H1 + (M + K) N count
 template <class Kind>
-constexpr Work mmaWork(int src1Width, int src1Height, int src2Width, int src2Height, int count)
+constexpr Work mmaWork(int src1Width, int src1Height, int src2Width, int src2Height, int count, int picoseconds)
 {
     const Lengths d = Kind::lengths(src1Width, src1Height, src2Width, src2Height);
-    return workOf(wrapAdd(wrapMul(src1Width, src1Height), wrapMul(wrapAdd(d.m, d.k), d.n, count)), 250);
+    return workOf(wrapAdd(wrapMul(src1Width, src1Height), wrapMul(wrapAdd(d.m, d.k), d.n, count)), picoseconds, d.m,
+                  d.n, d.k, count);
 }
 
 template <class Kind, class T>
 VORM_INLINE auto mma(MMA_PARAMS(T))
 {
-    return arrayCallOf<T>(mmaWork<Kind>(src1Width, src1Height, src2Width, src2Height, count), count,
+    return arrayCallOf<T>(mmaWork<Kind>(src1Width, src1Height, src2Width, src2Height, count, byType<T>(58, 95)), count,
                           Matrix{pSrc1, src1Stride1, src1Stride2}, Size{src1Width}, Size{src1Height},
                           MatrixArray{pSrc2, src2Stride0, src2Stride1, src2Stride2}, Size{src2Width}, Size{src2Height},
                           MatrixArray{pDst, dstStride0, dstStride1, dstStride2},
@@ -51,7 +52,7 @@ VORM_INLINE auto mma(MMA_PARAMS(T))
 template <class Kind, class T>
 VORM_INLINE auto mmaL(MMA_PARAMS_L(T))
 {
-    return arrayCallOf<T>(mmaWork<Kind>(src1Width, src1Height, src2Width, src2Height, count), count,
+    return arrayCallOf<T>(mmaWork<Kind>(src1Width, src1Height, src2Width, src2Height, count, byType<T>(60, 105)), count,
                           Matrix{pSrc1, src1Stride1, src1Stride2}, Size{src1Width}, Size{src1Height},
                           MatrixList{ppSrc2, src2Shift, src2Stride1, src2Stride2}, Size{src2Width}, Size{src2Height},
                           MatrixList{ppDst, dstShift, dstStride1, dstStride2},
@@ -61,7 +62,7 @@ template <class Kind, class T>
 VORM_INLINE auto mmaP(MMA_PARAMS_P(T))
 {
     return arrayCallOf<T>(
-        mmaWork<Kind>(src1Width, src1Height, src2Width, src2Height, count), count,
+        mmaWork<Kind>(src1Width, src1Height, src2Width, src2Height, count, byType<T>(65, 120)), count,
         MatrixPointers{ppSrc1, src1Shift, src1Width}, Size{src1Width}, Size{src1Height},
         MatrixArrayPointers{ppSrc2, src2Shift, src2Stride0, src2Width}, Size{src2Width}, Size{src2Height},
         MatrixArrayPointers{ppDst, dstShift, dstStride0, Kind::lengths(src1Width, src1Height, src2Width, src2Height).n},

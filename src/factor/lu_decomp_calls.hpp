@@ -106,7 +106,7 @@ VORM_INLINE VormStatus pointerKernel(const ArrayCall<T, TheTests, Parts>& call, 
                                order.value, n);
             };
             if (order.value <= bufferedOrder && inPlanes(src) &&
-                storableAsPlanes(dst, order.value, order.value, count.value))
+                storableAsPlanes(dst, order.value, order.value, count.objects()))
                 return luDecompArray<T>(asPlanes(src), asPlanes(dst), pivots.p, order.value, count.value, single);
             return luDecompArray<T>(src, dst, pivots.p, order.value, count.value, single);
         });

@@ -21,26 +21,29 @@
 
 namespace vorm::elementwise {
 
-constexpr Work vvaWork(int len, int count) { return workOf(wrapMul(wrapAdd(wrapMul(2, count), 1), len), 250); }
+constexpr Work vvaWork(int len, int count, int picoseconds)
+{
+    return workOf(wrapMul(wrapAdd(wrapMul(2, count), 1), len), picoseconds, len, count);
+}
 
 template <class T>
 VORM_INLINE auto vva(VVA_PARAMS(T))
 {
-    return arrayCallOf<T>(vvaWork(len, count), count, Vector{pSrc1, src1Stride2},
+    return arrayCallOf<T>(vvaWork(len, count, byType<T>(130, 420)), count, Vector{pSrc1, src1Stride2},
                           VectorArray{pSrc2, src2Stride0, src2Stride2}, VectorArray{pDst, dstStride0, dstStride2},
                           Size{len});
 }
 template <class T>
 VORM_INLINE auto vvaL(VVA_PARAMS_L(T))
 {
-    return arrayCallOf<T>(vvaWork(len, count), count, Vector{pSrc1, src1Stride2},
+    return arrayCallOf<T>(vvaWork(len, count, byType<T>(260, 460)), count, Vector{pSrc1, src1Stride2},
                           VectorList{ppSrc2, src2Shift, src2Stride2}, VectorList{ppDst, dstShift, dstStride2},
                           Size{len});
 }
 template <class T>
 VORM_INLINE auto vvaP(VVA_PARAMS_P(T))
 {
-    return arrayCallOf<T>(vvaWork(len, count), count, VectorPointers{ppSrc1, src1Shift},
+    return arrayCallOf<T>(vvaWork(len, count, byType<T>(135, 400)), count, VectorPointers{ppSrc1, src1Shift},
                           VectorArrayPointers{ppSrc2, src2Shift, src2Stride0},
                           VectorArrayPointers{ppDst, dstShift, dstStride0}, Size{len});
 }

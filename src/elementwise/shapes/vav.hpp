@@ -21,7 +21,10 @@
 
 namespace vorm::elementwise {
 
-constexpr Work vavWork(int len, int count) { return workOf(wrapMul(wrapAdd(wrapMul(2, count), 1), len), 250); }
+constexpr Work vavWork(int len, int count, int picoseconds)
+{
+    return workOf(wrapMul(wrapAdd(wrapMul(2, count), 1), len), picoseconds, len, count);
+}
 
 // Unlike the other array shapes, vav tests the strides before the count.
 using VavTests = Tests<Test::null, Test::size, Test::stride, Test::count, Test::shift>;
@@ -30,21 +33,23 @@ using VavTestsL = Tests<Test::null, Test::size, Test::stride, Test::shift, Test:
 template <class T>
 VORM_INLINE auto vav(VAV_PARAMS(T))
 {
-    return arrayCallOf<T, VavTests>(vavWork(len, count), count, VectorArray{pSrc1, src1Stride0, src1Stride2},
-                                    Vector{pSrc2, src2Stride2}, VectorArray{pDst, dstStride0, dstStride2}, Size{len});
+    return arrayCallOf<T, VavTests>(vavWork(len, count, byType<T>(130, 420)), count,
+                                    VectorArray{pSrc1, src1Stride0, src1Stride2}, Vector{pSrc2, src2Stride2},
+                                    VectorArray{pDst, dstStride0, dstStride2}, Size{len});
 }
 template <class T>
 VORM_INLINE auto vavL(VAV_PARAMS_L(T))
 {
-    return arrayCallOf<T, VavTestsL>(vavWork(len, count), count, VectorList{ppSrc1, src1Shift, src1Stride2},
-                                     Vector{pSrc2, src2Stride2}, VectorList{ppDst, dstShift, dstStride2}, Size{len});
+    return arrayCallOf<T, VavTestsL>(vavWork(len, count, byType<T>(260, 460)), count,
+                                     VectorList{ppSrc1, src1Shift, src1Stride2}, Vector{pSrc2, src2Stride2},
+                                     VectorList{ppDst, dstShift, dstStride2}, Size{len});
 }
 template <class T>
 VORM_INLINE auto vavP(VAV_PARAMS_P(T))
 {
-    return arrayCallOf<T, VavTests>(vavWork(len, count), count, VectorArrayPointers{ppSrc1, src1Shift, src1Stride0},
-                                    VectorPointers{ppSrc2, src2Shift}, VectorArrayPointers{ppDst, dstShift, dstStride0},
-                                    Size{len});
+    return arrayCallOf<T, VavTests>(
+        vavWork(len, count, byType<T>(135, 400)), count, VectorArrayPointers{ppSrc1, src1Shift, src1Stride0},
+        VectorPointers{ppSrc2, src2Shift}, VectorArrayPointers{ppDst, dstShift, dstStride0}, Size{len});
 }
 
 }  // namespace vorm::elementwise

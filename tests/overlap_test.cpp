@@ -1,5 +1,4 @@
-// vormAdd and vormSub of single vectors: beyond the small sizes a loop over ascending elements, so that the
-// destination may overlap either source.
+// Destinations that overlap a source in part, where that is promised.
 
 #include <gtest/gtest.h>
 
@@ -7,6 +6,7 @@
 
 namespace {
 
+// Sums of single vectors are loops over ascending elements beyond the small sizes.
 template <class T>
 void checkOverlaps(const Function& f, std::size_t overlapped, Random& random)
 {
@@ -38,13 +38,35 @@ void checkOverlaps(const Function& f, std::size_t overlapped, Random& random)
         }
 }
 
-TEST(VectorSums, SingleVectorsMayOverlap)
+TEST(Overlap, SumsOfSingleVectors)
 {
     Random random(20120924);
     for (const Function& f : catalogue())
         for (std::size_t k = 0; k < 2 && (f.family == "Add" || f.family == "Sub"); ++k)
             if (!f.isArray() && !f.isFixed() && f.layout.empty() && f.operands[k].kind == 'v')
                 f.type == "32f" ? checkOverlaps<float>(f, k, random) : checkOverlaps<double>(f, k, random);
+}
+
+TEST(Overlap, FixedProduct)
+{
+    float source[48], a[16], b[16], wanted[16];
+    for (int k = 0; k < 48; ++k) source[k] = static_cast<float>(k * k % 17) - 8;
+    EXPECT_EQ(vormMul_mm4x4_32f(nullptr, source, source), StatusNullPointer);
+    EXPECT_EQ(vormMul_mm4x4_32f(source, nullptr, source), StatusNullPointer);
+    EXPECT_EQ(vormMul_mm4x4_32f(source, source, nullptr), StatusNullPointer);
+
+    // The destination anywhere over the sources, apart, in place or overlapping in part.
+    for (int to = 0; to <= 32; ++to) {
+        float memory[48];
+        std::memcpy(memory, source, sizeof memory);
+        std::memcpy(a, memory + 1, sizeof a), std::memcpy(b, memory + 17, sizeof b);
+        for (int i = 0; i < 4; ++i)
+            for (int j = 0; j < 4; ++j)
+                wanted[4 * i + j] =
+                    a[4 * i] * b[j] + a[4 * i + 1] * b[4 + j] + a[4 * i + 2] * b[8 + j] + a[4 * i + 3] * b[12 + j];
+        ASSERT_EQ(vormMul_mm4x4_32f(memory + 1, memory + 17, memory + to), StatusOk);
+        EXPECT_EQ(std::memcmp(memory + to, wanted, sizeof wanted), 0) << to;
+    }
 }
 
 }  // namespace

@@ -20,24 +20,28 @@
 
 namespace vorm::elementwise {
 
-constexpr Work vacWork(int len, int count) { return workOf(wrapMul(wrapAdd(wrapMul(2, count), 1), len), 250); }
+constexpr Work vacWork(int len, int count, int picoseconds)
+{
+    return workOf(wrapMul(wrapAdd(wrapMul(2, count), 1), len), picoseconds, len, count);
+}
 
 template <class T>
 VORM_INLINE auto vac(VAC_PARAMS(T))
 {
-    return arrayCallOf<T>(vacWork(len, count), count, VectorArray{pSrc, srcStride0, srcStride2}, Constant{val},
-                          VectorArray{pDst, dstStride0, dstStride2}, Size{len});
+    return arrayCallOf<T>(vacWork(len, count, byType<T>(130, 420)), count, VectorArray{pSrc, srcStride0, srcStride2},
+                          Constant{val}, VectorArray{pDst, dstStride0, dstStride2}, Size{len});
 }
 template <class T>
 VORM_INLINE auto vacL(VAC_PARAMS_L(T))
 {
-    return arrayCallOf<T>(vacWork(len, count), count, VectorList{ppSrc, srcShift, srcStride2}, Constant{val},
-                          VectorList{ppDst, dstShift, dstStride2}, Size{len});
+    return arrayCallOf<T>(vacWork(len, count, byType<T>(260, 460)), count, VectorList{ppSrc, srcShift, srcStride2},
+                          Constant{val}, VectorList{ppDst, dstShift, dstStride2}, Size{len});
 }
 template <class T>
 VORM_INLINE auto vacP(VAC_PARAMS_P(T))
 {
-    return arrayCallOf<T>(vacWork(len, count), count, VectorArrayPointers{ppSrc, srcShift, srcStride0}, Constant{val},
+    return arrayCallOf<T>(vacWork(len, count, byType<T>(135, 400)), count,
+                          VectorArrayPointers{ppSrc, srcShift, srcStride0}, Constant{val},
                           VectorArrayPointers{ppDst, dstShift, dstStride0}, Size{len});
 }
 
