@@ -12,7 +12,7 @@
 
 #include "elementwise/kernels.hpp"
 #include "frame/call.hpp"
-#include "frame/lanes.hpp"
+#include "frame/object_lanes.hpp"
 #include "frame/operands.hpp"
 #include "frame/rows.hpp"
 #include "frame/small_vector.hpp"
@@ -252,11 +252,11 @@ class LanesOf : public testing::Test {
 using Types = testing::Types<float, double>;
 TYPED_TEST_SUITE(LanesOf, Types);
 
-TYPED_TEST(LanesOf, EachLaneAsTheScalar)
+template <class L>
+void eachLaneAsTheScalar()
 {
-    using T = TypeParam;
+    using T = Element<L>;
     using Bits = std::conditional_t<sizeof(T) == 4, std::uint32_t, std::uint64_t>;
-    constexpr int width = Lanes<T>::width;
     const T inf = std::numeric_limits<T>::infinity(), nan = std::numeric_limits<T>::quiet_NaN();
     const T values[] = {0, T(-0.0), 1, T(-2.5), inf, -inf, nan, std::numeric_limits<T>::denorm_min(), T(1) / 3, 7};
     const auto same = [](T x, T y) {
@@ -264,41 +264,68 @@ TYPED_TEST(LanesOf, EachLaneAsTheScalar)
     };
     for (T x : values)
         for (T y : values) {
-            T a[width], b[width], out[width];
-            for (int k = 0; k < width; ++k) a[k] = k % 2 ? x : y, b[k] = k % 2 ? y : x;
-            const auto la = Lanes<T>::load(a), lb = Lanes<T>::load(b);
-            const auto expect = [&](Lanes<T> lanes, auto scalar) {
+            T a[L::width], b[L::width], out[L::width];
+            for (int k = 0; k < L::width; ++k) a[k] = k % 2 ? x : y, b[k] = k % 2 ? y : x;
+            const auto la = L::load(a), lb = L::load(b);
+            const auto expect = [&](L lanes, auto scalar) {
                 lanes.store(out);
-                for (int k = 0; k < width; ++k) EXPECT_TRUE(same(out[k], scalar(a[k], b[k]))) << a[k] << " " << b[k];
+                for (int k = 0; k < L::width; ++k) EXPECT_TRUE(same(out[k], scalar(a[k], b[k]))) << a[k] << " " << b[k];
             };
             expect(la + lb, [](T u, T v) { return u + v; });
             expect(la - lb, [](T u, T v) { return u - v; });
             expect(la * lb, [](T u, T v) { return u * v; });
             expect(la / lb, [](T u, T v) { return u / v; });
+            expect(-la, [](T u, T) { return -u; });
             expect(sqrt(la), [](T u, T) { return std::sqrt(u); });
             expect(abs(la), [](T u, T) { return std::fabs(u); });
+            expect(larger(la, lb), [](T u, T v) { return vorm::larger(u, v); });
+            expect(timesSignOf(la, lb), [](T u, T v) { return vorm::timesSignOf(u, v); });
             expect(select(la < lb, la, lb), [](T u, T v) { return vorm::select(u < v, u, v); });
             expect(select(la <= lb, la, lb), [](T u, T v) { return u <= v ? u : v; });
             expect(select(la > lb, la, lb), [](T u, T v) { return u > v ? u : v; });
             expect(select(la >= lb, la, lb), [](T u, T v) { return u >= v ? u : v; });
-            expect(select((la == lb) | (la < lb), la, Lanes<T>(T(5))), [](T u, T v) { return u <= v ? u : T(5); });
+            expect(select((la == lb) | (la < lb), la, L(T(5))), [](T u, T v) { return u <= v ? u : T(5); });
+            expect(where(without(la <= lb, la < lb), la), [](T u, T v) { return u == v ? u : T(0); });
+            expect(changed(lb, difference(la < lb, la, lb)), [](T u, T v) { return u < v ? u : v; });
+            if constexpr (sizeof(T) == sizeof(float)) {
+                expect(estimateReciprocal(la), [](T u, T) { return vorm::estimateReciprocal(u); });
+                expect(estimateReciprocalRoot(la), [](T u, T) { return vorm::estimateReciprocalRoot(u); });
+            }
             EXPECT_EQ(any((la < lb) & (lb < la)), false);
             EXPECT_EQ(any(la < lb), x < y || y < x);
+            EXPECT_EQ(all(la <= lb), x == y);
         }
 }
+TYPED_TEST(LanesOf, EachLaneAsTheScalar)
+{
+    eachLaneAsTheScalar<Lanes<TypeParam>>();
+    eachLaneAsTheScalar<Wide<TypeParam>>();
+}
 
-TYPED_TEST(LanesOf, TransposeTurnsObjectsIntoLanes)
+// Rows of any length from addresses of their own, into lanes and back, at any width.
+TYPED_TEST(LanesOf, RowsTurned)
 {
     using T = TypeParam;
-    constexpr int width = Lanes<T>::width;
-    T block[width * width], turned[width * width];
-    for (int k = 0; k < width * width; ++k) block[k] = T(k);
-    Lanes<T> rows[width];
-    for (int k = 0; k < width; ++k) rows[k] = Lanes<T>::load(block + k * width);
-    transpose(rows);
-    for (int k = 0; k < width; ++k) rows[k].store(turned + k * width);
-    for (int r = 0; r < width; ++r)
-        for (int c = 0; c < width; ++c) EXPECT_EQ(turned[r * width + c], block[c * width + r]);
+    constexpr int width = Wide<T>::width, longest = 11;
+    T memory[width * longest], back[width * longest];
+    const T* from[width];
+    T* to[width];
+    for (int i = 0; i < width * longest; ++i) memory[i] = T(i);
+    for (int l = 0; l < width; ++l) {
+        from[l] = memory + (width - 1 - l) * longest;
+        to[l] = back + (width - 1 - l) * longest;
+    }
+    for (int n = 1; n <= longest; ++n) {
+        Wide<T> lanes[longest];
+        for (T& element : back) element = T(-1);
+        loadRows(
+            from, [&](int c) -> auto& { return lanes[c]; }, n);
+        storeRows(
+            to, [&](int c) { return lanes[c]; }, n);
+        for (int c = 0; c < n; ++c)
+            for (int l = 0; l < width; ++l) EXPECT_EQ(reinterpret_cast<const T*>(lanes)[c * width + l], from[l][c]);
+        for (int i = 0; i < width * longest; ++i) EXPECT_EQ(back[i], i % longest < n ? memory[i] : T(-1)) << n;
+    }
 }
 
 // Vectors of every small length: exactly their elements are stored, at any address.
