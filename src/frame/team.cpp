@@ -4,6 +4,7 @@
 #include "frame/team.hpp"
 
 #include <omp.h>
+#include <unistd.h>
 
 #include <algorithm>
 
@@ -36,6 +37,17 @@ struct Cut {
     int base, extra;
 };
 
+// LLVM's runtime (14, for one) ends the process where it begins and may not write to /dev/shm, as in some
+// sandboxes. There everything runs on one thread.
+bool runtimeWorks()
+{
+#ifdef VORM_HAVE_KMPC_MALLOC
+    return access("/dev/shm", W_OK | X_OK) == 0;
+#else
+    return true;
+#endif
+}
+
 // The size of a team that the runtime would open now for so many threads.
 int allowed(int threads)
 {
@@ -65,6 +77,20 @@ VormStatus runWhole(const TeamCall& call, char* scratch)
     return call.work(call.state, {0, call.count, 0, scratch}, failed);
 }
 
+// A call that nobody else works for. The runtime is not asked unless an object fails: then the cut tells where to go
+// on.
+VormStatus runAlone(const TeamCall& call, int asked)
+{
+    int failed = 0;
+    const VormStatus status = call.work(call.state, {0, call.count, 0, nullptr}, failed);
+    if (status != StatusOk && runtimeWorks()) {
+        const int chunks = allowed(asked);
+        const Cut cut(call.count, chunks);
+        runChunks(call, cut, cut.chunkOf(failed) + 1, chunks, nullptr);
+    }
+    return status;
+}
+
 }  // namespace
 
 VormStatus runInTeam(const TeamCall& call)
@@ -77,6 +103,9 @@ VormStatus runInTeam(const TeamCall& call)
     const int asked = std::max(1, static_cast<int>(ownGetNumThreads()));
     const bool canFail = call.kernels == Kernels::canFail;
     const bool pays = forksAlways || call.picoseconds >= 2 * leastPicosecondsPerWorker;
+    if (!pays && call.scratchPerWorker == 0 && (call.tellsWhere || !canFail)) return runAlone(call, asked);
+    if (!runtimeWorks()) return runWhole(call, nullptr);
+
     const int most = pays || canFail ? allowed(asked) : 1;
     const int processors = forksAlways ? most : pays ? omp_get_num_procs() : 1;
     const int workers = workersFor(forksAlways ? INT64_MAX : call.picoseconds, most, processors);
