@@ -147,7 +147,7 @@ VORM_INLINE VormStatus contiguousObject(const A& a, const B& b, const Vector<T, 
         if constexpr (isConstant<std::decay_t<decltype(view)>>)
             return true;
         else
-            return runsAsLoop(view.p, dst.p, sizeof(Wide<T>));
+            return runsAsLoop(view.p, dst.p, sizeof(RunRegister<T>));
     };
     switch (len) {
     case 3: eachObject<Op, SmallVector<T, 3>>(a, b, dst, 0, 1); break;

@@ -7,6 +7,10 @@
 
 namespace vorm::elementwise {
 
+// Where runs are long the memory decides: registers of 512 bits, most of which would cross lines of the cache, lose.
+template <class T>
+using RunRegister = UpTo<T, 2>;
+
 // A source of a run: elements side by side, or one value everywhere.
 template <class T>
 struct Along {
@@ -24,7 +28,7 @@ struct Along {
 };
 template <class T>
 struct Everywhere {
-    Wide<T> value;
+    RunRegister<T> value;
     template <int Count = Lanes<T>::width>
     VORM_INLINE Lanes<T> lanes(std::ptrdiff_t) const
     {
@@ -53,15 +57,15 @@ VORM_INLINE void runTail(A a, B b, T* dst, std::ptrdiff_t i, std::ptrdiff_t leng
 template <class Op, class A, class B, class T>
 VORM_INLINE void run(A a, B b, T* dst, std::ptrdiff_t length)
 {
-    constexpr int width = Wide<T>::width;
+    constexpr int width = RunRegister<T>::width;
     std::ptrdiff_t i = 0;
     const auto one = [&]<class L>(L, std::ptrdiff_t at) VORM_INLINE_LAMBDA {
         Op::apply(a.template lanes<L>(at), b.template lanes<L>(at)).store(dst + at);
     };
     // Each register is stored before the next is loaded: faster here than four loads, then four stores.
     for (; i + 4 * width <= length; i += 4 * width)
-        for (int k = 0; k < 4; ++k) one(Wide<T>(), i + k * width);
-    for (; i + width <= length; i += width) one(Wide<T>(), i);
+        for (int k = 0; k < 4; ++k) one(RunRegister<T>(), i + k * width);
+    for (; i + width <= length; i += width) one(RunRegister<T>(), i);
     if constexpr (width > Lanes<T>::width)
         for (; i + Lanes<T>::width <= length; i += Lanes<T>::width) one(Lanes<T>(), i);
     runTail<Op>(a, b, dst, i, length);
