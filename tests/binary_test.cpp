@@ -65,7 +65,11 @@ TEST(Binary, SizeOfTheCode)
 #ifndef VORM_OPTIMISED
     GTEST_SKIP() << "not an optimised build without sanitizers";
 #endif
-    constexpr long budget = 2800000;
+#ifdef __clang__
+    constexpr long budget = 2500000;
+#else
+    constexpr long budget = 2000000;
+#endif
     std::istringstream lines(outputOf("size"));
     std::string heading;
     std::getline(lines, heading);

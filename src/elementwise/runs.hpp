@@ -28,12 +28,12 @@ struct Everywhere {
     template <int Count = Lanes<T>::width>
     VORM_INLINE Lanes<T> lanes(std::ptrdiff_t) const
     {
-        return firstLanes<Lanes<T>>(value);
+        return narrowed<Lanes<T>>(value);
     }
     template <class L>
     VORM_INLINE L lanes(std::ptrdiff_t) const
     {
-        return firstLanes<L>(value);
+        return narrowed<L>(value);
     }
 };
 

@@ -162,19 +162,21 @@ template bool luFactorise(Lanes<double>* a, int* order, int n);
 namespace {
 
 // Sums of up to bufferedOrder - 1 products, from zero, whose number of terms is known: loops over so few
-// terms cost as much as the terms. Eight terms go to sums of their own, as sumOfProducts has it.
+// terms cost as much as the terms. Eight terms go to sums of their own, as sumOfProducts has it. Factors that are
+// the same in all lanes may lie in wider registers than those of the sum.
 template <int terms, class Factor, class Number>
 Number sumOf(const Factor* row, const Number* x)
 {
     static_assert(terms < 16);
     constexpr int group = terms >= 8 ? 8 : 0;
-    const Number zero = Factor(Element<Number>(0));
+    const auto product = [&](int j) VORM_INLINE_LAMBDA -> Number { return narrowed<Number>(row[j]) * x[j]; };
+    const Number zero = RegisterIn<Number>(Element<Number>(0));
     Number total = zero;
     if constexpr (group == 8) {
-        const auto term = [&](int j) VORM_INLINE_LAMBDA { return zero + row[j] * x[j]; };
+        const auto term = [&](int j) VORM_INLINE_LAMBDA { return zero + product(j); };
         total = ((term(0) + term(1)) + (term(2) + term(3))) + ((term(4) + term(5)) + (term(6) + term(7)));
     }
-    unrolled<terms - group>([&](auto j) VORM_INLINE_LAMBDA { total = total + row[group + j] * x[group + j]; });
+    unrolled<terms - group>([&](auto j) VORM_INLINE_LAMBDA { total = total + product(group + j); });
     return total;
 }
 template <class Factor, class Number, int... terms>
@@ -189,17 +191,27 @@ template <class Factor, class Number>
 void luSubstituteBuffered(const Factor* lu, Number* x, int n)
 {
     static constexpr auto byTerms = sumsByTerms<Factor, Number>(std::make_integer_sequence<int, bufferedOrder>{});
+    const auto factor = [&](int i) VORM_INLINE_LAMBDA { return narrowed<Number>(lu[i]); };
     for (int i = 1; i < n; ++i) x[i] = x[i] - byTerms[std::size_t(i)](lu + i * n, x);
-    x[n - 1] = x[n - 1] / lu[n * n - 1];
+    x[n - 1] = x[n - 1] / factor(n * n - 1);
     for (int i = n - 2; i >= 0; --i)
-        x[i] = (x[i] - byTerms[std::size_t(n - 1 - i)](lu + i * n + i + 1, x + i + 1)) / lu[i * n + i];
+        x[i] = (x[i] - byTerms[std::size_t(n - 1 - i)](lu + i * n + i + 1, x + i + 1)) / factor(i * n + i);
 }
 
 #define LU_SUBSTITUTE(Factor, Number) template void luSubstituteBuffered(const Factor* lu, Number* x, int n);
-#define LU_SUBSTITUTES(T)                   \
-    LU_SUBSTITUTE(Lanes<T>, Lanes<T>)       \
-    LU_SUBSTITUTE(Lanes<T>, LuOneMatrix<T>) \
-    LU_SUBSTITUTE(LuOwnMatrices<T>, LuOwnMatrices<T>)
+#define LU_SUBSTITUTES(T)                             \
+    LU_SUBSTITUTE(Lanes<T>, Lanes<T>)                 \
+    LU_SUBSTITUTE(Lanes<T>, LuOneMatrix<Lanes<T>>)    \
+    LU_SUBSTITUTE(LuOwnMatrices<T>, LuOwnMatrices<T>) \
+    LU_WIDE_SUBSTITUTES(T)
+#ifdef VORM_WIDER_REGISTERS
+#define LU_WIDE_SUBSTITUTES(T)                   \
+    LU_SUBSTITUTE(Wide<T>, LuOneMatrix<Wide<T>>) \
+    LU_SUBSTITUTE(Wide<T>, Wide<T>)              \
+    LU_SUBSTITUTE(Wide<T>, Lanes<T>)
+#else
+#define LU_WIDE_SUBSTITUTES(T)
+#endif
 
 LU_SUBSTITUTES(float)
 LU_SUBSTITUTES(double)

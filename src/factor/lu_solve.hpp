@@ -162,19 +162,22 @@ VORM_INLINE VormStatus luSolveObjects(const M& matrix, const B& b, const X& dst,
 template <int n, class T, class M, class B, class X>
 VORM_SHARED void luSolvePairs(const M matrix, const B b, const X dst, const int* pivotIndex, int count)
 {
-    using Widest = std::conditional_t<isInPlanes<M> || isAdjacent<M>, Wide<T>, T>;
-    inBlocks<Widest>(dst, 1, n, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
-        return luSolveObjects<n, Number>(matrix, b, dst, first, pivotIndex + std::ptrdiff_t{first} * n);
-    });
+    // Rows of their own come from an address for each lane: three floats, or four parts, fill wide registers too
+    // slowly.
+    using Some = UpTo<T, isAdjacent<M> && n == 3 && sizeof(T) == sizeof(float) ? 1 : 2>;
+    inBlocks<std::conditional_t<isInPlanes<M> || isAdjacent<M>, Some, T>>(
+        dst, 1, n, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
+            return luSolveObjects<n, Number>(matrix, b, dst, first, pivotIndex + std::ptrdiff_t{first} * n);
+        });
 }
 
 // All vectors with one matrix: reciprocals of the diagonal, once per call. Single vectors run in lanes
 // too, all of them the same. A function of its own, as luArray is.
-template <int n, class T, class M, class B, class X>
-VORM_SHARED void luSolveVectors(const M matrix, const B b, const X dst, const int* pivotIndex, int count)
+template <int n, class L, class M, class B, class X>
+VORM_SHARED void luSolveVectorsIn(const M matrix, const B b, const X dst, const int* pivotIndex, int count)
 {
+    using T = Element<L>;
     constexpr bool whole = isAdjacent<B> || isInPlanes<B>;
-    using L = std::conditional_t<whole, Wide<T>, Lanes<T>>;
     L lu[n][n], reciprocals[n];
     int rows[n];
     for (int i = 0; i < n; ++i) {
@@ -199,28 +202,41 @@ VORM_SHARED void luSolveVectors(const M matrix, const B b, const X dst, const in
     inBlocks<Widest>(dst, 1, n, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
         constexpr bool isSingle = !inLanes<Number>;
         using Unknown = std::conditional_t<isSingle, Lanes<T>, Number>;
-        using Factor = std::conditional_t<objectsIn<Number> >= L::width, L, Lanes<T>>;
+        using One = RegisterIn<Unknown>;
         Unknown x[n];
         if constexpr (isSingle) {
             for (int k = 0; k < n; ++k) x[k] = T(b(first, rows[k]));
         } else if constexpr (isInPlanes<B>) {
             for (int k = 0; k < n; ++k)
                 unrolled<registersIn<Unknown>>([&](auto r) VORM_INLINE_LAMBDA {
-                    registerOf(x[k], r) = Factor::load(planes[k] + first + r * Factor::width);
+                    registerOf(x[k], r) = One::load(planes[k] + first + r * One::width);
                 });
         } else {
             Unknown natural[n];
             loadVectors(b, first, natural, constant<n>);
             for (int k = 0; k < n; ++k) x[k] = natural[rows[k]];
         }
-        luSubstitute([&](int i, int j) VORM_INLINE_LAMBDA { return firstLanes<Factor>(coefficients[i][j]); }, x,
-                     [&](Unknown value, int i) VORM_INLINE_LAMBDA { return value * firstLanes<Factor>(inverses[i]); });
+        luSubstitute([&](int i, int j) VORM_INLINE_LAMBDA { return narrowed<Unknown>(coefficients[i][j]); }, x,
+                     [&](Unknown value, int i) VORM_INLINE_LAMBDA { return value * narrowed<Unknown>(inverses[i]); });
         if constexpr (isSingle)
             for (int i = 0; i < n; ++i) dst(first, i) = firstLane(x[i]);
         else
             storeVectors(dst, first, x, constant<n>);
         return StatusOk;
     });
+}
+
+// Wider registers for so many vectors only that it pays to set them up.
+template <class T>
+constexpr int manyVectors = 4 * Wide<T>::width;
+template <int n, class T, class M, class B, class X>
+VORM_INLINE void luSolveVectors(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int count)
+{
+    // Three floats fill wide registers too slowly.
+    using Widest = UpTo<T, isAdjacent<B> && n == 3 && sizeof(T) == sizeof(float) ? 1 : 4>;
+    if constexpr (Widest::parts > 1 && (isAdjacent<B> || isInPlanes<B>))
+        if (count >= manyVectors<T>) return luSolveVectorsIn<n, Widest>(matrix, b, dst, pivotIndex, count);
+    luSolveVectorsIn<n, Lanes<T>>(matrix, b, dst, pivotIndex, count);
 }
 
 }  // namespace vorm::factor

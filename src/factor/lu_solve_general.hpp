@@ -95,9 +95,9 @@ VORM_HIDDEN void luSubstituteBuffered(const Factor* lu, Number* x, int n);
 
 // Orders up to bufferedOrder run so many registers of objects at once, as every sum waits for its last unknown.
 template <class T>
-using LuOwnMatrices = Several<Lanes<T>, 2>;
-template <class T>
-using LuOneMatrix = Several<Lanes<T>, 4>;
+using LuOwnMatrices = Several<Wide<T>, 2>;
+template <class L>
+using LuOneMatrix = Several<L, 4>;
 
 template <class T, class M, class B, class X>
 VORM_SHARED void luSolvePairs(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int n, int count)
@@ -113,7 +113,7 @@ VORM_SHARED void luSolvePairs(const M& matrix, const B& b, const X& dst, const i
             Number lu[bufferedOrder * bufferedOrder], x[bufferedOrder];
             if constexpr (isAdjacent<M> || isInPlanes<M>) {
                 eachRegister<Number>(n, first, [&](int k, int object) VORM_INLINE_LAMBDA {
-                    loadPivoted<Lanes<T>>(
+                    loadPivoted<RegisterIn<Number>>(
                         matrix, b, object, pivots(object),
                         n, [&](int r, int c) VORM_INLINE_LAMBDA -> auto& { return registerOf(lu[r * n + c], k); },
                         [&](int r) VORM_INLINE_LAMBDA -> auto& { return registerOf(x[r], k); });
@@ -129,28 +129,36 @@ VORM_SHARED void luSolvePairs(const M& matrix, const B& b, const X& dst, const i
     });
 }
 
-template <class T, class M, class B, class X>
-VORM_SHARED void luSolveVectors(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int n, int count)
+template <class L, class M, class B, class X>
+VORM_SHARED void luSolveVectorsIn(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int n, int count)
 {
+    using T = Element<L>;
     const bool fits = n <= bufferedOrder && count >= narrow<T>;
-    RowBuffer<T> lu;
+    L lu[bufferedOrder * bufferedOrder];
     if (fits)
         for (int k = 0; k < n; ++k)
             for (int c = 0; c < n; ++c) lu[k * n + c] = T(matrix(0, entry(pivotIndex, k), c));
     const auto buffered = [&]<class Number>(int first)
                               VORM_INLINE_LAMBDA { return fits && registersApart<Number>(dst, first, 1, n); };
-    inBlocks<LuOneMatrix<T>>(count, buffered, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
+    inBlocks<LuOneMatrix<L>>(count, buffered, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
         if constexpr (!inLanes<Number>) {
             luSolveGeneral<T>(matrix, b, dst, first, n, pivotIndex);
         } else {
             Number natural[bufferedOrder], x[bufferedOrder];
             loadVectors(b, first, natural, n);
             for (int k = 0; k < n; ++k) x[k] = natural[entry(pivotIndex, k)];
-            luSubstituteBuffered(static_cast<const Lanes<T>*>(lu), x, n);
+            luSubstituteBuffered(static_cast<const L*>(lu), x, n);
             storeVectors(dst, first, x, n);
         }
         return StatusOk;
     });
+}
+template <class T, class M, class B, class X>
+VORM_INLINE void luSolveVectors(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int n, int count)
+{
+    if constexpr (Wide<T>::parts > 1)
+        if (count >= manyVectors<T>) return luSolveVectorsIn<Wide<T>>(matrix, b, dst, pivotIndex, n, count);
+    luSolveVectorsIn<Lanes<T>>(matrix, b, dst, pivotIndex, n, count);
 }
 
 }  // namespace vorm::factor

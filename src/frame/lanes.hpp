@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "frame/memory.hpp"
+#include "frame/minmax.hpp"
 #include "frame/registers.hpp"
 #include "frame/unrolled.hpp"
 
@@ -81,6 +82,9 @@ struct Lanes {
 // As wide as the build has registers: for objects side by side, whose results are the same at any width.
 template <class T>
 using Wide = Lanes<T, widest<T>>;
+// No wider than some parts of 128 bits, where wider registers would be filled too slowly.
+template <class T, int parts>
+using UpTo = Lanes<T, min(widest<T>, parts* narrow<T>)>;
 
 // What a number is made of, one or a register of them.
 template <class Number>
@@ -193,14 +197,14 @@ VORM_INLINE void eachPart(Lanes<T, W> a, const Store& store)
                                      VORM_INLINE_LAMBDA { store(q, Lanes<T>(Register<T, W>::template part<q>(a.v))); });
 }
 
-// The first lanes of a register.
-template <class To, class T, int W>
-VORM_INLINE To firstLanes(Lanes<T, W> a)
+// The first lanes of a register that is too wide for a number; anything else as it is.
+template <class Number, class Wider>
+VORM_INLINE auto narrowed(const Wider& a)
 {
-    if constexpr (To::width == W)
-        return a;
+    if constexpr (objectsIn < Wider >> objectsIn<Number>)
+        return Number(Wider::R::template part<0>(a.v));
     else
-        return Register<T, W>::template part<0>(a.v);
+        return a;
 }
 
 // The first Count elements of a register, which touch no other memory. Three floats lie in lanes 0,
