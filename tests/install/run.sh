@@ -7,7 +7,7 @@ stage=$(mktemp -d)
 trap 'rm -rf "$stage"' EXIT
 
 cmake --install "$1" --prefix "$stage/usr" >/dev/null
-library=$(dirname "$(find "$stage/usr" -name libvormu8.so.7.1)")
+library=$(dirname "$(find "$stage/usr" -name libvormu8.so.7.1 -not -path '*/glibc-hwcaps/*')")
 for file in libvormu8.so libvorcore.so libvorcore.so.7.1 pkgconfig/vorm.pc cmake/vorm/vormConfig.cmake; do
     [ -e "$library/$file" ] || { echo "not installed: $file"; exit 1; }
 done
