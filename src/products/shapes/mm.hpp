@@ -57,7 +57,7 @@ template <class Kind, Bodies bodies = Bodies::upTo6, class T>
 VORM_INLINE VormStatus mmContiguous(MM_PARAMS(T))
 {
     const auto [m, n, k] = Kind::lengths(src1Width, src1Height, src2Width, src2Height);
-    if (opaque((m ^ k) | (n ^ k) | ((k - 3) & ~3)) != 0)  // as in Kind::fits
+    if (opaque((m ^ k) | (n ^ k) | ((k - 3) & ~3)) != 0)  // as in Fit (frame/arguments.hpp)
         return generalProduct<Kind>(MM_ARGS);
     return mmSquare<Kind, bodies>(MM_ARGS);
 }
