@@ -126,4 +126,24 @@ struct ObjectTable {
 template <class T>
 ObjectTable(T*, int) -> ObjectTable<T>;
 
+// A caller's work space, used by one object after the other: every chunk has a stretch of its own.
+template <class T>
+struct Buffer {
+    T* p;
+    int elements;  // of a stretch
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return body(Pointer<T>{p});
+    }
+    VORM_INLINE constexpr Buffer chunk(const Chunk& chunk) const
+    {
+        return {p + std::ptrdiff_t{chunk.thread} * elements, elements};
+    }
+    VORM_INLINE constexpr Buffer single(int) const { return *this; }
+    VORM_INLINE constexpr Buffer withAdjacent() const { return *this; }
+};
+template <class T>
+Buffer(T*, int) -> Buffer<T>;
+
 }  // namespace vorm
