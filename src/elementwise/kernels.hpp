@@ -7,7 +7,6 @@
 #include "elementwise/runs.hpp"
 #include "frame/minmax.hpp"
 #include "frame/overlap.hpp"
-#include "frame/pin.hpp"
 #include "frame/planes.hpp"
 
 namespace vorm::elementwise {
@@ -52,7 +51,8 @@ VORM_INLINE void smallObjects(const Op& op, const A& a, const B& b, const Vector
             return packedBlocks<Len>(op, a, b, dst, count);
         }
     }
-    if constexpr (Len == 3 && sizeof(T) == sizeof(float)) {
+    // Two parts of a slot are stored at once from other lanes than it is loaded to: no use where no array is read.
+    if constexpr (Len == 3 && sizeof(T) == sizeof(float) && !(A::isCommon && isConstant<B>)) {
         if (inSlots(a) && inSlots(b)) return slotObjects(op, a, b, dst, count);
     }
     eachByRegisters<SmallVector<T, Len>>(op, a, b, dst, 0, count);
@@ -64,32 +64,42 @@ VORM_INLINE void smallObjects(const Op& op, const A& a, const B& b, const Vector
     eachByRegisters<SmallVector<T, Len>>(op, a, b, dst, 0, count);
 }
 
-// Where the objects of an operand are, in every layout, so that all shapes of an operation share one kernel for long
-// vectors: there an address more for each object costs nothing.
-template <class T>
+// Where the objects of an operand are, so that all shapes of an operation share one kernel for long vectors, and
+// another for those in lists: what is common to all objects is an array that makes no step, or an entry of such a list.
+template <class T, bool inList>
 struct Objects {
-    const void* first;  // object, or entry of the list
+    const void* first;
     std::ptrdiff_t step, shift;
-    bool isList;
     VORM_INLINE T* operator()(int n) const
     {
         const char* const p = static_cast<const char*>(first) + n * step;
-        // Opaque, or compilers make a loop for each layout of each operand.
-        if (opaque(int{isList})) return advance(*reinterpret_cast<T* const*>(p), shift);
-        return const_cast<T*>(reinterpret_cast<const T*>(p));
+        if constexpr (inList)
+            return advance(*reinterpret_cast<T* const*>(p), shift);
+        else
+            return const_cast<T*>(reinterpret_cast<const T*>(p));
     }
 };
-template <class T, class View>
-VORM_INLINE Objects<T> objectsOf(const View& view)
+template <class T, bool inList, class View>
+VORM_INLINE Objects<T, inList> objectsOf(const View& view)
 {
     if constexpr (requires { view.pp; })
-        return {view.pp, sizeof(T*), view.shift, true};
+        return {view.pp, sizeof(T*), view.shift};
+    else if constexpr (inList)
+        return {&view.p, 0, 0};
     else if constexpr (requires { view.stride0; })
-        return {view.p, view.stride0, 0, false};
-    else if constexpr (isConstant<View>)
-        return {&view.val, 0, 0, false};
+        return {view.p, view.stride0, 0};
     else
-        return {view.p, 0, 0, false};
+        return {view.p, 0, 0};
+}
+template <class T>
+VORM_INLINE auto asVector(const Constant<T>& constant)
+{
+    return Vector{&constant.val, adjacent};
+}
+template <class View>
+VORM_INLINE const View& asVector(const View& view)
+{
+    return view;
 }
 template <bool isVal, class T>
 VORM_INLINE auto runSource(const T* p)
@@ -101,9 +111,9 @@ VORM_INLINE auto runSource(const T* p)
 }
 
 // Objects of a few registers and a tail.
-template <int registers, bool isVal, class Op, class T>
-VORM_INLINE void mediumObjects(const Op& op, const Objects<const T>& a, const Objects<const T>& b,
-                               const Objects<T>& dst, int len, int count)
+template <int registers, bool isVal, class Op, class T, bool inList>
+VORM_INLINE void mediumObjects(const Op& op, const Objects<const T, inList>& a, const Objects<const T, inList>& b,
+                               const Objects<T, inList>& dst, int len, int count)
 {
     for (int n = 0; n < count; ++n) {
         const Along<T> sourceA{a(n)};
@@ -118,8 +128,8 @@ VORM_INLINE void mediumObjects(const Op& op, const Objects<const T>& a, const Ob
 }
 
 // All lengths but the small ones; b is an array of constants, or of vectors.
-template <bool isVal, class Op, class T>
-VORM_SHARED void longObjects(Op op, const Objects<const T>& a, const Objects<const T>& b, const Objects<T>& dst,
+template <bool isVal, class Op, class T, bool inList>
+VORM_SHARED void longObjects(Op op, Objects<const T, inList> a, Objects<const T, inList> b, Objects<T, inList> dst,
                              int len, int count)
 {
     switch (len / Lanes<T>::width) {
@@ -149,7 +159,9 @@ VORM_INLINE VormStatus contiguousObjects(const Op& op, const A& a, const B& b, c
     case 5: smallObjects<5>(op, a, b, dst, count); break;
     case 6: smallObjects<6>(op, a, b, dst, count); break;
     default:
-        longObjects<isConstant<B>>(op, objectsOf<const T>(a), objectsOf<const T>(b), objectsOf<T>(dst), len, count);
+        constexpr bool inList = !isRun<Dst<T, Adjacent>>;
+        longObjects<isConstant<B>>(op, objectsOf<const T, inList>(a), objectsOf<const T, inList>(asVector(b)),
+                                   objectsOf<T, inList>(dst), len, count);
     }
     return StatusOk;
 }
