@@ -51,7 +51,7 @@ VORM_INLINE void smallObjects(const Op& op, const A& a, const B& b, const Vector
             return packedBlocks<Len>(op, a, b, dst, count);
         }
     }
-    // Two parts of a slot are stored at once from other lanes than it is loaded to: no use where no array is read.
+    // A slot is loaded at once, but stored in two parts with a shuffle between them: of no use where nothing is loaded.
     if constexpr (Len == 3 && sizeof(T) == sizeof(float) && !(A::isCommon && isConstant<B>)) {
         if (inSlots(a) && inSlots(b)) return slotObjects(op, a, b, dst, count);
     }
