@@ -193,6 +193,69 @@ void squarePlanes(const TabledElements<const T>& a, const TabledElements<const T
     });
 }
 
+// Vectors of any length where all objects share A and it is small: each of its elements waits in memory, spread over a
+// register. Four rows of two registers of objects at a time.
+template <class T>
+class HeldMatrix {
+public:
+    static bool holds(Lengths lengths) { return std::int64_t{lengths.m} * lengths.k <= mostElements; }
+    HeldMatrix(const TabledElements<const T>& a, Lengths lengths) : lengths_(lengths)
+    {
+        for (int i = 0; i < lengths.m; ++i)
+            for (int k = 0; k < lengths.k; ++k) held_[i * lengths.k + k] = T(elementAt(a.plane(i, k), 0));
+    }
+    // So many objects, which fill whole registers.
+    template <class Added>
+    void objects(const TabledElements<const T>& b, const Added& added, const TabledElements<T>& d, int count) const
+    {
+        const T* planes[mostElements];
+        for (int k = 0; k < lengths_.k; ++k) planes[k] = b.plane(k, 0);
+        constexpr int run = 16 * width;
+        for (int first = 0; first < count; first += run) {
+            const int end = min(count, first + run);
+            int i = 0;
+            for (; i + 4 <= lengths_.m; i += 4) rows<4>(planes, added, d, i, first, end);
+            for (; i < lengths_.m; ++i) rows<1>(planes, added, d, i, first, end);
+        }
+    }
+
+private:
+    static constexpr int mostElements = 512, width = Lanes<T>::width;
+
+    template <int some, class Added>
+    void rows(const T* const* planes, const Added& added, const TabledElements<T>& d, int i, int object, int end) const
+    {
+        for (; object + 2 * width <= end; object += 2 * width) someRows<some, 2>(planes, added, d, i, object);
+        for (; object < end; object += width) someRows<some, 1>(planes, added, d, i, object);
+    }
+    template <int some, int registers, class Added>
+    VORM_INLINE void someRows(const T* const* planes, const Added& added, const TabledElements<T>& d, int i,
+                              int object) const
+    {
+        const Lanes<T>* const held = held_ + i * lengths_.k;
+        Lanes<T> sums[some][registers];
+        for (auto& row : sums)
+            for (auto& sum : row) sum = T(0);
+        for (int k = 0; k < lengths_.k; ++k) {
+            Lanes<T> factors[registers];
+            for (int p = 0; p < registers; ++p) factors[p] = Lanes<T>::load(planes[k] + object + p * width);
+            for (int r = 0; r < some; ++r)
+                for (int p = 0; p < registers; ++p) sums[r][p] = sums[r][p] + held[r * lengths_.k + k] * factors[p];
+        }
+        for (int r = 0; r < some; ++r)
+            for (int p = 0; p < registers; ++p) {
+                const int at = object + p * width;
+                if constexpr (!std::is_same_v<Added, NothingAdded>)
+                    sums[r][p] = sums[r][p] + (added.isCommon() ? Lanes<T>(T(elementAt(added.plane(i + r, 0), 0)))
+                                                                : Lanes<T>::load(added.plane(i + r, 0) + at));
+                sums[r][p].store(d.plane(i + r, 0) + at);
+            }
+    }
+
+    Lanes<T> held_[mostElements];
+    Lengths lengths_;
+};
+
 // Any lengths, for a register of objects. Every sum starts at zero and takes its products in ascending k.
 template <class T, bool commonA, bool commonB, class Added>
 void anyLengths(const TabledElements<const T>& a, const TabledElements<const T>& b, const Added& added,
@@ -241,6 +304,11 @@ void pointerProducts(const TabledElements<const T>& a, const TabledElements<cons
         case 5: squarePlanes<T, 5>(a, b, added, d, lengths.n, min(atOnce, inLanes), inLanes); break;
         case 6: squarePlanes<T, 6>(a, b, added, d, lengths.n, min(atOnce, inLanes), inLanes); break;
         default:
+            if constexpr (second == Second::vectors)
+                if (a.isCommon() && HeldMatrix<T>::holds(lengths) && inLanes >= 8 * width) {
+                    HeldMatrix<T>(a, lengths).objects(b, added, d, inLanes);
+                    break;
+                }
             if (!std::is_same_v<Added, NothingAdded> || a.isCommon())
                 anyLengths<T, true, false>(a, b, added, d, lengths, outermost, inLanes);
             else if (b.isCommon())
