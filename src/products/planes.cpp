@@ -73,41 +73,25 @@ bool evenDistance(const TabledElements<T>& table, int elements, std::ptrdiff_t& 
     return true;
 }
 
-// What is added to the rows of a product with a common matrix: a vector for each object, in planes, or one that all
-// objects share.
-template <class T, int n, class Added>
-class AddedPlanes {
-public:
-    explicit AddedPlanes(const Added& added) : planes_(added)
-    {
-        if (!added.isCommon()) return;
-        for (int i = 0; i < n; ++i) common_[i] = T(elementAt(added.plane(i, 0), 0));
+// What is added to some rows of a product with a common matrix, from row i on: a vector for each object, in planes, or
+// one that all objects share, which is spread for this.
+template <class T, int some>
+AddedLines<T, some> linesOf(const TabledElements<const T>& added, Lanes<T> (&spread)[some], int i, std::ptrdiff_t begin)
+{
+    AddedLines<T, some> lines;
+    lines.mask = added.isCommon() ? 0 : ~std::ptrdiff_t{0};
+    for (int r = 0; r < some; ++r) {
+        const T* const plane = added.plane(i + r, 0);
+        if (added.isCommon()) spread[r] = T(elementAt(plane, 0));
+        lines.from[r] = added.isCommon() ? reinterpret_cast<const T*>(&spread[r]) : advance(plane, begin);
     }
-    template <class Some>
-    auto lines(Some, int i, std::ptrdiff_t begin) const
-    {
-        AddedLines<T, Some::value> lines;
-        lines.mask = planes_.isCommon() ? 0 : ~std::ptrdiff_t{0};
-        for (int r = 0; r < Some::value; ++r)
-            lines.from[r] = planes_.isCommon() ? reinterpret_cast<const T*>(&common_[i + r])
-                                               : advance(planes_.plane(i + r, 0), begin);
-        return lines;
-    }
-
-private:
-    Lanes<T> common_[n];
-    Added planes_;
-};
-template <class T, int n>
-class AddedPlanes<T, n, NothingAdded> {
-public:
-    explicit AddedPlanes(NothingAdded) {}
-    template <class Some>
-    NothingLines lines(Some, int, std::ptrdiff_t) const
-    {
-        return {};
-    }
-};
+    return lines;
+}
+template <class T, int some>
+NothingLines linesOf(NothingAdded, Lanes<T> (&)[some], int, std::ptrdiff_t)
+{
+    return {};
+}
 
 // Products where all objects share an operand, some lines of which stay in registers: rows of A or columns
 // of B. Each line of the other operand, a column or a row, meets all of them while it is in the cache.
@@ -146,11 +130,12 @@ private:
         T* d[some];
         for (int k = 0; k < n; ++k) planes[k] = advance(planes_.plane(j, k), begin);
         for (int r = 0; r < some; ++r) d[r] = advance(d_.plane(i + r, j), begin);
-        heldTile<T, n, some>(&held_[i], planes, added_.lines(constant<some>, i, begin), d, steps);
+        Lanes<T> spread[some];
+        heldTile<T, n, some>(&held_[i], planes, linesOf(added_, spread, i, begin), d, steps);
     }
 
     Lanes<T> held_[n][n];
-    AddedPlanes<T, n, Added> added_;
+    Added added_;
     TabledElements<const T> planes_;
     TabledElements<T> d_;
     int heldLines_, lines_;
@@ -225,12 +210,15 @@ private:
     template <int some, class Added>
     void rows(const T* const* planes, const Added& added, const TabledElements<T>& d, int i, int object, int end) const
     {
-        for (; object + 2 * width <= end; object += 2 * width) someRows<some, 2>(planes, added, d, i, object);
-        for (; object < end; object += width) someRows<some, 1>(planes, added, d, i, object);
+        Lanes<T> spread[some];
+        const auto lines = linesOf(added, spread, i, 0);
+        T* to[some];
+        for (int r = 0; r < some; ++r) to[r] = d.plane(i + r, 0);
+        for (; object + 2 * width <= end; object += 2 * width) someRows<some, 2>(planes, lines, to, i, object);
+        for (; object < end; object += width) someRows<some, 1>(planes, lines, to, i, object);
     }
-    template <int some, int registers, class Added>
-    VORM_INLINE void someRows(const T* const* planes, const Added& added, const TabledElements<T>& d, int i,
-                              int object) const
+    template <int some, int registers, class Lines>
+    VORM_INLINE void someRows(const T* const* planes, const Lines& lines, T* const (&to)[some], int i, int object) const
     {
         const Lanes<T>* const held = held_ + i * lengths_.k;
         Lanes<T> sums[some][registers];
@@ -245,10 +233,7 @@ private:
         for (int r = 0; r < some; ++r)
             for (int p = 0; p < registers; ++p) {
                 const int at = object + p * width;
-                if constexpr (!std::is_same_v<Added, NothingAdded>)
-                    sums[r][p] = sums[r][p] + (added.isCommon() ? Lanes<T>(T(elementAt(added.plane(i + r, 0), 0)))
-                                                                : Lanes<T>::load(added.plane(i + r, 0) + at));
-                sums[r][p].store(d.plane(i + r, 0) + at);
+                plus(sums[r][p], lines.at(r, at * std::ptrdiff_t{sizeof(T)})).store(to[r] + at);
             }
     }
 

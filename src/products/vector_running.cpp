@@ -66,13 +66,12 @@ template <class T, int objects>
 void turnedProduct(const TurnedMatrix<T>& a, const T* const (&from)[objects], const T* const (&added)[objects],
                    T* const (&to)[objects], int rows, int terms)
 {
-    constexpr int width = Lanes<T>::width;
+    constexpr int width = Lanes<T>::width, most = 4;  // registers of rows at a time
     const Lanes<T>* line = a.lines;
-    int i = 0;
-    for (; i + 4 * width <= rows; i += 4 * width, line += 4 * std::ptrdiff_t{terms})
-        someRows<4>(line, from, added, to, i, rows, terms);
-    withCount<4>((rows - i + width - 1) / width,
-                 [&](auto left) VORM_INLINE_LAMBDA { someRows<left>(line, from, added, to, i, rows, terms); });
+    for (int i = 0; i < rows; i += most * width, line += most * std::ptrdiff_t{terms})
+        withCount<most>(min(most, (rows - i + width - 1) / width), [&](auto registers) VORM_INLINE_LAMBDA {
+            someRows<registers>(line, from, added, to, i, rows, terms);
+        });
 }
 
 template <class T>

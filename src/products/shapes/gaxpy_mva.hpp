@@ -39,7 +39,7 @@ constexpr Work gaxpyMvaWork(int src2Len, int src3Len, int count, int picoseconds
 template <class T>
 VORM_INLINE auto gaxpyMva(GAXPY_MVA_PARAMS(T))
 {
-    return arrayCallOf<T>(gaxpyMvaWork(src2Len, src3Len, count, byType<T>(85, 150)), count,
+    return arrayCallOf<T>(gaxpyMvaWork(src2Len, src3Len, count, byType<T>(70, 105)), count,
                           Matrix{pSrc1, src1Stride1, src1Stride2}, Size{src1Width}, Size{src1Height},
                           VectorArray{pSrc2, src2Stride0, src2Stride2}, Size{src2Len},
                           VectorArray{pSrc3, src3Stride0, src3Stride2}, Size{src3Len},
@@ -48,7 +48,7 @@ VORM_INLINE auto gaxpyMva(GAXPY_MVA_PARAMS(T))
 template <class T>
 VORM_INLINE auto gaxpyMvaL(GAXPY_MVA_PARAMS_L(T))
 {
-    return arrayCallOf<T>(gaxpyMvaWork(src2Len, src3Len, count, byType<T>(115, 165)), count,
+    return arrayCallOf<T>(gaxpyMvaWork(src2Len, src3Len, count, byType<T>(90, 130)), count,
                           Matrix{pSrc1, src1Stride1, src1Stride2}, Size{src1Width}, Size{src1Height},
                           VectorList{ppSrc2, src2Shift, src2Stride2}, Size{src2Len},
                           VectorList{ppSrc3, src3Shift, src3Stride2}, Size{src3Len},
@@ -58,7 +58,7 @@ template <class T>
 VORM_INLINE auto gaxpyMvaP(GAXPY_MVA_PARAMS_P(T))
 {
     return arrayCallOf<T>(
-        gaxpyMvaWork(src2Len, src3Len, count, byType<T>(70, 145)), count, MatrixPointers{ppSrc1, src1Shift, src1Width},
+        gaxpyMvaWork(src2Len, src3Len, count, byType<T>(52, 100)), count, MatrixPointers{ppSrc1, src1Shift, src1Width},
         Size{src1Width}, Size{src1Height}, VectorArrayPointers{ppSrc2, src2Shift, src2Stride0}, Size{src2Len},
         VectorArrayPointers{ppSrc3, src3Shift, src3Stride0}, Size{src3Len},
         VectorArrayPointers{ppDst, dstShift, dstStride0}, Fit{src1Width, src2Len}, Fit{src1Height, src3Len});

@@ -40,7 +40,7 @@ constexpr Work gaxpyMvavWork(int src2Len, int src3Len, int count, int picosecond
 template <class T>
 VORM_INLINE auto gaxpyMvav(GAXPY_MVAV_PARAMS(T))
 {
-    return arrayCallOf<T>(gaxpyMvavWork(src2Len, src3Len, count, byType<T>(75, 120)), count,
+    return arrayCallOf<T>(gaxpyMvavWork(src2Len, src3Len, count, byType<T>(68, 100)), count,
                           Matrix{pSrc1, src1Stride1, src1Stride2}, Size{src1Width}, Size{src1Height},
                           VectorArray{pSrc2, src2Stride0, src2Stride2}, Size{src2Len}, Vector{pSrc3, src3Stride2},
                           Size{src3Len}, VectorArray{pDst, dstStride0, dstStride2}, Fit{src1Width, src2Len},
@@ -49,7 +49,7 @@ VORM_INLINE auto gaxpyMvav(GAXPY_MVAV_PARAMS(T))
 template <class T>
 VORM_INLINE auto gaxpyMvavL(GAXPY_MVAV_PARAMS_L(T))
 {
-    return arrayCallOf<T>(gaxpyMvavWork(src2Len, src3Len, count, byType<T>(100, 135)), count,
+    return arrayCallOf<T>(gaxpyMvavWork(src2Len, src3Len, count, byType<T>(80, 115)), count,
                           Matrix{pSrc1, src1Stride1, src1Stride2}, Size{src1Width}, Size{src1Height},
                           VectorList{ppSrc2, src2Shift, src2Stride2}, Size{src2Len}, Vector{pSrc3, src3Stride2},
                           Size{src3Len}, VectorList{ppDst, dstShift, dstStride2}, Fit{src1Width, src2Len},
@@ -59,7 +59,7 @@ template <class T>
 VORM_INLINE auto gaxpyMvavP(GAXPY_MVAV_PARAMS_P(T))
 {
     return arrayCallOf<T>(
-        gaxpyMvavWork(src2Len, src3Len, count, byType<T>(60, 120)), count, MatrixPointers{ppSrc1, src1Shift, src1Width},
+        gaxpyMvavWork(src2Len, src3Len, count, byType<T>(50, 98)), count, MatrixPointers{ppSrc1, src1Shift, src1Width},
         Size{src1Width}, Size{src1Height}, VectorArrayPointers{ppSrc2, src2Shift, src2Stride0}, Size{src2Len},
         VectorPointers{ppSrc3, src3Shift}, Size{src3Len}, VectorArrayPointers{ppDst, dstShift, dstStride0},
         Fit{src1Width, src2Len}, Fit{src1Height, src3Len});
