@@ -44,6 +44,7 @@ struct Row {
 constexpr From sums = above(4800, 1400, 2500, 1500), products = above(2500, 3600, 3600, 1440, 1440);
 constexpr From saxpy = above({3000, 2000, 1500, 1000, 1200}, {3000, 1200, 1000, 1000, 1200});
 constexpr From lComb = above({4500, 4500, 4500, 3750, 4500}, {4500, 4500, 4500, 4500, 4500});
+constexpr From gaxpy = above({7000, 5000, 7000, 500, 4500}, {5000, 5000, 6000, 5000, 7000});
 
 constexpr Row table[] = {
     {"Add Sub", "vav vva vac", [](const Work& w) { return (2 * w.count + 1) * w.n; }, sums},
@@ -68,6 +69,9 @@ constexpr Row table[] = {
     {"Mul", "mam mat tam tat", [](const Work& w) { return w.n * w.k + (w.n + w.k) * w.m * w.count; }, products},
     {"Mul", "mma mta tma tta", [](const Work& w) { return w.m * w.k + (w.m + w.k) * w.n * w.count; }, products},
     {"Mul", "mama mata tama tata", [](const Work& w) { return ((w.n + w.k) * w.m + w.n * w.k) * w.count; }, products},
+
+    {"Gaxpy", "mva", [](const Work& w) { return (w.k + 2 * w.m) * w.count; }, gaxpy},
+    {"Gaxpy", "mvav", [](const Work& w) { return w.k * w.count + w.m * (w.count + 1); }, gaxpy},
 
     {"LUDecomp", "ma", [](const Work& w) { return w.n * w.n * w.count; }, from(1001)},
     {"LUBackSubst", "mva", [](const Work& w) { return (2 * w.count + w.n) * w.n; }, from(701)},
