@@ -66,7 +66,7 @@ TEST(Binary, SizeOfTheCode)
     GTEST_SKIP() << "not an optimised build without sanitizers";
 #endif
 #ifdef __clang__
-    constexpr long budget = 2700000;
+    constexpr long budget = 2900000;
 #else
     constexpr long budget = 2350000;
 #endif
