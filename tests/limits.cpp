@@ -22,7 +22,7 @@ constexpr From above(int standard32f, int standard64f, int list, int pointers, i
 }
 
 struct Row {
-    const char *families, *shapes;
+    const char *families, *shapes;  // shapes of one type as "mava_32f"
     std::uint32_t (*measure)(const Work&);
     From from;
 };
@@ -46,6 +46,14 @@ constexpr Row table[] = {
     {"LUDecomp", "ma", [](const Work& w) { return w.n * w.n * w.count; }, {1001, 1001, 1001, 1001}},
     {"LUBackSubst", "mva", [](const Work& w) { return (2 * w.count + w.n) * w.n; }, {701, 701, 701, 701}},
     {"LUBackSubst", "mava", [](const Work& w) { return (w.n + 2) * w.n * w.count; }, {1201, 1201, 1201, 1201}},
+
+    {"CholeskyDecomp", "ma_32f", [](const Work& w) { return w.n * w.n * w.count; }, above(7500, 0, 2000, 2000)},
+    {"CholeskyDecomp", "ma_64f", [](const Work& w) { return w.n * w.n * w.count; }, above(0, 2000, 720, 2000, 2000)},
+    {"CholeskyBackSubst", "mva", [](const Work& w) { return (2 * w.count + w.n) * w.n; }, above(1200, 720, 720, 720)},
+    {"CholeskyBackSubst", "mava_32f", [](const Work& w) { return (w.n + 2) * w.n * w.count; },
+     above(2050, 0, 1700, 1700, 1700)},
+    {"CholeskyBackSubst", "mava_64f", [](const Work& w) { return (w.n + 2) * w.n * w.count; },
+     above(0, 1700, 1700, 2050)},
 };
 
 bool hasWord(const std::string& text, const std::string& word)
@@ -61,7 +69,9 @@ const Row& rowOf(const Function& f)
     static std::map<const Function*, const Row*> rows;
     if (const auto found = rows.find(&f); found != rows.end()) return *found->second;
     for (const Row& row : table)
-        if (hasWord(row.families, f.family) && hasWord(row.shapes, f.shape)) return *(rows[&f] = &row);
+        if (hasWord(row.families, f.family) &&
+            (hasWord(row.shapes, f.shape) || hasWord(row.shapes, f.shape + "_" + f.type)))
+            return *(rows[&f] = &row);
     throw std::out_of_range("no limit of " + f.name);
 }
 
