@@ -9,23 +9,24 @@
 
 namespace vorm::factor {
 
-// Factorises a block in place, column by column, until an object turns out not to be positive definite. Returns how
-// many columns have passed; what stands in them, and in the row behind them left of the diagonal, is final.
-template <int n, class Number>
-VORM_INLINE int choleskyFactoriseHere(Number (&a)[n * n])
+// Factorises a block, column by column, until an object turns out not to be positive definite. a(i, j) is read once,
+// when it is needed, and may lie in the place of the factor. Returns how many columns have passed; what stands in them,
+// and in the row behind them left of the diagonal, is final.
+template <int n, class Number, class Source>
+VORM_INLINE int choleskyFactoriseHere(const Source& a, Number (&l)[n * n])
 {
     int passed = 0;
     const auto column = [&](auto j) VORM_INLINE_LAMBDA {
         const auto without = [&](auto i) VORM_INLINE_LAMBDA {
-            Number value = a[i * n + j];
-            for (int k = 0; k < j; ++k) value = value - a[i * n + k] * a[j * n + k];
+            Number value = a(i, j);
+            for (int k = 0; k < j; ++k) value = value - l[i * n + k] * l[j * n + k];
             return value;
         };
         const Number t = without(j);
         if (anyNotPositive(t)) return false;
         const Number d = inverseRoot(t);
-        unrolled<n, j + 1>([&](auto i) VORM_INLINE_LAMBDA { a[i * n + j] = without(i) * d; });
-        a[j * n + j] = d;
+        unrolled<n, j + 1>([&](auto i) VORM_INLINE_LAMBDA { l[i * n + j] = without(i) * d; });
+        l[j * n + j] = d;
         ++passed;
         return true;
     };
@@ -36,8 +37,13 @@ VORM_INLINE int choleskyFactoriseHere(Number (&a)[n * n])
     (std::make_integer_sequence<int, n>{});
     return passed;
 }
+template <int n, class Number>
+VORM_INLINE int choleskyFactoriseHere(Number (&a)[n * n])
+{
+    return choleskyFactoriseHere<n>([&](int i, int j) VORM_INLINE_LAMBDA { return a[i * n + j]; }, a);
+}
 
-// The same, compiled once, in cholesky_blocks.cpp.
+// The same in place, compiled once, in cholesky_blocks.cpp.
 template <int n, class Number>
 VORM_HIDDEN int choleskyFactorise(Number (&a)[n * n]);
 
@@ -46,15 +52,23 @@ template <int n, class Number, class Src, class Dst>
 VORM_INLINE VormStatus choleskyObjects(const Src& src, const Dst& dst, int first)
 {
     Number a[n * n];
-    loadTriangles(src, first, constant<n>, a);
     if constexpr (!inLanes<Number>) {
+        loadTriangles(src, first, constant<n>, a);
         const int passed = choleskyFactorise<n>(a);
         const int behind = passed < n ? passed : 0;  // elements of the row that failed
         scatterTriangles(dst, first, 1, n, elementsOfTriangle(passed) + behind, a);
         return passed == n ? StatusOk : StatusNotPositiveDefinite;
     } else {
-        constexpr bool here = n <= 4 && (isAdjacent<Src> || isInPlanes<Src>);
-        if ((here ? choleskyFactoriseHere<n>(a) : choleskyFactorise<n>(a)) < n) return StatusNotPositiveDefinite;
+        const auto passed = [&]() VORM_INLINE_LAMBDA {
+            if constexpr (isInPlanes<Src>) {
+                return choleskyFactoriseHere<n>(
+                    [&](int i, int j) VORM_INLINE_LAMBDA { return Number::load(src.element(i, j) + first); }, a);
+            } else {
+                loadTriangles(src, first, constant<n>, a);
+                return n <= 4 && isAdjacent<Src> ? choleskyFactoriseHere<n>(a) : choleskyFactorise<n>(a);
+            }
+        };
+        if (passed() < n) return StatusNotPositiveDefinite;
         storeTriangles(dst, first, constant<n>, a);
         return StatusOk;
     }
@@ -71,8 +85,10 @@ using CholeskyBuffered = std::conditional_t<sizeof(T) == sizeof(float), Wide<T>,
 // Arrays. Each order in a function of its own, with views of its own: in one for all of them most of what the loops
 // need would lie in memory.
 template <int n, class T, class Src, class Dst>
-VORM_SHARED VormStatus choleskyArray(const Src src, const Dst dst, int count)
+VORM_SHARED VormStatus choleskyArray(const Src anySrc, const Dst anyDst, int count)
 {
+    const auto& src = withColumns<n>(anySrc);
+    const auto& dst = withColumns<n>(anyDst);
     using Widest = std::conditional_t<isAdjacent<Src> || isInPlanes<Src>, Wide<T>, Lanes<T>>;
     return inBlocks<Widest>(dst, n, n, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
         return choleskyObjects<n, Number>(src, dst, first);

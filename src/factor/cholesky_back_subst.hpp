@@ -74,9 +74,9 @@ VORM_INLINE auto choleskyMvP(CHOLESKY_MV_PARAMS_P(T))
 template <class T>
 VORM_INLINE auto choleskyMva(CHOLESKY_MVA_PARAMS(T))
 {
-    return arrayCallOf<T>(choleskyMvaWork(order, count, byType<T>(100, 150)), count,
-                          Matrix{src, srcStride1, srcStride2}, VectorArray{src2, src2Stride0, src2Stride2},
-                          VectorArray{dst, dstStride0, dstStride2}, Size{order});
+    return arrayCallOf<T>(choleskyMvaWork(order, count, byType<T>(95, 135)), count, Matrix{src, srcStride1, srcStride2},
+                          VectorArray{src2, src2Stride0, src2Stride2}, VectorArray{dst, dstStride0, dstStride2},
+                          Size{order});
 }
 // Unlike all others these test order and count last.
 using CholeskyMvaLTests = Tests<Test::null, Test::stride, Test::shift, Test::size, Test::count>;
@@ -84,13 +84,13 @@ template <class T>
 VORM_INLINE auto choleskyMvaL(CHOLESKY_MVA_PARAMS_L(T))
 {
     return arrayCallOf<T, CholeskyMvaLTests>(
-        choleskyMvaWork(order, count, byType<T>(100, 150)), count, Matrix{src, srcStride1, srcStride2},
+        choleskyMvaWork(order, count, byType<T>(115, 165)), count, Matrix{src, srcStride1, srcStride2},
         VectorList{src2List, src2Shift, src2Stride2}, VectorList{dstList, dstShift, dstStride2}, Size{order});
 }
 template <class T>
 VORM_INLINE auto choleskyMvaP(CHOLESKY_MVA_PARAMS_P(T))
 {
-    return arrayCallOf<T>(choleskyMvaWork(order, count, byType<T>(100, 150)), count,
+    return arrayCallOf<T>(choleskyMvaWork(order, count, byType<T>(60, 115)), count,
                           MatrixPointers{srcPointers, srcShift, order},
                           VectorArrayPointers{src2Pointers, src2Shift, src2Stride0},
                           VectorArrayPointers{dstPointers, dstShift, dstStride0}, Size{order});
@@ -99,7 +99,7 @@ VORM_INLINE auto choleskyMvaP(CHOLESKY_MVA_PARAMS_P(T))
 template <class T>
 VORM_INLINE auto choleskyMava(CHOLESKY_MAVA_PARAMS(T))
 {
-    return arrayCallOf<T>(choleskyMavaWork(order, count, byType<T>(200, 300)), count,
+    return arrayCallOf<T>(choleskyMavaWork(order, count, byType<T>(175, 210)), count,
                           MatrixArray{src, srcStride0, srcStride1, srcStride2},
                           VectorArray{src2, src2Stride0, src2Stride2}, VectorArray{dst, dstStride0, dstStride2},
                           Size{order});
@@ -107,7 +107,7 @@ VORM_INLINE auto choleskyMava(CHOLESKY_MAVA_PARAMS(T))
 template <class T>
 VORM_INLINE auto choleskyMavaL(CHOLESKY_MAVA_PARAMS_L(T))
 {
-    return arrayCallOf<T>(choleskyMavaWork(order, count, byType<T>(200, 300)), count,
+    return arrayCallOf<T>(choleskyMavaWork(order, count, byType<T>(195, 265)), count,
                           MatrixList{srcList, srcShift, srcStride1, srcStride2},
                           VectorList{src2List, src2Shift, src2Stride2}, VectorList{dstList, dstShift, dstStride2},
                           Size{order});
@@ -115,7 +115,7 @@ VORM_INLINE auto choleskyMavaL(CHOLESKY_MAVA_PARAMS_L(T))
 template <class T>
 VORM_INLINE auto choleskyMavaP(CHOLESKY_MAVA_PARAMS_P(T))
 {
-    return arrayCallOf<T>(choleskyMavaWork(order, count, byType<T>(200, 300)), count,
+    return arrayCallOf<T>(choleskyMavaWork(order, count, byType<T>(90, 165)), count,
                           MatrixArrayPointers{srcPointers, srcShift, srcStride0, order},
                           VectorArrayPointers{src2Pointers, src2Shift, src2Stride0},
                           VectorArrayPointers{dstPointers, dstShift, dstStride0}, Size{order});

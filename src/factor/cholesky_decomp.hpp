@@ -46,21 +46,21 @@ VORM_INLINE auto choleskyMP(CHOLESKY_M_PARAMS_P(T))
 template <class T>
 VORM_INLINE auto choleskyMa(CHOLESKY_MA_PARAMS(T))
 {
-    return arrayCallOf<T>(choleskyDecompWork(order, count, byType<T>(200, 500)), count,
+    return arrayCallOf<T>(choleskyDecompWork(order, count, byType<T>(240, 490)), count,
                           MatrixArray{src, srcStride0, srcStride1, srcStride2},
                           MatrixArray{dst, dstStride0, dstStride1, dstStride2}, Size{order});
 }
 template <class T>
 VORM_INLINE auto choleskyMaL(CHOLESKY_MA_PARAMS_L(T))
 {
-    return arrayCallOf<T>(choleskyDecompWork(order, count, byType<T>(200, 500)), count,
+    return arrayCallOf<T>(choleskyDecompWork(order, count, byType<T>(280, 520)), count,
                           MatrixList{srcList, srcShift, srcStride1, srcStride2},
                           MatrixList{dstList, dstShift, dstStride1, dstStride2}, Size{order});
 }
 template <class T>
 VORM_INLINE auto choleskyMaP(CHOLESKY_MA_PARAMS_P(T))
 {
-    return arrayCallOf<T>(choleskyDecompWork(order, count, byType<T>(200, 500)), count,
+    return arrayCallOf<T>(choleskyDecompWork(order, count, byType<T>(150, 390)), count,
                           MatrixArrayPointers{srcPointers, srcShift, srcStride0, order},
                           MatrixArrayPointers{dstPointers, dstShift, dstStride0, order}, Size{order});
 }

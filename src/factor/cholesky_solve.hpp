@@ -37,8 +37,9 @@ VORM_INLINE VormStatus choleskySolveObjects(const M& matrix, const B& b, const X
 
 // A function of its own, as choleskyArray is.
 template <class T, class M, class B, class X, int n>
-VORM_SHARED void choleskySolvePairs(const M matrix, const B b, const X dst, std::integral_constant<int, n>, int count)
+VORM_SHARED void choleskySolvePairs(const M factor, const B b, const X dst, std::integral_constant<int, n>, int count)
 {
+    const auto& matrix = withColumns<n>(factor);
     inBlocks<std::conditional_t<isAdjacent<M> || isInPlanes<M>, Wide<T>, T>>(
         dst, 1, n, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
             return choleskySolveObjects<n, Number>(matrix, b, dst, first);

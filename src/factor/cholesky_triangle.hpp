@@ -10,6 +10,19 @@ namespace vorm::factor {
 // Of a triangle with this many rows.
 constexpr int elementsOfTriangle(int rows) { return rows * (rows + 1) / 2; }
 
+// A view of a table whose rows are known to have n entries, so that the places of its addresses are constants.
+template <int n, class View>
+VORM_INLINE decltype(auto) withColumns(const View& view)
+{
+    if constexpr (requires { view.width; }) {
+        View known = view;
+        known.width = n;
+        return known;
+    } else {
+        return (view);
+    }
+}
+
 // Elements anywhere, of one object or of a block of them: element (r, c) of object l lies at [r][c][l] of the block.
 template <class T, class View>
 [[gnu::noinline]] void gatherTriangles(const View& view, int first, int objects, int n, T* to)
@@ -42,7 +55,7 @@ VORM_INLINE void loadTriangles(const View& view, int first, N n, Number* a)
                     const Element<Number>* from[One::width];
                     rowsAt(
                         view, object, [&](int) VORM_INLINE_LAMBDA { return int{r}; }, from);
-                    loadRows(from, to, int{r} + 1);
+                    loadRows(from, to, r + 1);
                 } else {
                     for (int c = 0; c <= r; ++c) to(c) = One::load(view.element(r, c) + object);
                 }
