@@ -2,13 +2,13 @@
 
 #include "harness.hpp"
 
-extern const Family vectorSums, vectorProducts, matrixProducts, luDecomposition, luSubstitution, choleskyDecomposition,
-    choleskySubstitution, fixedForms;
+extern const Family vectorSums, vectorProducts, matrixProducts, gaxpyProducts, luDecomposition, luSubstitution,
+    choleskyDecomposition, choleskySubstitution, fixedForms;
 
 const std::vector<const Family*>& families()
 {
     static const std::vector<const Family*> all = {
-        &fixedForms,      &vectorSums,     &vectorProducts,        &matrixProducts,
+        &fixedForms,      &vectorSums,     &vectorProducts,        &matrixProducts,      &gaxpyProducts,
         &luDecomposition, &luSubstitution, &choleskyDecomposition, &choleskySubstitution};
     return all;
 }
