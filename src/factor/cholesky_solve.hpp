@@ -59,7 +59,8 @@ VORM_SHARED void choleskySolveVectorsIn(const M matrix, const B b, const X dst, 
     // In registers all of it would be too much, and the unknowns evicted for it: the compiler is to take it for memory
     // that a store might change.
     const L* const factor = n > 3 ? opaque(static_cast<const L*>(loaded)) : loaded;
-    using Widest = std::conditional_t<whole, Several<L, 2>, L>;
+    // What is gathered goes through memory, where its loads wait for its stores: more at once.
+    using Widest = Several<L, whole ? 2 : 4>;
     inBlocks<Widest>(dst, 1, n, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
         using Unknown = std::conditional_t<inLanes<Number>, Number, Lanes<T>>;
         Unknown x[n];
