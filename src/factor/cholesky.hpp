@@ -1,6 +1,6 @@
 // Cholesky decomposition, A = L L', whose factor has 1 / L(i, i) on its diagonal: one object or lanes of objects at a
-// time for the orders 3 to 6, lanes of objects in a buffer for others that are not too high, row by row in the
-// destination for all others.
+// time for the orders 3 to 6, lanes of objects in a buffer for arrays of others that are not too high, and
+// cholesky_general.hpp for all others.
 #pragma once
 
 #include "factor/cholesky_general.hpp"

@@ -47,6 +47,48 @@ bool choleskyFactoriseBuffered(Number* a, int n)
     return true;
 }
 
+template <class T>
+int choleskyFactoriseColumns(T* u, int n)
+{
+    constexpr int width = narrow<T>, some = 4;
+    const std::ptrdiff_t step = columnStep<T>(n);
+    for (int j = 0; j < n; ++j) {
+        T* const column = u + j * step;
+        T d = 0;
+        // Rows of the column in so many registers, from row i on; the first of all is that of the diagonal.
+        const auto complete = [&](auto registers, int i) VORM_INLINE_LAMBDA {
+            PairedDifference<Lanes<T>> sums[registers];
+            const auto rows = [&](int k, int q)
+                                  VORM_INLINE_LAMBDA { return Lanes<T>::load(u + k * step + i + q * width); };
+            for (int q = 0; q < registers; ++q) sums[q].even = rows(j, q);
+            for (int k = 0; k + 2 <= j; k += 2) {
+                const Lanes<T> first = u[k * step + j], second = u[(k + 1) * step + j];
+                for (int q = 0; q < registers; ++q) sums[q].subtract(rows(k, q) * first, rows(k + 1, q) * second);
+            }
+            Lanes<T> values[registers];
+            for (int q = 0; q < registers; ++q)
+                values[q] = sums[q].total(
+                    j, [&]() VORM_INLINE_LAMBDA { return rows(j - 1, q) * Lanes<T>(u[(j - 1) * step + j]); });
+            if (i == j) {
+                const T t = firstLane(values[0]);
+                if (anyNotPositive(t)) return false;
+                d = inverseRoot(t);
+            }
+            for (int q = 0; q < registers; ++q) (values[q] * Lanes<T>(d)).store(column + i + q * width);
+            return true;
+        };
+        int i = j;
+        for (; i + (some - 1) * width < n; i += some * width)
+            if (!complete(constant<some>, i)) return j;
+        for (; i < n; i += width)
+            if (!complete(constant<1>, i)) return j;
+        column[j] = d;
+    }
+    return n;
+}
+template int choleskyFactoriseColumns(float* u, int n);
+template int choleskyFactoriseColumns(double* u, int n);
+
 template <class Factor, class Number>
 void choleskySubstituteBuffered(const Factor* l, Number* x, int n)
 {

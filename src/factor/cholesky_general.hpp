@@ -1,4 +1,5 @@
-// Cholesky decomposition of any order, row by row in the destination; and what all paths have in common.
+// Cholesky decomposition of any order, column by column on the stack where it has room, row by row in the destination
+// otherwise; and what all paths have in common.
 #pragma once
 
 #include "frame/object_lanes.hpp"
@@ -64,6 +65,33 @@ VORM_INLINE Number less(const Number& value, int terms, const Term& term)
     return difference.total(terms, [&]() VORM_INLINE_LAMBDA { return term(terms - 1); });
 }
 
+// One matrix column by column: column c of the lower triangle begins at u + c * columnStep<T>(n), with element (r, c)
+// at place r and zeros from place n on. So the rows of a column lie in lanes, and do not wait for each other. Returns
+// how many columns have passed. Compiled once, in cholesky_blocks.cpp.
+template <class T>
+VORM_HIDDEN int choleskyFactoriseColumns(T* u, int n);
+constexpr int columnsOrder = 64;  // the highest for which the stack is to have room
+template <class T>
+constexpr std::ptrdiff_t columnStep(int n)
+{
+    return n + narrow<T>;
+}
+
+template <class T, class Src, class Dst>
+VORM_SHARED VormStatus choleskyInColumns(const Src src, const Dst dst, int object, int order)
+{
+    T u[columnsOrder * columnStep<T>(columnsOrder)];
+    const std::ptrdiff_t step = columnStep<T>(order);
+    for (int r = 0; r < order; ++r) {
+        for (int c = 0; c <= r; ++c) u[c * step + r] = src(object, r, c);
+        for (int i = 0; i < narrow<T>; ++i) u[r * step + order + i] = 0;
+    }
+    const int passed = choleskyFactoriseColumns(u, order);
+    for (int r = 0; r < order && r <= passed; ++r)
+        for (int c = 0; c < passed && c <= r; ++c) dst(object, r, c) = u[c * step + r];
+    return passed == order ? StatusOk : StatusNotPositiveDefinite;
+}
+
 // Several columns of a row side by side, since each sum waits for its own last term; then one after the other, as
 // each needs those before.
 template <class T, class Src, class Dst>
@@ -104,10 +132,14 @@ VORM_SHARED VormStatus choleskyOne(const Src src, const Dst dst, int object, int
 template <class T, class Src, class Dst>
 VORM_INLINE VormStatus choleskyGeneral(const Src& src, const Dst& dst, int object, int order)
 {
+    const auto any = [order](const auto& from, const auto& to, int which) VORM_INLINE_LAMBDA {
+        if (order > 2 && order <= columnsOrder) return choleskyInColumns<T>(from, to, which, order);
+        return choleskyOne<T>(from, to, which, order);
+    };
     if constexpr (requires { dst.single(0); })
-        return choleskyOne<T>(src.single(object), dst.single(object), 0, order);
+        return any(src.single(object), dst.single(object), 0);
     else
-        return choleskyOne<T>(plain(src), plain(dst), object, order);
+        return any(plain(src), plain(dst), object);
 }
 
 }  // namespace vorm::factor

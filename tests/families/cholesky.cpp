@@ -149,7 +149,7 @@ void spoil(const Call& call, int n, Random& random)
 std::vector<Sizes> sizes(const Function&)
 {
     std::vector<Sizes> all;
-    for (int order : {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 26, 40})
+    for (int order : {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 26, 40, 64, 65})
         all.insert(all.end(), isUnrolled(order) ? 40 : order < 12 ? 12 : 4, {order, order, order});
     return all;
 }
