@@ -163,6 +163,7 @@ int run(const std::string& filter, const std::string& output)
     addMatrixProducts(sections);
     addGaxpy(sections);
     addLu(sections);
+    addCholesky(sections);
     addCalls(sections);
     addTeam(sections);
 

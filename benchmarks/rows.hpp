@@ -47,6 +47,7 @@ void addVectorProducts(Sections& sections);
 void addMatrixProducts(Sections& sections);
 void addGaxpy(Sections& sections);
 void addLu(Sections& sections);
+void addCholesky(Sections& sections);
 void addCalls(Sections& sections);
 void addTeam(Sections& sections);
 

@@ -25,6 +25,8 @@ Order orderOf(const Function& f)
         if (f.layout == "L") return {null, size, stride, shift, count};
         return {null, size, stride, count, shift};
     }
+    if (f.family == "CholeskyBackSubst" && f.shape == "mva" && f.layout == "L")
+        return {null, stride, shift, size, count};
     return {null, count, size, fit, stride, shift};
 }
 

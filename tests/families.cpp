@@ -2,12 +2,13 @@
 
 #include "harness.hpp"
 
-extern const Family vectorSums, vectorScaling, vectorProducts, matrixProducts, gaxpyProducts, luDecomposition,
-    luSubstitution, fixedForms;
+extern const Family fixedForms, vectorSums, vectorScaling, vectorProducts, matrixProducts, gaxpyProducts,
+    luDecomposition, luSubstitution, choleskyDecomposition, choleskySubstitution;
 
 const std::vector<const Family*>& families()
 {
-    static const std::vector<const Family*> all = {&fixedForms,     &vectorSums,    &vectorScaling,   &vectorProducts,
-                                                   &matrixProducts, &gaxpyProducts, &luDecomposition, &luSubstitution};
+    static const std::vector<const Family*> all = {
+        &fixedForms,    &vectorSums,      &vectorScaling,  &vectorProducts,        &matrixProducts,
+        &gaxpyProducts, &luDecomposition, &luSubstitution, &choleskyDecomposition, &choleskySubstitution};
     return all;
 }

@@ -39,7 +39,7 @@ std::pair<Hit, Hit> nearest(const Function& f, bool isContiguous)
         for (int m = isProduct ? 1 : n; m <= (isProduct ? most : n); ++m)
             for (int k = isProduct ? 1 : n; k <= (isProduct ? most : n); ++k) {
                 const Sizes s{m, n, k};
-                int low = 0, high = 5000;  // reached with high objects, not with low
+                int low = 0, high = 8000;  // reached with high objects, not with low
                 while (high - low > 1) {
                     const int middle = (low + high) / 2;
                     (limitOf(f, s, middle, isContiguous).isReached() ? high : low) = middle;
