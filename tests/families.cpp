@@ -2,13 +2,13 @@
 
 #include "harness.hpp"
 
-extern const Family vectorSums, vectorProducts, matrixProducts, gaxpyProducts, luDecomposition, luSubstitution,
-    determinants, inverses, fixedForms;
+extern const Family vectorSums, vectorScaling, vectorProducts, matrixProducts, gaxpyProducts, luDecomposition,
+    luSubstitution, determinants, inverses, fixedForms;
 
 const std::vector<const Family*>& families()
 {
-    static const std::vector<const Family*> all = {&fixedForms,     &vectorSums,    &vectorProducts,
-                                                   &matrixProducts, &gaxpyProducts, &luDecomposition,
-                                                   &luSubstitution, &determinants,  &inverses};
+    static const std::vector<const Family*> all = {&fixedForms,     &vectorSums,    &vectorScaling,   &vectorProducts,
+                                                   &matrixProducts, &gaxpyProducts, &luDecomposition, &luSubstitution,
+                                                   &determinants,   &inverses};
     return all;
 }
