@@ -164,6 +164,7 @@ int run(const std::string& filter, const std::string& output)
     addGaxpy(sections);
     addLu(sections);
     addCholesky(sections);
+    addDet(sections);
     addCalls(sections);
     addTeam(sections);
 

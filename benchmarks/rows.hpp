@@ -48,6 +48,7 @@ void addMatrixProducts(Sections& sections);
 void addGaxpy(Sections& sections);
 void addLu(Sections& sections);
 void addCholesky(Sections& sections);
+void addDet(Sections& sections);
 void addCalls(Sections& sections);
 void addTeam(Sections& sections);
 

@@ -66,9 +66,9 @@ TEST(Binary, SizeOfTheCode)
     GTEST_SKIP() << "not an optimised build without sanitizers";
 #endif
 #ifdef __clang__
-    constexpr long budget = 3200000;
+    constexpr long budget = 4600000;
 #else
-    constexpr long budget = 2650000;
+    constexpr long budget = 4000000;
 #endif
     std::istringstream lines(outputOf("size"));
     std::string heading;

@@ -3,12 +3,13 @@
 #include "harness.hpp"
 
 extern const Family fixedForms, vectorSums, vectorScaling, vectorProducts, matrixProducts, gaxpyProducts,
-    luDecomposition, luSubstitution, choleskyDecomposition, choleskySubstitution;
+    luDecomposition, luSubstitution, choleskyDecomposition, choleskySubstitution, determinants, inverses;
 
 const std::vector<const Family*>& families()
 {
-    static const std::vector<const Family*> all = {
-        &fixedForms,    &vectorSums,      &vectorScaling,  &vectorProducts,        &matrixProducts,
-        &gaxpyProducts, &luDecomposition, &luSubstitution, &choleskyDecomposition, &choleskySubstitution};
+    static const std::vector<const Family*> all = {&fixedForms,           &vectorSums,     &vectorScaling,
+                                                   &vectorProducts,       &matrixProducts, &gaxpyProducts,
+                                                   &luDecomposition,      &luSubstitution, &choleskyDecomposition,
+                                                   &choleskySubstitution, &determinants,   &inverses};
     return all;
 }

@@ -82,6 +82,10 @@ constexpr Row table[] = {
     {"CholeskyBackSubst", "mva", [](const Work& w) { return (2 * w.count + w.n) * w.n; }, above(1200, 720, 720, 720)},
     {"CholeskyBackSubst", "mava", [](const Work& w) { return (w.n + 2) * w.n * w.count; },
      above({2050, 1700, 1700, 1700, 1700}, {1700, 1700, 1700, 1700, 2050})},
+    {"Det", "ma", [](const Work& w) { return w.n * w.count; }, above(14400, 14400, 14400, 14400)},
+    // Order 1 has no driver.
+    {"Invert", "ma", [](const Work& w) { return w.n == 1 ? 0 : 2 * w.n * w.count; },
+     above(3600, 2500, 2500, 2500, 2500)},
 };
 
 bool hasWord(const std::string& text, const std::string& word)
