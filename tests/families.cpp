@@ -3,10 +3,12 @@
 #include "harness.hpp"
 
 extern const Family vectorSums, vectorProducts, matrixProducts, luDecomposition, luSubstitution, fixedForms;
+extern const Family curves, transformMatrices, matrixOperations, pointTransforms, affineTransform3DH;
 
 const std::vector<const Family*>& families()
 {
-    static const std::vector<const Family*> all = {&fixedForms,     &vectorSums,      &vectorProducts,
-                                                   &matrixProducts, &luDecomposition, &luSubstitution};
+    static const std::vector<const Family*> all = {
+        &fixedForms, &curves,         &transformMatrices, &matrixOperations, &pointTransforms, &affineTransform3DH,
+        &vectorSums, &vectorProducts, &matrixProducts,    &luDecomposition,  &luSubstitution};
     return all;
 }

@@ -43,6 +43,8 @@ constexpr Row table[] = {
     {"Mul", "mma mta tma tta", [](const Work& w) { return w.m * w.k + (w.m + w.k) * w.n * w.count; }, products},
     {"Mul", "mama mata tama tata", [](const Work& w) { return ((w.n + w.k) * w.m + w.n * w.k) * w.count; }, products},
 
+    {"AffineTransform3DH", "mva", [](const Work& w) { return 6 * w.count; }, {785, 0, 0, 0}},
+
     {"LUDecomp", "ma", [](const Work& w) { return w.n * w.n * w.count; }, {1001, 1001, 1001, 1001}},
     {"LUBackSubst", "mva", [](const Work& w) { return (2 * w.count + w.n) * w.n; }, {701, 701, 701, 701}},
     {"LUBackSubst", "mava", [](const Work& w) { return (w.n + 2) * w.n * w.count; }, {1201, 1201, 1201, 1201}},
@@ -69,6 +71,7 @@ const Row& rowOf(const Function& f)
 
 Limit limitOf(const Function& f, const Sizes& s, int count, bool isContiguous)
 {
+    if (f.isFixed()) return {0, INT32_MAX};
     const Row& row = rowOf(f);
     const std::uint32_t measure =
         row.measure({std::uint32_t(s.rows), std::uint32_t(s.columns), std::uint32_t(s.terms), std::uint32_t(count)});
