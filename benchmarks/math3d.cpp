@@ -96,15 +96,14 @@ Task affine(Call call)
     const Objects<len, 4, srcStep, dstStep> o;
     const float* const m = scene().all;
     const glm::mat4 g = glmMatrix(m);
-    const Aligned c(m);
+    static Aligned c(m);
     const Matrix e = Eigen::Map<const Matrix>(m);
     return {{{"vorm", [=] { call(m, o.src, o.srcBytes, o.dst, o.dstBytes, count); }},
              o.each("glm", [=](const float* p, float* q) { put(q, g * glmPoint<len>(p)); }),
              o.each("cglm",
                     [=](const float* p, float* q) {
-                        Aligned matrix = c;
                         vec4 v = {p[0], p[1], len > 2 ? p[2] : 0, len > 3 ? p[3] : 1}, r;
-                        glm_mat4_mulv(matrix.m, v, r);
+                        glm_mat4_mulv(c.m, v, r);
                         put(q, r);
                     }),
              o.each("Eigen", [=](const float* p, float* q) {
@@ -118,7 +117,7 @@ Task coord(Call call)
     const Objects<len, len, srcStep, dstStep> o;
     const float* const m = scene().all;
     const glm::mat4 g = glmMatrix(m);
-    const Aligned c(m);
+    static Aligned c(m);
     const Matrix e = Eigen::Map<const Matrix>(m);
     return {{{"vorm", [=] { call(m, o.src, o.srcBytes, o.dst, o.dstBytes, count); }},
              o.each("glm",
@@ -128,9 +127,8 @@ Task coord(Call call)
                     }),
              o.each("cglm",
                     [=](const float* p, float* q) {
-                        Aligned matrix = c;
                         vec4 v = {p[0], p[1], len > 2 ? p[2] : 0, 1}, r;
-                        glm_mat4_mulv(matrix.m, v, r);
+                        glm_mat4_mulv(c.m, v, r);
                         glm_vec4_divs(r, r[3], r);
                         std::memcpy(q, r, len * sizeof(float));
                     }),
@@ -146,7 +144,7 @@ Task normal(Call call)
     const Objects<len, len, srcStep, dstStep> o;
     const float* const m = scene().all;
     const glm::mat<len, len, float> g(glmMatrix(m));
-    const Aligned c(m);
+    static Aligned c(m);
     const Eigen::Matrix<float, len, len> e = Eigen::Map<const Matrix>(m).topLeftCorner<len, len>();
     Task task{{{"vorm", [=] { call(m, o.src, o.srcBytes, o.dst, o.dstBytes, count); }},
                o.each("glm",
@@ -161,9 +159,8 @@ Task normal(Call call)
                })}};
     if constexpr (len == 3)
         task.contestants.push_back(o.each("cglm", [=](const float* p, float* q) {
-            Aligned matrix = c;
             vec3 v = {p[0], p[1], p[2]}, r;
-            glm_mat4_mulv3(matrix.m, v, 0, r);
+            glm_mat4_mulv3(c.m, v, 0, r);
             put(q, r);
         }));
     return task;
@@ -179,7 +176,7 @@ Task project()
     vormMul_mm4x4_32f(s.world, s.view, worldView);
     const glm::mat4 g = glmMatrix(worldView), projection = glmMatrix(s.projection);
     const glm::vec4 viewport(0, 0, width, height);
-    const Aligned c(s.all);
+    static Aligned c(s.all);
     const Matrix e = Eigen::Map<const Matrix>(s.all);
     return {
         {{"vorm",
@@ -191,10 +188,9 @@ Task project()
                            float* q) { put(q, glm::projectZO(glm::vec3(p[0], p[1], p[2]), g, projection, viewport)); }),
          o.each("cglm",
                 [=](const float* p, float* q) {
-                    Aligned matrix = c;
                     vec3 v = {p[0], p[1], p[2]}, r;
                     vec4 port = {0, 0, width, height};
-                    glm_project_zo(v, matrix.m, port, r);
+                    glm_project_zo(v, c.m, port, r);
                     put(q, r);
                 }),
          o.each("Eigen", [=](const float* p, float* q) {
@@ -209,7 +205,7 @@ Task unproject()
 {
     const Objects<3, 3, step, step> o;
     const Scene& s = scene();
-    const Aligned c(s.all);
+    static Aligned c(s.all);
     const Matrix e = Eigen::Map<const Matrix>(s.all);
     const glm::mat4 g = glm::inverse(glmMatrix(s.all));
     return {{{"vorm",

@@ -28,7 +28,7 @@ VORM_INLINE VormStatus lookAlong(Vector3 direction, Vector3 eye, const float* pU
     // The three dot products with the eye, side by side.
     const Vector3 dots = axes.rows[0] * splat<0>(eye) + axes.rows[1] * splat<1>(eye) + axes.rows[2] * splat<2>(eye);
     const Vector3 moved = 0.0f - dots, one = 1.0f;
-    const Vector3 last = shuffle<0, 1, 0, 2>(moved, interleaveHigh(moved, one));
+    const Vector3 last = shuffle<0, 1, 0, 1>(moved, interleaveHigh(moved, one));
     return Matrix4{{axes.rows[0], axes.rows[1], axes.rows[2], last}}.store(pDst);
 }
 

@@ -2,7 +2,6 @@
 
 #include "math3d/matrices/angle.hpp"
 #include "math3d/matrices/matrix4.hpp"
-#include "math3d/vectors.hpp"
 
 using namespace vorm;
 using namespace vorm::math3d;
@@ -27,15 +26,18 @@ VormStatus n8_vormRotationZ_m4_32f(float* pDst, float angle)
     return Matrix4{{row(c, s, 0, 0), row(0 - s, c, 0, 0), row(0, 0, 1, 0), row(0, 0, 0, 1)}}.store(pDst);
 }
 
+// Each row is t times the axis times a coordinate, plus one of (c, s z, -s y), (-s z, c, s x), (s y, -s x, c).
 VormStatus n8_vormRotationAxis_v3m4_32f(const float* pAxis, float* pDst, float angle)
 {
-    const float length = vorm::sqrt(dot<3>(pAxis, pAxis));
-    const float x = at(pAxis, 0) / length, y = at(pAxis, 1) / length, z = at(pAxis, 2) / length;
     const auto [s, c] = angleOf(angle);
-    const float t = 1 - c;
-    return Matrix4{{row(t * x * x + c, t * y * x + s * z, t * z * x - s * y, 0),
-                    row(t * x * y - s * z, t * y * y + c, y * (t * z) + s * x, 0),
-                    row(s * y + t * x * z, t * y * z - s * x, c + z * (t * z), 0), row(0, 0, 0, 1)}}
+    const Lanes<float> axis = loadThree(pAxis), squares = axis * axis;
+    const Lanes<float> n = axis / sqrt((splat<0>(squares) + splat<1>(squares)) + splat<2>(squares));
+    const Lanes<float> tn = (1.0f - c) * n, sn = s * n, cosine = c;
+    const Lanes<float> turned = interleaveLow(sn, -sn), last = interleaveHigh(sn, -sn);  // sx -sx sy -sy, sz -sz
+    const Lanes<float> both = interleaveLow(cosine, last);                               // c sz c -sz
+    return Matrix4{{firstThree(splat<0>(n) * tn + shuffle<0, 1, 3, 3>(both, turned)),
+                    firstThree(splat<1>(n) * tn + shuffle<3, 2, 0, 0>(both, turned)),
+                    firstThree(splat<2>(n) * tn + shuffle<2, 1, 0, 0>(turned, cosine)), row(0, 0, 0, 1)}}
         .store(pDst);
 }
 

@@ -29,22 +29,19 @@ struct Elements {
 
 // A register of points, each register of v one coordinate of all of them. -------------------------------------------
 
-// Packed: registers of memory, 4 points in 128 bits of each coordinate.
+// Packed.
 template <int Len, class L>
 VORM_INLINE void loadPacked(const float* p, L (&v)[Len])
 {
-    L in[Len];
-    for (int i = 0; i < Len; ++i)
-        in[i] = joined<L>([&](int q) VORM_INLINE_LAMBDA { return Lanes<float>::load(p + 4 * (q * Len + i)); });
+    const auto from = [p](int first) VORM_INLINE_LAMBDA {
+        return joined<L>([&](int q) VORM_INLINE_LAMBDA { return Lanes<float>::load(p + 4 * Len * q + first); });
+    };
     if constexpr (Len == 2) {
-        v[0] = shuffle<0, 2, 0, 2>(in[0], in[1]);
-        v[1] = shuffle<1, 3, 1, 3>(in[0], in[1]);
-    } else {                                               // x0 y0 z0 x1, y1 z1 x2 y2, z2 x3 y3 z3
-        const L last = shuffle<2, 3, 1, 2>(in[1], in[2]);  // x2 y2 x3 y3
-        const L mid = shuffle<1, 2, 0, 1>(in[0], in[1]);   // y0 z0 y1 z1
-        v[0] = shuffle<0, 3, 0, 2>(in[0], last);
-        v[1] = shuffle<0, 2, 1, 3>(mid, last);
-        v[2] = shuffle<1, 3, 0, 3>(mid, in[2]);
+        const L a = from(0), b = from(4);  // x0 y0 x1 y1, x2 y2 x3 y3
+        v[0] = shuffle<0, 2, 0, 2>(a, b);
+        v[1] = shuffle<1, 3, 1, 3>(a, b);
+    } else {  // x0 y0 z0 x1, x2 y2 z2 x3, and so on: more loads than registers, but a shuffle for each only
+        for (int i = 0; i < 3; ++i) v[i] = shuffle<0, 3, 0, 3>(from(i), from(i + 6));
     }
 }
 template <int Len, class L>
@@ -66,11 +63,11 @@ VORM_INLINE void storePacked(float* p, const L (&v)[Len])
         eachPart(out[i], [&](int q, Lanes<float> part) VORM_INLINE_LAMBDA { part.store(p + 4 * (q * Len + i)); });
 }
 
-// Anywhere, one point for each address at(0), at(1), ... Three floats lie in lanes 0, 2 and 3, see loadFirst.
+// Anywhere: point k of the register is point number(k) of the array.
 template <int Len, class L, class View, class Number>
 VORM_INLINE void loadApart(const View& view, const Number& number, L (&v)[Len])
 {
-    if constexpr (View::isAdjacent) {
+    if constexpr (View::isAdjacent) {  // three floats lie in lanes 0, 2 and 3, see loadFirst
         L points[4];
         for (int k = 0; k < 4; ++k)
             points[k] =
@@ -82,19 +79,34 @@ VORM_INLINE void loadApart(const View& view, const Number& number, L (&v)[Len])
             v[i] = lanes<L>([&](int k) VORM_INLINE_LAMBDA { return float(view(number(k), i)); });
     }
 }
+// Three floats that four may be read of.
+template <class L, class View>
+VORM_INLINE void loadSlots(const View& view, int first, L (&v)[3])
+{
+    L points[4];
+    for (int k = 0; k < 4; ++k)
+        points[k] =
+            joined<L>([&](int q) VORM_INLINE_LAMBDA { return Lanes<float>::load(view.object(first + 4 * q + k)); });
+    transpose(points);
+    for (int i = 0; i < 3; ++i) v[i] = points[i];
+}
 // The first points of a register, in ascending order.
 template <int Len, class L, class View>
 VORM_INLINE void storeApart(const View& view, int first, int count, const L (&v)[Len])
 {
-    L points[4] = {v[0], v[Len == 2], v[1], v[Len - 1]};
-    if constexpr (View::isAdjacent) transpose(points);
-    unrolled<L::width>([&](auto k) VORM_INLINE_LAMBDA {
-        if (k >= count) return;
-        if constexpr (View::isAdjacent)
-            storeFirst<Len>(view.object(first + k), Lanes<float>(L::R::template part<k / 4>(points[k % 4].v)));
-        else
-            for (int i = 0; i < Len; ++i) view(first + k, i) = lane<k>(v[i]);
-    });
+    if constexpr (View::isAdjacent) {
+        const L pairs[2] = {interleaveLow(v[0], v[1]), interleaveHigh(v[0], v[1])};  // x0 y0 x1 y1, x2 y2 x3 y3
+        unrolled<L::width>([&](auto k) VORM_INLINE_LAMBDA {
+            if (k >= count) return;
+            float* const to = view.object(first + k);
+            storeHalf<k % 2>(to, Lanes<float>(L::R::template part<k / 4>(pairs[k % 4 / 2].v)));
+            if constexpr (Len == 3) elementAt(to, 8) = lane<k>(v[2]);
+        });
+    } else {
+        unrolled<L::width>([&](auto k) VORM_INLINE_LAMBDA {
+            for (int i = 0; i < Len && k < count; ++i) view(first + k, i) = lane<k>(v[i]);
+        });
+    }
 }
 
 // Full registers of points from the first on, as many as there are; first is then the one behind them.
@@ -105,26 +117,33 @@ VORM_INLINE VormStatus registersOfPoints(const Constants& constants, const Src& 
     VormStatus status = StatusOk;
     if (count - first < L::width) return status;
     const Transform<L> transform(constants);
-    const auto apply = [&](L(&v)[Len]) VORM_INLINE_LAMBDA {
-        if (const VormStatus own = transform(v); own != StatusOk) status = own;
+    const auto upTo = [&](int last, const auto& load, const auto& store) VORM_INLINE_LAMBDA {
+        for (; first <= last - L::width; first += L::width) {
+            L v[Len];
+            load(first, v);
+            if (const VormStatus own = transform(v); own != StatusOk) status = own;
+            store(first, v);
+        }
     };
-    int n = first;
-    if (isPacked(src, Len) && isPacked(dst, Len))
-        for (; n <= count - L::width; n += L::width) {
-            L v[Len];
-            loadPacked(src.object(n), v);
-            apply(v);
-            storePacked(dst.object(n), v);
-        }
-    else
-        for (; n <= count - L::width; n += L::width) {
-            L v[Len];
-            loadApart(
-                src, [&](int k) VORM_INLINE_LAMBDA { return n + k; }, v);
-            apply(v);
-            storeApart(dst, n, L::width, v);
-        }
-    first = n;
+    const auto apart = [&](int n, const L(&v)[Len]) VORM_INLINE_LAMBDA { storeApart(dst, n, L::width, v); };
+    if (isPacked(src, Len) && isPacked(dst, Len)) {
+        upTo(
+            count, [&](int n, L(&v)[Len]) VORM_INLINE_LAMBDA { loadPacked(src.object(n), v); },
+            [&](int n, const L(&v)[Len]) VORM_INLINE_LAMBDA { storePacked(dst.object(n), v); });
+    } else {
+        if constexpr (Len == 3 && Src::isAdjacent)
+            if (src.stride0 >=
+                int{sizeof(float)})  // what is read behind a point is part of the array, but for the last
+                upTo(
+                    count - 1, [&](int n, L(&v)[Len]) VORM_INLINE_LAMBDA { loadSlots(src, n, v); }, apart);
+        upTo(
+            count,
+            [&](int n, L(&v)[Len]) VORM_INLINE_LAMBDA {
+                loadApart(
+                    src, [n](int k) VORM_INLINE_LAMBDA { return n + k; }, v);
+            },
+            apart);
+    }
     return status;
 }
 
