@@ -2,13 +2,14 @@
 
 #include "harness.hpp"
 
-extern const Family vectorSums, vectorProducts, matrixProducts, luDecomposition, luSubstitution, fixedForms;
-extern const Family curves, transformMatrices, matrixOperations, pointTransforms, affineTransform3DH;
+extern const Family vectorSums, vectorProducts, matrixProducts, luDecomposition, luSubstitution, determinants, inverses;
+extern const Family fixedForms, curves, transformMatrices, matrixOperations, pointTransforms, affineTransform3DH;
 
 const std::vector<const Family*>& families()
 {
     static const std::vector<const Family*> all = {
-        &fixedForms, &curves,         &transformMatrices, &matrixOperations, &pointTransforms, &affineTransform3DH,
-        &vectorSums, &vectorProducts, &matrixProducts,    &luDecomposition,  &luSubstitution};
+        &vectorSums,       &vectorProducts,  &matrixProducts,    &luDecomposition, &luSubstitution,
+        &determinants,     &inverses,        &fixedForms,        &curves,          &transformMatrices,
+        &matrixOperations, &pointTransforms, &affineTransform3DH};
     return all;
 }

@@ -48,6 +48,11 @@ constexpr Row table[] = {
     {"LUDecomp", "ma", [](const Work& w) { return w.n * w.n * w.count; }, {1001, 1001, 1001, 1001}},
     {"LUBackSubst", "mva", [](const Work& w) { return (2 * w.count + w.n) * w.n; }, {701, 701, 701, 701}},
     {"LUBackSubst", "mava", [](const Work& w) { return (w.n + 2) * w.n * w.count; }, {1201, 1201, 1201, 1201}},
+
+    {"Det", "ma", [](const Work& w) { return w.n * w.count; }, above(14400, 14400, 14400, 14400, 14400)},
+    // Order 1 has no driver.
+    {"Invert", "ma", [](const Work& w) { return w.n == 1 ? 0 : 2 * w.n * w.count; },
+     above(3600, 2500, 2500, 2500, 2500)},
 };
 
 bool hasWord(const std::string& text, const std::string& word)

@@ -46,7 +46,8 @@ std::pair<Hit, Hit> nearest(const Function& f, bool isContiguous)
                 }
                 if (const auto l = limitOf(f, s, low, isContiguous); low > 0 && l.measure > below.measure)
                     below = {s, low, l.measure};
-                if (const auto l = limitOf(f, s, high, isContiguous); high > 1 && l.measure < above.measure)
+                if (const auto l = limitOf(f, s, high, isContiguous);
+                    high > 1 && l.isReached() && l.measure < above.measure)
                     above = {s, high, l.measure};
             }
     return {below, above};
