@@ -15,7 +15,7 @@ namespace vorm::math3d {
 
 VORM_INLINE auto affine3DH(AFFINE_3DH_PARAMS)
 {
-    return arrayCallOf<float>(workOf(wrapMul(6, count), 1500, count), count, Matrix{pSrc1, src1Stride1, src1Stride2},
+    return arrayCallOf<float>(workOf(wrapMul(6, count), 1300, count), count, Matrix{pSrc1, src1Stride1, src1Stride2},
                               VectorArray{pSrc2, src2Stride0, src2Stride2}, VectorArray{pDst, dstStride0, dstStride2});
 }
 

@@ -127,22 +127,20 @@ VORM_INLINE VormStatus registersOfPoints(const Constants& constants, const Src& 
     };
     const auto apart = [&](int n, const L(&v)[Len]) VORM_INLINE_LAMBDA { storeApart(dst, n, L::width, v); };
     if (isPacked(src, Len) && isPacked(dst, Len)) {
-        upTo(
-            count, [&](int n, L(&v)[Len]) VORM_INLINE_LAMBDA { loadPacked(src.object(n), v); },
-            [&](int n, const L(&v)[Len]) VORM_INLINE_LAMBDA { storePacked(dst.object(n), v); });
+        const auto load = [&](int n, L(&v)[Len]) VORM_INLINE_LAMBDA { loadPacked(src.object(n), v); };
+        const auto store = [&](int n, const L(&v)[Len]) VORM_INLINE_LAMBDA { storePacked(dst.object(n), v); };
+        upTo(count, load, store);
     } else {
-        if constexpr (Len == 3 && Src::isAdjacent)
-            if (src.stride0 >=
-                int{sizeof(float)})  // what is read behind a point is part of the array, but for the last
-                upTo(
-                    count - 1, [&](int n, L(&v)[Len]) VORM_INLINE_LAMBDA { loadSlots(src, n, v); }, apart);
-        upTo(
-            count,
-            [&](int n, L(&v)[Len]) VORM_INLINE_LAMBDA {
-                loadApart(
-                    src, [n](int k) VORM_INLINE_LAMBDA { return n + k; }, v);
-            },
-            apart);
+        // What lies behind a point may be read along but for the last one, unless the array runs backwards.
+        if constexpr (Len == 3 && Src::isAdjacent) {
+            const auto slots = [&](int n, L(&v)[Len]) VORM_INLINE_LAMBDA { loadSlots(src, n, v); };
+            if (src.stride0 >= int{sizeof(float)}) upTo(count - 1, slots, apart);
+        }
+        const auto single = [&](int n, L(&v)[Len]) VORM_INLINE_LAMBDA {
+            const auto number = [n](int k) VORM_INLINE_LAMBDA { return n + k; };
+            loadApart(src, number, v);
+        };
+        upTo(count, single, apart);
     }
     return status;
 }
@@ -160,8 +158,8 @@ VORM_INLINE VormStatus eachPoint(const Constants& constants, const Src& src, con
     }
     if (n < count) {  // the first of the rest is in the lanes behind the last, too
         L v[Len];
-        loadApart(
-            src, [&](int k) VORM_INLINE_LAMBDA { return n + (n + k < count ? k : 0); }, v);
+        const auto number = [n, count](int k) VORM_INLINE_LAMBDA { return n + (k < count - n ? k : 0); };
+        loadApart(src, number, v);
         const VormStatus own = Transform<L>(constants)(v);
         if (own != StatusOk) status = own;
         storeApart(dst, n, count - n, v);
