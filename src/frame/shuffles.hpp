@@ -108,12 +108,6 @@ VORM_INLINE Lanes<float> behindFirst(Lanes<float> a)
     return _mm_castsi128_ps(_mm_srli_si128(_mm_castps_si128(a.v), 4));
 }
 
-// a0 a1 a2 0.
-VORM_INLINE Lanes<float> firstThree(Lanes<float> a)
-{
-    return _mm_and_ps(a.v, _mm_castsi128_ps(_mm_setr_epi32(-1, -1, -1, 0)));
-}
-
 // Sums of neighbours: a0+a1 a2+a3 b0+b1 b2+b3, or a0+a1 b0+b1.
 VORM_INLINE Lanes<float> pairSums(Lanes<float> a, Lanes<float> b) { return _mm_hadd_ps(a.v, b.v); }
 VORM_INLINE Lanes<double> pairSums(Lanes<double> a, Lanes<double> b) { return _mm_hadd_pd(a.v, b.v); }

@@ -35,9 +35,10 @@ VormStatus n8_vormRotationAxis_v3m4_32f(const float* pAxis, float* pDst, float a
     const Lanes<float> tn = (1.0f - c) * n, sn = s * n, cosine = c;
     const Lanes<float> turned = interleaveLow(sn, -sn), last = interleaveHigh(sn, -sn);  // sx -sx sy -sy, sz -sz
     const Lanes<float> both = interleaveLow(cosine, last);                               // c sz c -sz
-    return Matrix4{{firstThree(splat<0>(n) * tn + shuffle<0, 1, 3, 3>(both, turned)),
-                    firstThree(splat<1>(n) * tn + shuffle<3, 2, 0, 0>(both, turned)),
-                    firstThree(splat<2>(n) * tn + shuffle<2, 1, 0, 0>(turned, cosine)), row(0, 0, 0, 1)}}
+    const auto inAxes = row(0, 0, 0, 1) == Lanes<float>(0.0f);
+    return Matrix4{{where(inAxes, splat<0>(n) * tn + shuffle<0, 1, 3, 3>(both, turned)),
+                    where(inAxes, splat<1>(n) * tn + shuffle<3, 2, 0, 0>(both, turned)),
+                    where(inAxes, splat<2>(n) * tn + shuffle<2, 1, 0, 0>(turned, cosine)), row(0, 0, 0, 1)}}
         .store(pDst);
 }
 
