@@ -161,7 +161,9 @@ int run(const std::string& filter, const std::string& output)
     addElementwise(sections);
     addVectorProducts(sections);
     addMatrixProducts(sections);
+    addGaxpy(sections);
     addLu(sections);
+    addDet(sections);
     addMath3d(sections);
     addCalls(sections);
     addTeam(sections);

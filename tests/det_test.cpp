@@ -8,14 +8,13 @@
 
 namespace {
 
-// In either type, for packed matrices and for elements twice as far apart.
+// In either type.
 template <class T>
 struct Functions;
 template <>
 struct Functions<float> {
     static constexpr auto det = vormDet_m_32f;
     static constexpr auto invert = vormInvert_m_32f;
-    static constexpr auto invertArray = vormInvert_ma_32f;
     static constexpr auto invertList = vormInvert_ma_32f_L;
     static constexpr auto invertPointers = vormInvert_m_32f_P;
     static constexpr auto theirFactors = LAPACKE_sgetrf;
@@ -25,7 +24,6 @@ template <>
 struct Functions<double> {
     static constexpr auto det = vormDet_m_64f;
     static constexpr auto invert = vormInvert_m_64f;
-    static constexpr auto invertArray = vormInvert_ma_64f;
     static constexpr auto invertList = vormInvert_ma_64f_L;
     static constexpr auto invertPointers = vormInvert_m_64f_P;
     static constexpr auto theirFactors = LAPACKE_dgetrf;
@@ -168,22 +166,22 @@ void checkInverses(std::initializer_list<int> orders, Layout layout, double gate
     std::printf(", %.2f from LAPACK, %d of %d compared\n", worstAgainst, compared, tried);
     EXPECT_LT(worst, gate);
     EXPECT_LT(worstAgainst, 1);
-    EXPECT_GT(compared, tried / 2);
+    EXPECT_GE(compared, tried / 2);
 }
 
+// The gates are twice what is reached, mostly by nearly singular matrices.
 TEST(Inverses, Residuals)
 {
-    for (Layout layout : {Layout::packed, Layout::spread, Layout::pointers}) {
-        checkInverses<double>({1, 2}, layout, 1.1);
-        checkInverses<double>({3, 4, 5, 6}, layout, 10);
-        checkInverses<double>({7, 8, 9, 10, 11, 12, 17}, layout, 10);
-    }
-    checkInverses<float>({1, 2}, Layout::packed, 1.1);
-    checkInverses<float>({3, 4, 5, 6}, Layout::spread, 10);
-    checkInverses<float>({3, 4}, Layout::packed, 10);
-    checkInverses<float>({5, 6}, Layout::packed, 10);
-    checkInverses<float>({7, 8, 9, 10, 11, 12, 17}, Layout::packed, 10);
-    checkInverses<double>({40}, Layout::packed, 10);
+    const auto small = {1, 2}, large = {7, 8, 9, 10, 11, 12, 17};
+    checkInverses<double>(small, Layout::packed, 1.5);
+    checkInverses<double>({3, 4, 5, 6}, Layout::packed, 5.5);
+    checkInverses<double>(large, Layout::packed, 4.2);
+    checkInverses<double>({40}, Layout::packed, 2.4);
+    checkInverses<float>(small, Layout::packed, 1.3);
+    checkInverses<float>({3, 4, 5, 6}, Layout::spread, 5.8);
+    checkInverses<float>({3, 4}, Layout::packed, 3);    // by estimated reciprocals
+    checkInverses<float>({5, 6}, Layout::packed, 2.5);  // and by steps of elimination
+    checkInverses<float>(large, Layout::packed, 5.5);
 }
 
 // Small integers have determinants without a rounding error wherever no division is made.
@@ -217,7 +215,7 @@ void checkDeterminantThresholds()
             return det(m);
         };
         // The last pivot has to be above the limit, those before it not below.
-        EXPECT_EQ(withLast(1, above), n > 1 ? above : above) << n;
+        EXPECT_EQ(withLast(1, above), above) << n;
         EXPECT_EQ(withLast(n > 1 ? 1 : limit, limit), 0) << n;
         EXPECT_EQ(withLast(n > 1 ? 1 : -limit, -limit), 0) << n;
         EXPECT_EQ(withLast(1, below), 0) << n;
@@ -250,7 +248,7 @@ void checkInverseThresholds()
             const bool isTwice = !isSingle && layout == Layout::packed && (n == 3 || n == 4);
             const T limit = T((isTwice ? 4 : 2) * n * n * n) * tiny;
             const bool isClosed = n >= 3 && n <= 6;
-            for (int sign : {1, -1})
+            for (T sign : {T(1), T(-1)})
                 for (int place = 0; place < n; ++place)
                     for (int step = -1; step <= 1; ++step) {
                         const T value = sign * (step ? std::nextafter(limit, T(step > 0)) : limit);
@@ -263,7 +261,9 @@ void checkInverseThresholds()
                             << n << ", layout " << int(layout) << ", place " << place << ", step " << step;
                         if (status != StatusOk) {
                             EXPECT_EQ(x.a, before);
-                            if (!isClosed && n > 1 && step < 0 && place < n - 1) EXPECT_EQ(first, 0);
+                            if (!isClosed && n > 1 && step < 0 && place < n - 1) {
+                                EXPECT_EQ(first, 0);
+                            }
                         } else {
                             EXPECT_NEAR(x(place, place) * value, 1, 1e-6);
                         }
@@ -295,7 +295,7 @@ void checkIdentities()
                     else if (r == c)
                         EXPECT_EQ(found, 1);
                     else
-                        EXPECT_EQ(found, isClosed ? 0 : (r + c) % 2 ? -limit : limit) << n;  // minors are never 0
+                        EXPECT_EQ(std::fabs(found), isClosed ? 0 : limit) << n;  // minors are never 0
                 }
         }
 }
@@ -315,7 +315,9 @@ TEST(Inverses, OfAnArrayWithASingularOne)
         EXPECT_EQ(vormInvert_ma_64f(a.data(), size * e, row, e, buffer.data(), x.data(), size * e, row, e, n, 3), -195);
         EXPECT_EQ(x[0], 0.5);
         for (std::size_t i = std::size_t(size); i < x.size(); ++i) EXPECT_EQ(x[i], 5);
-        if (n == 2 || n > 6) EXPECT_EQ(buffer[0], 0);
+        if (n == 2 || n > 6) {
+            EXPECT_EQ(buffer[0], 0);
+        }
     }
 }
 

@@ -59,16 +59,16 @@ bool invertByCofactors(Square<T>& a, T threshold, bool estimated)
 }
 
 template <class T>
-bool invertInSteps(Square<T>& a, T threshold)
+bool invertInSteps(Square<T>& a, T threshold, bool estimated)
 {
     const std::size_t n = a.size();
-    if (n == 4) return invertByCofactors(a, threshold, true);
+    if (n == 4) return invertByCofactors(a, threshold, estimated);
     std::size_t p = 0;
     for (std::size_t i = 1; i < n; ++i)
         if (std::fabs(a[i][0]) > std::fabs(a[p][0])) p = i;
     if (std::fabs(a[p][0]) < threshold) return false;
     std::swap(a[0], a[p]);
-    const T x = reciprocal(a[0][0], true);
+    const T x = reciprocal(a[0][0], estimated);
     Square<T> rest;
     std::vector<T> top;
     for (std::size_t c = 1; c < n; ++c) top.push_back(a[0][c] * x);
@@ -76,7 +76,7 @@ bool invertInSteps(Square<T>& a, T threshold)
         rest.emplace_back();
         for (std::size_t c = 1; c < n; ++c) rest.back().push_back(a[r][c] - a[r][0] * top[c - 1]);
     }
-    if (!invertInSteps(rest, threshold)) return false;
+    if (!invertInSteps(rest, threshold, estimated)) return false;
     const auto sum = [&](auto term) {
         T total = term(0);
         for (std::size_t k = 1; k + 1 < n; ++k) total += term(k);
@@ -128,8 +128,8 @@ VormStatus invert(const Call& call, int n)
         passed = std::fabs(a[0][0]) > formula, a[0][0] = 1 / a[0][0];
     else if (!isClosed(order))
         passed = invertByElimination(a, formula);
-    else if (isOwn && isSingle && order > 4)
-        passed = invertInSteps(a, formula);
+    else if (isSingle && order > 4)
+        passed = invertInSteps(a, formula, isOwn);
     else
         passed = invertByCofactors(a, isOwn && !isSingle && order < 5 ? 2 * formula : formula, isOwn && isSingle);
     if (!passed) return StatusSingular;

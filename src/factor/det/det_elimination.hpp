@@ -3,10 +3,8 @@
 // whose rows change places by masks.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <limits>
-#include <utility>
 
 #include "factor/lu_general.hpp"
 #include "frame/object_rows.hpp"
@@ -61,69 +59,9 @@ struct EliminatedLanes {
 
 // One step: of the rows at a, so many numbers apart, all but the pivot row go to to, without their first column.
 // to may be where they are, one row and one column on.
-template <int rows, Factors factors, class Number>
-VORM_SHARED void eliminateColumn(const Number* a, int columns, int stride, Number* to, int toStride, Number threshold,
-                                 EliminatedLanes<Number>& e)
-{
-    using T = Element<Number>;
-    using Mask = typename Number::Mask;
-    Mask is[rows];
-    Number magnitude = abs(a[0]);
-    for (int i = 1; i < rows; ++i) {
-        const Number other = abs(a[i * stride]);
-        is[i] = other > magnitude;
-        magnitude = larger(other, magnitude);
-    }
-    Mask exchanged = is[rows - 1];  // the last one to displace the largest is the pivot
-    for (int i = rows - 2; i > 0; --i) {
-        const Mask own = is[i];
-        is[i] = without(own, exchanged);
-        exchanged = exchanged | own;
-    }
-    e.sign = changed(e.sign, where(without(exchanged, e.stopped), Number(-T(0))));
-    if (const Mask stops = without(magnitude < threshold, e.stopped); any(stops)) {
-        const auto last = [&](int c)
-                              VORM_INLINE_LAMBDA { return select(is[rows - 1], a[c], a[(rows - 1) * stride + c]); };
-        e.last = select(stops, last(columns - 1), e.last);
-        e.beforeLast = select(stops, last(columns - 2), e.beforeLast);
-        e.stopped = e.stopped | stops;
-    }
-
-    Number below[rows];
-    // Returns the pivot row's element, and has those of the other rows in below.
-    const auto exchange = [&](int c) VORM_INLINE_LAMBDA {
-        const Number top = a[c];
-        Number changes;
-        for (int i = 1; i < rows; ++i) {
-            const Number element = a[i * stride + c], change = difference(is[i], top, element);
-            below[i] = changed(element, change);
-            changes = i == 1 ? change : united(changes, change);
-        }
-        return changed(top, changes);
-    };
-    Number multiples[rows];
-    const Number pivot = exchange(0), reciprocal = timesSignOf(Number(T(1)) / magnitude, pivot);
-    e.product = e.product * pivot;
-    for (int i = 1; i < rows; ++i)
-        multiples[i] = factors == Factors::quotients ? below[i] / pivot : below[i] * reciprocal;
-    for (int c = 1; c < columns; ++c) {
-        const Number above = exchange(c);
-        for (int i = 1; i < rows; ++i) to[(i - 1) * toStride + c - 1] = below[i] - above * multiples[i];
-    }
-}
-
-template <Factors factors, class Number>
-using EliminateColumn = void(const Number* a, int columns, int stride, Number* to, int toStride, Number threshold,
-                             EliminatedLanes<Number>& e);
-// By the number of rows.
-template <Factors factors, class Number, int... rows>
-constexpr auto stepsByRows(std::integer_sequence<int, rows...>)
-{
-    return std::array<EliminateColumn<factors, Number>*, sizeof...(rows) + 2>{
-        nullptr, nullptr, eliminateColumn<rows + 2, factors, Number>...};
-}
-template <Factors factors, class Number>
-constexpr auto eliminationSteps = stepsByRows<factors, Number>(std::make_integer_sequence<int, bufferedOrder - 1>{});
+template <class Number>
+VORM_HIDDEN void eliminateColumn(Factors factors, int rows, const Number* a, int columns, int stride, Number* to,
+                                 int toStride, Number threshold, EliminatedLanes<Number>& e);
 
 // All steps of n rows with at least as many columns, in place. Returns where the last row's last columns are.
 template <Factors factors, class Number>
@@ -132,7 +70,7 @@ VORM_INLINE const Number* eliminateAll(Number* a, int n, int columns, int stride
 {
     for (int rows = n; rows > 1; --rows, --columns) {
         Number* const next = a + stride + 1;
-        eliminationSteps<factors, Number>[std::size_t(rows)](a, columns, stride, next, stride, threshold, e);
+        eliminateColumn(factors, rows, a, columns, stride, next, stride, threshold, e);
         a = next;
     }
     return a;

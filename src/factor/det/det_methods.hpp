@@ -40,7 +40,7 @@ VORM_INLINE Number determinantOf(const Src& src, int first)
 {
     Number a[n][n];
     loadMatrices(src, first, a);
-    if constexpr (n <= 4)
+    if constexpr (n <= 2 || (inLanes<Number> && n <= 4 && (isAdjacent<Src> || isInPlanes<Src>)))
         return determinantHere(a);
     else
         return determinant(a);

@@ -4,10 +4,10 @@
 
 namespace vorm::factor {
 
-template <bool estimated, int n, class Number>
+template <Reciprocals reciprocals, int n, class Number>
 bool inverse(Number (&a)[n][n], Element<Number> threshold)
 {
-    return inverseHere<estimated>(a, threshold);
+    return inverseHere<reciprocals>(a, threshold);
 }
 
 template <class T>
@@ -62,7 +62,7 @@ template <class T>
 void invertByMinors(const T* a, int n, T reciprocal, T* inverse)
 {
     constexpr int width = narrow<T>;
-    constexpr auto& steps = eliminationSteps<Factors::products, Lanes<T>>;
+    constexpr Factors products = Factors::products;
     const Lanes<T> threshold = detThreshold<T>(n);
     Lanes<T> rows[bufferedOrder * bufferedOrder], apart[bufferedOrder * bufferedOrder];
     T signs[width];
@@ -85,9 +85,9 @@ void invertByMinors(const T* a, int n, T reciprocal, T* inverse)
             auto own = shared;
             const Lanes<T>* last = at + 1;
             if (left > 1) {
-                steps[std::size_t(left)](at + 1, left, n, apart, n, threshold, own);
-                last = eliminateAll<Factors::products>(apart, left - 1, left - 1, n, threshold, own);
-                steps[std::size_t(left)](at, left + 1, n, at + n + 1, n, threshold, shared);
+                eliminateColumn(products, left, at + 1, left, n, apart, n, threshold, own);
+                last = eliminateAll<products>(apart, left - 1, left - 1, n, threshold, own);
+                eliminateColumn(products, left, at, left + 1, n, at + n + 1, n, threshold, shared);
             }
             store(j, minorOf(*last, own, own.last, threshold));
             if (left == 1) store(n - 1, minorOf(*at, shared, shared.beforeLast, threshold));
@@ -95,19 +95,16 @@ void invertByMinors(const T* a, int n, T reciprocal, T* inverse)
     }
 }
 
-#define INVERT_SMALL(Number)                                                   \
-    template bool inverse<false>(Number(&a)[5][5], Element<Number> threshold); \
-    template bool inverse<false>(Number(&a)[6][6], Element<Number> threshold);
-#define INVERT_ESTIMATED(Number)                                              \
-    template bool inverse<true>(Number(&a)[5][5], Element<Number> threshold); \
-    template bool inverse<true>(Number(&a)[6][6], Element<Number> threshold);
-#define INVERT_SINGLE(estimated, T)                             \
-    template bool inverse<estimated>(T(&a)[3][3], T threshold); \
-    template bool inverse<estimated>(T(&a)[4][4], T threshold);
+#define INVERT_ORDER(how, n, Number) \
+    template bool inverse<Reciprocals::how>(Number(&a)[n][n], Element<Number> threshold);
+#define INVERT_SMALL(how, Number) \
+    INVERT_ORDER(how, 3, Number)  \
+    INVERT_ORDER(how, 4, Number)  \
+    INVERT_ORDER(how, 5, Number)  \
+    INVERT_ORDER(how, 6, Number)
 #define INVERT_ALL(T)                                                                   \
-    INVERT_SMALL(T)                                                                     \
-    INVERT_SMALL(Lanes<T>)                                                              \
-    INVERT_SINGLE(false, T)                                                             \
+    INVERT_SMALL(exact, T)                                                              \
+    INVERT_SMALL(exact, Lanes<T>)                                                       \
     template Verdict reciprocalOfDeterminant(T* a, int n, int* rows, T& reciprocal);    \
     template bool reciprocalsOfDeterminants(Lanes<T>* a, int n, Lanes<T>& reciprocals); \
     template void invertByMinors(const T* a, int n, T reciprocal, T* inverse);          \
@@ -115,13 +112,16 @@ void invertByMinors(const T* a, int n, T reciprocal, T* inverse)
 
 INVERT_ALL(float)
 INVERT_ALL(double)
-INVERT_SINGLE(true, float)
-INVERT_ESTIMATED(float)
-INVERT_ESTIMATED(Lanes<float>)
+INVERT_SMALL(estimated, float)
+INVERT_ORDER(estimated, 5, Lanes<float>)
+INVERT_ORDER(estimated, 6, Lanes<float>)
 #ifdef VORM_WIDER_REGISTERS
-INVERT_SMALL(Wide<float>)
-INVERT_SMALL(Wide<double>)
-INVERT_ESTIMATED(Wide<float>)
+INVERT_ORDER(exact, 5, Wide<float>)
+INVERT_ORDER(exact, 6, Wide<float>)
+INVERT_ORDER(exact, 5, Wide<double>)
+INVERT_ORDER(exact, 6, Wide<double>)
+INVERT_ORDER(estimated, 5, Wide<float>)
+INVERT_ORDER(estimated, 6, Wide<float>)
 #endif
 
 }  // namespace vorm::factor

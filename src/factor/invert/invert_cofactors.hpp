@@ -79,25 +79,25 @@ VORM_INLINE bool invertByCofactors(Number (&a)[n][n], Element<Number> threshold)
 
 // With the pivot row on top the matrix is (x, x u; c, d), and its inverse (1/x - u l, -u m; l, m), m being the inverse
 // of d - c u and l = -m c / x.
-template <int n, class Number>
+template <Reciprocals reciprocals, int n, class Number>
 VORM_INLINE bool invertInSteps(Number (&a)[n][n], Element<Number> threshold)
 {
     if constexpr (n == 4) {
-        return invertByCofactors<Reciprocals::estimated>(a, threshold);
+        return invertByCofactors<reciprocals>(a, threshold);
     } else {
         Pivot<n, Number> pivot;
         pivot.template find<0>([&](int i) VORM_INLINE_LAMBDA { return a[i][0]; });
         if (any(pivot.magnitude < Number(threshold))) return false;
         for (int c = 0; c < n; ++c)
             pivot.template exchange<0>([&](int i) VORM_INLINE_LAMBDA -> Number& { return a[i][c]; });
-        const Number reciprocal = reciprocalOf<Reciprocals::estimated>(a[0][0]);
+        const Number reciprocal = reciprocalOf<reciprocals>(a[0][0]);
         Number top[n - 1], left[n - 1], rest[n - 1][n - 1];
         for (int c = 0; c < n - 1; ++c) top[c] = a[0][c + 1] * reciprocal;
         for (int r = 0; r < n - 1; ++r) {
             left[r] = a[r + 1][0];
             for (int c = 0; c < n - 1; ++c) rest[r][c] = a[r + 1][c + 1] - left[r] * top[c];
         }
-        if (!invertInSteps(rest, threshold)) return false;
+        if (!invertInSteps<reciprocals>(rest, threshold)) return false;
         const auto sum = [](const auto& term) VORM_INLINE_LAMBDA {
             Number total = term(0);
             for (int k = 1; k < n - 1; ++k) total = total + term(k);

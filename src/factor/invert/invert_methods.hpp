@@ -10,7 +10,9 @@ namespace vorm::factor {
 // Elements side by side in the standard layout have thresholds, and in single precision reciprocals, of their own.
 enum class Kernel { contiguous, other };
 template <Kernel kernel, class T>
-constexpr bool estimates = kernel == Kernel::contiguous && sizeof(T) == sizeof(float);
+constexpr Reciprocals reciprocalsOf = kernel == Kernel::contiguous && sizeof(T) == sizeof(float)
+                                          ? Reciprocals::estimated
+                                          : Reciprocals::exact;
 template <Kernel kernel, class T>
 constexpr T invertThreshold(int order)
 {
@@ -18,16 +20,16 @@ constexpr T invertThreshold(int order)
     return isTwice ? 2 * detThreshold<T>(order) : detThreshold<T>(order);
 }
 
-template <bool estimated, int n, class Number>
+template <Reciprocals reciprocals, int n, class Number>
 VORM_INLINE bool inverseHere(Number (&a)[n][n], Element<Number> threshold)
 {
-    if constexpr (estimated && n > 4)
-        return invertInSteps(a, threshold);
+    if constexpr (n > 4 && sizeof(Element<Number>) == sizeof(float))
+        return invertInSteps<reciprocals>(a, threshold);
     else
-        return invertByCofactors < estimated ? Reciprocals::estimated : Reciprocals::exact > (a, threshold);
+        return invertByCofactors<reciprocals>(a, threshold);
 }
 // The same compiled once, in invert_blocks.cpp.
-template <bool estimated, int n, class Number>
+template <Reciprocals reciprocals, int n, class Number>
 VORM_HIDDEN bool inverse(Number (&a)[n][n], Element<Number> threshold);
 
 template <Kernel kernel, int n, class Number, class Src, class Dst>
@@ -38,10 +40,10 @@ VORM_INLINE VormStatus invertObjects(const Src& src, const Dst& dst, int first)
     Number a[n][n];
     loadMatrices(src, first, a);
     const bool passed = [&]() VORM_INLINE_LAMBDA {
-        if constexpr (inLanes<Number> && n <= 4)
-            return inverseHere<estimates<kernel, T>>(a, threshold);
+        if constexpr (inLanes<Number> && n <= 4 && (isAdjacent<Src> || isInPlanes<Src>))
+            return inverseHere<reciprocalsOf<kernel, T>>(a, threshold);
         else
-            return inverse<estimates<kernel, T>>(a, threshold);
+            return inverse<reciprocalsOf<kernel, T>>(a, threshold);
     }();
     if (!passed) return StatusSingular;
     storeMatrices(dst, first, a);
