@@ -52,6 +52,15 @@ VormStatus n8_own3dvormInvert_m_32f_4x4(const float* pSrc, int srcStride1, float
     m0 = (q * t + m0) - q * u;
     m2 = r0Swapped * t - r0Swapped * u;
 
+    // The first row tells the determinant, and the others are finished while its reciprocal is on the way.
+    const Lanes<float> d = r0 * m0, e = permute<2, 3, 0, 1>(d) + d, det = splat<1>(e) + splat<0>(e);
+    if (vorm::abs(firstLane(det)) < 0x1p-119f) {
+        if (pDet) elementAt(pDet, 0) = 0;
+        return StatusSingular;
+    }
+    if (pDet) elementAt(pDet, 0) = firstLane(det);
+    const Lanes<float> scale = reciprocalOf(det);
+
     take(r0 * r1);
     m2 = r3 * u - (r3 * t + m2);
     m3 = (q * t - m3) - q * u;
@@ -64,13 +73,7 @@ VormStatus n8_own3dvormInvert_m_32f_4x4(const float* pSrc, int srcStride1, float
     m1 = (r3 * t + m1) - r3 * u;
     m3 = r1 * u + (m3 - r1 * t);
 
-    const Lanes<float> d = r0 * m0, e = permute<2, 3, 0, 1>(d) + d, det = splat<1>(e) + splat<0>(e);
-    if (vorm::abs(firstLane(det)) < 0x1p-119f) {
-        if (pDet) elementAt(pDet, 0) = 0;
-        return StatusSingular;
-    }
-    if (pDet) elementAt(pDet, 0) = firstLane(det);
-    const Lanes<float> scale = reciprocalOf(det), rows[4] = {m0, m1, m2, m3};
+    const Lanes<float> rows[4] = {m0, m1, m2, m3};
     for (int i = 0; i < 4; ++i) (rows[i] * scale).store(advance(pDst, std::ptrdiff_t{i} * dstStride1));
     return StatusOk;
 }
