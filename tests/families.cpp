@@ -2,15 +2,15 @@
 
 #include "harness.hpp"
 
-extern const Family vectorSums, vectorProducts, matrixProducts, gaxpyProducts, luDecomposition, luSubstitution,
-    determinants, inverses;
-extern const Family fixedForms, curves, transformMatrices, matrixOperations, pointTransforms, affineTransform3DH;
+extern const Family vectorSums, vectorScaling, vectorProducts, matrixProducts, gaxpyProducts, luDecomposition,
+    luSubstitution, determinants, inverses, fixedForms;
+extern const Family curves, transformMatrices, matrixOperations, pointTransforms, affineTransform3DH;
 
 const std::vector<const Family*>& families()
 {
     static const std::vector<const Family*> all = {
-        &vectorSums,        &vectorProducts,   &matrixProducts,  &gaxpyProducts,     &luDecomposition,
-        &luSubstitution,    &determinants,     &inverses,        &fixedForms,        &curves,
-        &transformMatrices, &matrixOperations, &pointTransforms, &affineTransform3DH};
+        &fixedForms,    &vectorSums,        &vectorScaling,    &vectorProducts,  &matrixProducts,
+        &gaxpyProducts, &luDecomposition,   &luSubstitution,   &determinants,    &inverses,
+        &curves,        &transformMatrices, &matrixOperations, &pointTransforms, &affineTransform3DH};
     return all;
 }

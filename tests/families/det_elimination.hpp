@@ -113,7 +113,7 @@ inline void fillNearThreshold(const Call& call, Values values, Random& random)
 inline Stored bufferAndResult(const Operand& o, const Function& f, const Problem& p)
 {
     const int order = p.sizes.columns;
-    if (o.name == "buffer") return {1, std::max(p.threads, p.later) * order * (order + 1)};
+    if (o.name == "buffer") return {1, std::max({1, p.threads, p.later}) * order * (order + 1)};
     if (o.name == "dst" && f.family == "Det") return {1, 1};
     return {0, 0};
 }

@@ -152,4 +152,4 @@ const Family inverses = {.name = "Inverses",
                                                       : putZeroColumn<double>(call, n, random);
                              },
                          .stored = bufferAndResult,
-                         .largest = 40};
+                         .largest = 31};
