@@ -165,6 +165,7 @@ int run(const std::string& filter, const std::string& output)
     addLu(sections);
     addCholesky(sections);
     addDet(sections);
+    addMath3d(sections);
     addCalls(sections);
     addTeam(sections);
 

@@ -49,6 +49,7 @@ void addGaxpy(Sections& sections);
 void addLu(Sections& sections);
 void addCholesky(Sections& sections);
 void addDet(Sections& sections);
+void addMath3d(Sections& sections);
 void addCalls(Sections& sections);
 void addTeam(Sections& sections);
 

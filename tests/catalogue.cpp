@@ -116,6 +116,9 @@ void findOperands(Function& f)
         if (p.role == Role::table) o.layout = f.layout;
         f.operands.push_back(o);
     }
+    // Of the fixed forms the letters do not tell which operand is which.
+    for (Operand& o : f.operands)
+        if (f.isFixed()) o.isArray = o.hasStride[0];
 }
 
 Function functionFrom(std::string name, std::string text, std::function<VormStatus(const std::vector<Argument>&)> call)

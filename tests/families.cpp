@@ -3,13 +3,15 @@
 #include "harness.hpp"
 
 extern const Family fixedForms, vectorSums, vectorScaling, vectorProducts, matrixProducts, gaxpyProducts,
-    luDecomposition, luSubstitution, choleskyDecomposition, choleskySubstitution, determinants, inverses;
+    luDecomposition, luSubstitution, choleskyDecomposition, choleskySubstitution, determinants, inverses, curves,
+    transformMatrices, matrixOperations, pointTransforms, affineTransform3DH;
 
 const std::vector<const Family*>& families()
 {
-    static const std::vector<const Family*> all = {&fixedForms,           &vectorSums,     &vectorScaling,
-                                                   &vectorProducts,       &matrixProducts, &gaxpyProducts,
-                                                   &luDecomposition,      &luSubstitution, &choleskyDecomposition,
-                                                   &choleskySubstitution, &determinants,   &inverses};
+    static const std::vector<const Family*> all = {
+        &fixedForms,      &vectorSums,        &vectorScaling,  &vectorProducts,        &matrixProducts,
+        &gaxpyProducts,   &luDecomposition,   &luSubstitution, &choleskyDecomposition, &choleskySubstitution,
+        &determinants,    &inverses,          &curves,         &transformMatrices,     &matrixOperations,
+        &pointTransforms, &affineTransform3DH};
     return all;
 }

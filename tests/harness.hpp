@@ -39,6 +39,7 @@ struct Family {
     VormStatus (*model32f)(const Call&, int n) = nullptr;
     VormStatus (*model64f)(const Call&, int n) = nullptr;
     bool isExact = true;  // the model makes the bits; otherwise those of the objects that it passes are free
+    bool goesOn = false;  // an object that fails keeps no other one from being done
     // Says what is wrong with object n in the memory after a call, by residuals or otherwise. Not asked where
     // results share memory or the source is gone.
     std::string (*judge32f)(const Call&, int n) = nullptr;

@@ -86,6 +86,8 @@ constexpr Row table[] = {
     // Order 1 has no driver.
     {"Invert", "ma", [](const Work& w) { return w.n == 1 ? 0 : 2 * w.n * w.count; },
      above(3600, 2500, 2500, 2500, 2500)},
+
+    {"AffineTransform3DH", "mva", [](const Work& w) { return 6 * w.count; }, from(785)},
 };
 
 bool hasWord(const std::string& text, const std::string& word)
@@ -109,6 +111,7 @@ const Row& rowOf(const Function& f)
 
 Limit limitOf(const Function& f, const Sizes& s, int count, bool isContiguous)
 {
+    if (f.isFixed()) return {0, INT32_MAX};
     const Row& row = rowOf(f);
     const std::uint32_t measure =
         row.measure({std::uint32_t(s.rows), std::uint32_t(s.columns), std::uint32_t(s.terms), std::uint32_t(count)});

@@ -86,7 +86,11 @@ bool isScalar(const Function& f)
 extern const Family fixedForms;
 const Family fixedForms = {
     .name = "FixedForms",
-    .has = [](const Function& f) { return f.isFixed(); },
+    .has =
+        [](const Function& f) {
+            constexpr std::string_view all = " Add Sub Min Max MulC DotProduct LenSqr Len Normalize CrossProduct Mul ";
+            return f.isFixed() && all.find(" " + f.family + " ") != all.npos;
+        },
     .sizes = [](const Function&) { return std::vector<Sizes>(60); },
     .model32f = model,
     .inPlace = [](const Function& f, const Sizes&) -> const char* {

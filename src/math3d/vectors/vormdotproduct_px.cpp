@@ -23,7 +23,7 @@ VormStatus n8_vormDotProduct_v4_32f(const float* pSrc1, const float* pSrc2, floa
     return StatusOk;
 }
 
-// Not exported: the dot product under the name the look-at matrices know it by.
+// Not exported: the dot product under its internal name. The look-at matrices form three of them side by side.
 VORM_HIDDEN VormStatus vormMul_v3_32f(const float* pSrc1, const float* pSrc2, float* pDst)
 {
     at(pDst, 0) = dot<3>(pSrc1, pSrc2);
