@@ -25,6 +25,7 @@ Order orderOf(const Function& f)
         if (f.layout == "L") return {null, size, stride, shift, count};
         return {null, size, stride, count, shift};
     }
+    if (f.family.starts_with("QR")) return {null, count, size, stride, shift, fit};
     return {null, count, size, fit, stride, shift};
 }
 
@@ -35,9 +36,11 @@ const std::map<std::string, std::set<std::string>> gaps = {
     {"vormSub_cav_32f_P", {"srcShift", "dstShift"}},
 };
 
-// The size of a source that has to be the inner size of a product, by the letter of the source.
+// The size of a source that has to be the inner size of a product, by the letter of the source; or the one that must
+// not be above the other.
 std::set<std::string> innerSizes(const Function& f)
 {
+    if (f.family.starts_with("QR")) return {"width"};
     if (!f.isProduct()) return {};
     const char kind1 = f.operands[0].kind, kind2 = f.operands[1].kind;
     return {kind1 == 'm' ? "src1Width" : "src1Height", kind2 == 'v'   ? "src2Len"

@@ -2,11 +2,13 @@
 
 #include "harness.hpp"
 
-extern const Family vectorSums, vectorProducts, matrixProducts, luDecomposition, luSubstitution, fixedForms;
+extern const Family vectorSums, vectorProducts, matrixProducts, luDecomposition, luSubstitution, fixedForms,
+    qrDecomposition, qrSubstitution;
 
 const std::vector<const Family*>& families()
 {
-    static const std::vector<const Family*> all = {&fixedForms,     &vectorSums,      &vectorProducts,
-                                                   &matrixProducts, &luDecomposition, &luSubstitution};
+    static const std::vector<const Family*> all = {&fixedForms,      &vectorSums,      &vectorProducts,
+                                                   &matrixProducts,  &luDecomposition, &luSubstitution,
+                                                   &qrDecomposition, &qrSubstitution};
     return all;
 }

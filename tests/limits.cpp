@@ -27,7 +27,8 @@ struct Row {
     From from;
 };
 
-constexpr From sums = above(4800, 1400, 2500, 1500), products = above(2500, 3600, 3600, 1440, 1440);
+constexpr From sums = above(4800, 1400, 2500, 1500), products = above(2500, 3600, 3600, 1440, 1440),
+               reflections = above(2800, 2800, 1800, 1800);
 
 constexpr Row table[] = {
     {"Add Sub", "vav vva vac", [](const Work& w) { return (2 * w.count + 1) * w.n; }, sums},
@@ -46,6 +47,9 @@ constexpr Row table[] = {
     {"LUDecomp", "ma", [](const Work& w) { return w.n * w.n * w.count; }, {1001, 1001, 1001, 1001}},
     {"LUBackSubst", "mva", [](const Work& w) { return (2 * w.count + w.n) * w.n; }, {701, 701, 701, 701}},
     {"LUBackSubst", "mava", [](const Work& w) { return (w.n + 2) * w.n * w.count; }, {1201, 1201, 1201, 1201}},
+    {"QRDecomp", "ma", [](const Work& w) { return 2 * w.n * w.m * w.count; }, reflections},
+    {"QRBackSubst", "mva", [](const Work& w) { return w.n * w.m + (w.n + w.m) * w.count; }, reflections},
+    {"QRBackSubst", "mava", [](const Work& w) { return (w.n * (w.m + 1) + w.m) * w.count; }, reflections},
 };
 
 bool hasWord(const std::string& text, const std::string& word)
