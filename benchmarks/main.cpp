@@ -162,6 +162,7 @@ int run(const std::string& filter, const std::string& output)
     addVectorProducts(sections);
     addMatrixProducts(sections);
     addLu(sections);
+    addQr(sections);
     addCalls(sections);
     addTeam(sections);
 

@@ -46,6 +46,7 @@ void addElementwise(Sections& sections);
 void addVectorProducts(Sections& sections);
 void addMatrixProducts(Sections& sections);
 void addLu(Sections& sections);
+void addQr(Sections& sections);
 void addCalls(Sections& sections);
 void addTeam(Sections& sections);
 

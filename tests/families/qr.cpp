@@ -130,23 +130,23 @@ std::vector<Sizes> sizes(const Function&)
     std::vector<Sizes> all;
     for (int order : {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 16, 17, 26, 40})
         all.insert(all.end(), isUnrolled(order, order) ? 25 : order < 12 ? 8 : 3, {order, order, 1});
-    for (const auto [rows, columns] : {std::pair{2, 1},
-                                       {3, 1},
-                                       {7, 1},
-                                       {3, 2},
-                                       {4, 3},
-                                       {6, 3},
-                                       {5, 4},
-                                       {10, 4},
-                                       {9, 6},
-                                       {12, 7},
-                                       {30, 8},
-                                       {17, 10},
-                                       {20, 14},
-                                       {256, 1},
-                                       {300, 1},
-                                       {60, 5},
-                                       {33, 30}})
+    for (const auto& [rows, columns] : {std::pair{2, 1},
+                                        {3, 1},
+                                        {7, 1},
+                                        {3, 2},
+                                        {4, 3},
+                                        {6, 3},
+                                        {5, 4},
+                                        {10, 4},
+                                        {9, 6},
+                                        {12, 7},
+                                        {30, 8},
+                                        {17, 10},
+                                        {20, 14},
+                                        {256, 1},
+                                        {300, 1},
+                                        {60, 5},
+                                        {33, 30}})
         all.insert(all.end(), rows < 20 ? 10 : 3, {rows, columns, 1});
     return all;
 }

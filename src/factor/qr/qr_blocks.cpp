@@ -21,6 +21,12 @@ void qrSolve(const Number* a, Number* x)
 {
     qrSolveSmall<n>([&](int i, int j) VORM_INLINE_LAMBDA { return a[i * n + j]; }, x, Unknown{});
 }
+template <int n, class Factor, class Number>
+void qrSolve(const Factor* a, const Factor* scales, Number* x)
+{
+    qrSolveSmall<n>([&](int i, int j) VORM_INLINE_LAMBDA { return narrowed<Number>(a[i * n + j]); }, x,
+                    [&](int k) VORM_INLINE_LAMBDA { return narrowed<Number>(scales[k]); });
+}
 
 namespace {
 
@@ -71,17 +77,23 @@ void qrSolve(const Factor* a, const Factor* scales, Number* x, int width, int he
 #define QR_ANY_BLOCKS(Number) \
     QR_BLOCKS(Number)         \
     template bool qrFactorise(Number* a, int width, int height);
-#define QR_SOLVE(Factor, Number) \
+#define QR_SOLVE(Factor, Number)                                                \
+    template void qrSolve<3>(const Factor* a, const Factor* scales, Number* x); \
+    template void qrSolve<4>(const Factor* a, const Factor* scales, Number* x); \
+    template void qrSolve<5>(const Factor* a, const Factor* scales, Number* x); \
+    template void qrSolve<6>(const Factor* a, const Factor* scales, Number* x); \
+    QR_SOLVE_ANY(Factor, Number)
+#define QR_SOLVE_ANY(Factor, Number) \
     template void qrSolve(const Factor* a, const Factor* scales, Number* x, int width, int height);
-#define QR_SOLVES(T)                             \
-    QR_SOLVE(Lanes<T>, Lanes<T>)                 \
-    QR_SOLVE(Lanes<T>, QrOneMatrix<Lanes<T>>)    \
-    QR_SOLVE(QrOwnMatrices<T>, QrOwnMatrices<T>) \
+#define QR_SOLVES(T)                                 \
+    QR_SOLVE(Lanes<T>, Lanes<T>)                     \
+    QR_SOLVE_ANY(Lanes<T>, QrOneMatrix<Lanes<T>>)    \
+    QR_SOLVE_ANY(QrOwnMatrices<T>, QrOwnMatrices<T>) \
     QR_WIDE_SOLVES(T)
 #ifdef VORM_WIDER_REGISTERS
-#define QR_WIDE_SOLVES(T)                   \
-    QR_SOLVE(Wide<T>, QrOneMatrix<Wide<T>>) \
-    QR_SOLVE(Wide<T>, Wide<T>)              \
+#define QR_WIDE_SOLVES(T)                       \
+    QR_SOLVE_ANY(Wide<T>, QrOneMatrix<Wide<T>>) \
+    QR_SOLVE(Wide<T>, Wide<T>)                  \
     QR_SOLVE(Wide<T>, Lanes<T>)
 #else
 #define QR_WIDE_SOLVES(T)

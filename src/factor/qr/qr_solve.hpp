@@ -64,6 +64,8 @@ VORM_INLINE void qrSolveSmall(const A& a, Number* x, const Scale& scale)
 // where they are to be formed.
 template <int n, class Number>
 VORM_HIDDEN void qrSolve(const Number* a, Number* x);
+template <int n, class Factor, class Number>
+VORM_HIDDEN void qrSolve(const Factor* a, const Factor* scales, Number* x);
 template <class Factor, class Number>
 VORM_HIDDEN void qrSolve(const Factor* a, const Factor* scales, Number* x, int width, int height);
 
@@ -188,8 +190,11 @@ VORM_SHARED void qrSolveVectorsIn(const M matrix, const B b, const X dst, int co
             for (int i = 0; i < n; ++i) x[i] = T(b(first, i));
         else
             loadVectors(b, first, x, constant<n>);
-        qrSolveSmall<n>([&](int i, int j) VORM_INLINE_LAMBDA { return narrowed<Some>(factors[i * n + j]); }, x,
-                        [&](int k) VORM_INLINE_LAMBDA { return narrowed<Some>(betas[k]); });
+        if constexpr (registersIn < Number >> 1)
+            qrSolveSmall<n>([&](int i, int j) VORM_INLINE_LAMBDA { return narrowed<Some>(factors[i * n + j]); }, x,
+                            [&](int k) VORM_INLINE_LAMBDA { return narrowed<Some>(betas[k]); });
+        else
+            qrSolve<n>(factors, betas, x);
         if constexpr (isSingle)
             for (int i = 0; i < n; ++i) dst(first, i) = firstLane(x[i]);
         else
