@@ -84,7 +84,7 @@ template <class T>
 VORM_INLINE auto qrMva(QR_MVA_PARAMS(T))
 {
     return arrayCallOf<T, QrTests>(
-        qrMvaWork(width, height, count, byType<T>(200, 300)), count, Matrix{src, srcStride1, srcStride2},
+        qrMvaWork(width, height, count, byType<T>(150, 270)), count, Matrix{src, srcStride1, srcStride2},
         Buffer{buffer, height}, VectorArray{src2, src2Stride0, src2Stride2}, VectorArray{dst, dstStride0, dstStride2},
         Size{width}, Size{height}, noWiderThanHigh(width, height));
 }
@@ -92,14 +92,14 @@ template <class T>
 VORM_INLINE auto qrMvaL(QR_MVA_PARAMS_L(T))
 {
     return arrayCallOf<T, QrTests>(
-        qrMvaWork(width, height, count, byType<T>(200, 300)), count, Matrix{src, srcStride1, srcStride2},
+        qrMvaWork(width, height, count, byType<T>(170, 280)), count, Matrix{src, srcStride1, srcStride2},
         Buffer{buffer, height}, VectorList{src2List, src2Shift, src2Stride2}, VectorList{dstList, dstShift, dstStride2},
         Size{width}, Size{height}, noWiderThanHigh(width, height));
 }
 template <class T>
 VORM_INLINE auto qrMvaP(QR_MVA_PARAMS_P(T))
 {
-    return arrayCallOf<T, QrTests>(qrMvaWork(width, height, count, byType<T>(200, 300)), count,
+    return arrayCallOf<T, QrTests>(qrMvaWork(width, height, count, byType<T>(130, 260)), count,
                                    MatrixPointers{srcPointers, srcShift, width}, Buffer{buffer, height},
                                    VectorArrayPointers{src2Pointers, src2Shift, src2Stride0},
                                    VectorArrayPointers{dstPointers, dstShift, dstStride0}, Size{width}, Size{height},
@@ -109,7 +109,7 @@ VORM_INLINE auto qrMvaP(QR_MVA_PARAMS_P(T))
 template <class T>
 VORM_INLINE auto qrMava(QR_MAVA_PARAMS(T))
 {
-    return arrayCallOf<T, QrTests>(qrMavaWork(width, height, count, byType<T>(400, 700)), count,
+    return arrayCallOf<T, QrTests>(qrMavaWork(width, height, count, byType<T>(330, 600)), count,
                                    MatrixArray{src, srcStride0, srcStride1, srcStride2}, Buffer{buffer, height},
                                    VectorArray{src2, src2Stride0, src2Stride2},
                                    VectorArray{dst, dstStride0, dstStride2}, Size{width}, Size{height},
@@ -118,7 +118,7 @@ VORM_INLINE auto qrMava(QR_MAVA_PARAMS(T))
 template <class T>
 VORM_INLINE auto qrMavaL(QR_MAVA_PARAMS_L(T))
 {
-    return arrayCallOf<T, QrTests>(qrMavaWork(width, height, count, byType<T>(400, 700)), count,
+    return arrayCallOf<T, QrTests>(qrMavaWork(width, height, count, byType<T>(350, 630)), count,
                                    MatrixList{srcList, srcShift, srcStride1, srcStride2}, Buffer{buffer, height},
                                    VectorList{src2List, src2Shift, src2Stride2},
                                    VectorList{dstList, dstShift, dstStride2}, Size{width}, Size{height},
@@ -127,7 +127,7 @@ VORM_INLINE auto qrMavaL(QR_MAVA_PARAMS_L(T))
 template <class T>
 VORM_INLINE auto qrMavaP(QR_MAVA_PARAMS_P(T))
 {
-    return arrayCallOf<T, QrTests>(qrMavaWork(width, height, count, byType<T>(400, 700)), count,
+    return arrayCallOf<T, QrTests>(qrMavaWork(width, height, count, byType<T>(280, 620)), count,
                                    MatrixArrayPointers{srcPointers, srcShift, srcStride0, width},
                                    Buffer{buffer, height}, VectorArrayPointers{src2Pointers, src2Shift, src2Stride0},
                                    VectorArrayPointers{dstPointers, dstShift, dstStride0}, Size{width}, Size{height},

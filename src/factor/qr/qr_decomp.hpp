@@ -57,7 +57,7 @@ VORM_INLINE auto qrDecompMP(QR_DECOMP_M_PARAMS_P(T))
 template <class T>
 VORM_INLINE auto qrDecompMa(QR_DECOMP_MA_PARAMS(T))
 {
-    return arrayCallOf<T, QrTests>(qrDecompWork(width, height, count, byType<T>(1400, 2400)), count,
+    return arrayCallOf<T, QrTests>(qrDecompWork(width, height, count, byType<T>(820, 1700)), count,
                                    MatrixArray{src, srcStride0, srcStride1, srcStride2}, Buffer{buffer, height},
                                    MatrixArray{dst, dstStride0, dstStride1, dstStride2}, Size{width}, Size{height},
                                    noWiderThanHigh(width, height));
@@ -65,7 +65,7 @@ VORM_INLINE auto qrDecompMa(QR_DECOMP_MA_PARAMS(T))
 template <class T>
 VORM_INLINE auto qrDecompMaL(QR_DECOMP_MA_PARAMS_L(T))
 {
-    return arrayCallOf<T, QrTests>(qrDecompWork(width, height, count, byType<T>(1400, 2400)), count,
+    return arrayCallOf<T, QrTests>(qrDecompWork(width, height, count, byType<T>(850, 1700)), count,
                                    MatrixList{srcList, srcShift, srcStride1, srcStride2}, Buffer{buffer, height},
                                    MatrixList{dstList, dstShift, dstStride1, dstStride2}, Size{width}, Size{height},
                                    noWiderThanHigh(width, height));
@@ -73,7 +73,7 @@ VORM_INLINE auto qrDecompMaL(QR_DECOMP_MA_PARAMS_L(T))
 template <class T>
 VORM_INLINE auto qrDecompMaP(QR_DECOMP_MA_PARAMS_P(T))
 {
-    return arrayCallOf<T, QrTests>(qrDecompWork(width, height, count, byType<T>(1400, 2400)), count,
+    return arrayCallOf<T, QrTests>(qrDecompWork(width, height, count, byType<T>(760, 1700)), count,
                                    MatrixArrayPointers{srcPointers, srcShift, srcStride0, width},
                                    Buffer{buffer, height},
                                    MatrixArrayPointers{dstPointers, dstShift, dstStride0, width}, Size{width},
