@@ -25,7 +25,9 @@ VORM_INLINE bool qrFactoriseHere(Number* a, W width, H height)
             eachFrom(behind<1>(k), width, [&](auto j) VORM_INLINE_LAMBDA { columns(constant<1>, j); });
         } else {
             int j = k + 1;
-            for (; j + 4 <= width; j += 4) columns(constant<4>, j);
+            // As many sums as there are registers for.
+            constexpr int some = registersIn<Number> == 1 ? 4 : 2;
+            for (; j + some <= width; j += some) columns(constant<some>, j);
             switch (width - j) {
             case 3: columns(constant<3>, j); break;
             case 2: columns(constant<2>, j); break;
@@ -75,13 +77,18 @@ VORM_INLINE VormStatus qrSingle(const Src& src, const Dst& dst, int object, int 
 
 template <class T, class Src>
 using QrNumber = std::conditional_t<isAdjacent<Src> || isInPlanes<Src>, Wide<T>, Lanes<T>>;
+// From order 5 on so many registers at once, as a step mostly waits for its root and divisions; smaller objects follow
+// each other closely enough.
+template <class T, class Src>
+using QrNumbers = Several<QrNumber<T, Src>, 2>;
 
 // Arrays. Each order in a function of its own, with views of its own: in one for all of them most of what the loops
 // need would lie in memory.
 template <int n, class T, class Src, class Dst>
 VORM_SHARED VormStatus qrArray(const Src src, const Dst dst, T* buffer, int count)
 {
-    return inBlocks<QrNumber<T, Src>>(dst, n, n, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
+    using Most = std::conditional_t<(n > 4), QrNumbers<T, Src>, QrNumber<T, Src>>;
+    return inBlocks<Most>(dst, n, n, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
         if constexpr (inLanes<Number>)
             return qrObjects<n, Number>(src, dst, first);
         else
@@ -95,7 +102,7 @@ VORM_SHARED VormStatus qrArray(const Src src, const Dst dst, T* buffer, int widt
     const bool fits = fitsBlock(width, height);
     const auto buffered = [&]<class Number>(int first)
                               VORM_INLINE_LAMBDA { return fits && registersApart<Number>(dst, first, height, width); };
-    return inBlocks<QrNumber<T, Src>>(count, buffered, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
+    return inBlocks<QrNumbers<T, Src>>(count, buffered, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
         if constexpr (inLanes<Number>) {
             Number a[blockElements];
             loadObjects(src, first, a, height, width);

@@ -99,14 +99,25 @@ void qrSolve(const Factor* a, const Factor* scales, Number* x, int width, int he
 #define QR_WIDE_SOLVES(T)
 #endif
 
-QR_BLOCKS(float)
-QR_BLOCKS(double)
-QR_ANY_BLOCKS(Lanes<float>)
-QR_ANY_BLOCKS(Lanes<double>)
+#define QR_FACTORISE(T)         \
+    QR_BLOCKS(T)                \
+    QR_ANY_BLOCKS(Lanes<T>)     \
+    QR_MANY_BLOCKS(Lanes<T>, 2) \
+    QR_WIDE_BLOCKS(T)
+#define QR_MANY_BLOCKS(L, registers)                         \
+    template bool qrFactorise<5>(Several<L, registers> * a); \
+    template bool qrFactorise<6>(Several<L, registers> * a); \
+    template bool qrFactorise(Several<L, registers>* a, int width, int height);
 #ifdef VORM_WIDER_REGISTERS
-QR_ANY_BLOCKS(Wide<float>)
-QR_ANY_BLOCKS(Wide<double>)
+#define QR_WIDE_BLOCKS(T)  \
+    QR_ANY_BLOCKS(Wide<T>) \
+    QR_MANY_BLOCKS(Wide<T>, 2)
+#else
+#define QR_WIDE_BLOCKS(T)
 #endif
+
+QR_FACTORISE(float)
+QR_FACTORISE(double)
 QR_SOLVES(float)
 QR_SOLVES(double)
 

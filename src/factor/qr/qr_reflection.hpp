@@ -8,7 +8,7 @@
 #include <limits>
 #include <type_traits>
 
-#include "frame/lanes.hpp"
+#include "frame/several.hpp"
 #include "frame/unrolled.hpp"
 
 namespace vorm::factor {
@@ -84,23 +84,24 @@ template <class Number, class K, class H, class Column, class Reflector>
 VORM_INLINE bool makeReflector(const Column& column, const Reflector& v, K k, H height, Number& beta)
 {
     using T = Element<Number>;
+    const auto all = [](T value) VORM_INLINE_LAMBDA { return Number(RegisterIn<Number>(value)); };
     const Number diagonal = column(k);
-    PairedSums<Number, 1> squares{{Number(T(0))}};
+    PairedSums<Number, 1> squares{{all(0)}};
     squares.add(k, height, [&](auto i, Number(&term)[1]) VORM_INLINE_LAMBDA {
         const Number x = column(i);
         term[0] = x * x;
     });
     const Number s = squares.start[0];
-    if (any(s < Number(std::numeric_limits<T>::epsilon()))) return false;
+    if (any(s < all(std::numeric_limits<T>::epsilon()))) return false;
     const Number root = sqrt(s);
-    const Number r = Number(T(1)) / (diagonal + select(diagonal > Number(T(0)), root, -root));
-    PairedSums<Number, 2> sums{{Number(T(1)), diagonal}};
+    const Number r = all(1) / (diagonal + select(diagonal > all(0), root, -root));
+    PairedSums<Number, 2> sums{{all(1), diagonal}};
     sums.add(behind<1>(k), height, [&](auto i, Number(&term)[2]) VORM_INLINE_LAMBDA {
         const Number x = column(i), component = x * r;
         v(i) = component;
         term[0] = component * component, term[1] = x * component;
     });
-    beta = Number(T(-2)) / sums.start[0];
+    beta = all(-2) / sums.start[0];
     column(k) = diagonal + sums.start[1] * beta;
     return true;
 }
