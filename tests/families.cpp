@@ -2,13 +2,13 @@
 
 #include "harness.hpp"
 
-extern const Family vectorSums, vectorProducts, matrixProducts, luDecomposition, luSubstitution, fixedForms,
-    qrDecomposition, qrSubstitution;
+extern const Family vectorSums, vectorProducts, matrixProducts, gaxpyProducts, luDecomposition, luSubstitution,
+    qrDecomposition, qrSubstitution, fixedForms;
 
 const std::vector<const Family*>& families()
 {
-    static const std::vector<const Family*> all = {&fixedForms,      &vectorSums,      &vectorProducts,
-                                                   &matrixProducts,  &luDecomposition, &luSubstitution,
-                                                   &qrDecomposition, &qrSubstitution};
+    static const std::vector<const Family*> all = {&fixedForms,     &vectorSums,      &vectorProducts,
+                                                   &matrixProducts, &gaxpyProducts,   &luDecomposition,
+                                                   &luSubstitution, &qrDecomposition, &qrSubstitution};
     return all;
 }

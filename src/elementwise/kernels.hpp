@@ -34,33 +34,33 @@ VORM_INLINE bool inSlots(const View& view)
 }
 
 template <class Op, class A, class B, class D>
-VORM_INLINE void slotObjects(const A& a, const B& b, const D& dst, int count)
+VORM_INLINE void slotObjects(const Op& op, const A& a, const B& b, const D& dst, int count)
 {
-    eachObject<Op, SlotVector>(a, b, dst, 0, count - 1);
-    eachObject<Op, SmallVector<float, 3>>(a, b, dst, count - 1, count);  // its slot may end with the page
+    eachObject<SlotVector>(op, a, b, dst, 0, count - 1);
+    eachObject<SmallVector<float, 3>>(op, a, b, dst, count - 1, count);  // its slot may end with the page
 }
 
-template <class Op, int Len, class T, class A, class B>
-VORM_INLINE void smallObjects(const A& a, const B& b, const VectorArray<T, Adjacent>& dst, int count)
+template <int Len, class Op, class T, class A, class B>
+VORM_INLINE void smallObjects(const Op& op, const A& a, const B& b, const VectorArray<T, Adjacent>& dst, int count)
 {
     if constexpr (!(isRun<A> && isRun<B>)) {
         if (isPacked(a, Len) && isPacked(b, Len) && isPacked(dst, Len)) {
             if constexpr (std::is_same_v<B, ConstantArray<T>>) {
-                if (b.stride0 == int{sizeof(T)}) return packedBlocks<Op, Len>(a, ConstantRow<T>{b.p}, dst, count);
+                if (b.stride0 == int{sizeof(T)}) return packedBlocks<Len>(op, a, ConstantRow<T>{b.p}, dst, count);
             }
-            return packedBlocks<Op, Len>(a, b, dst, count);
+            return packedBlocks<Len>(op, a, b, dst, count);
         }
     }
     if constexpr (Len == 3 && sizeof(T) == sizeof(float)) {
-        if (inSlots(a) && inSlots(b)) return slotObjects<Op>(a, b, dst, count);
+        if (inSlots(a) && inSlots(b)) return slotObjects(op, a, b, dst, count);
     }
-    eachObject<Op, SmallVector<T, Len>>(a, b, dst, 0, count);
+    eachObject<SmallVector<T, Len>>(op, a, b, dst, 0, count);
 }
 
-template <class Op, int Len, class T, class A, class B>
-VORM_INLINE void smallObjects(const A& a, const B& b, const VectorList<T, Adjacent>& dst, int count)
+template <int Len, class Op, class T, class A, class B>
+VORM_INLINE void smallObjects(const Op& op, const A& a, const B& b, const VectorList<T, Adjacent>& dst, int count)
 {
-    eachObject<Op, SmallVector<T, Len>>(a, b, dst, 0, count);
+    eachObject<SmallVector<T, Len>>(op, a, b, dst, 0, count);
 }
 
 // What a run of a few registers reads, register by register: a common vector stays where it was loaded.
@@ -88,8 +88,8 @@ struct Held<T, Registers, Vector<const T, Adjacent>> {
 };
 
 // Objects of a few registers and a tail.
-template <class Op, int Registers, class T, class A, class B, class D>
-VORM_INLINE void mediumObjects(const A& a, const B& b, const D& dst, int len, int count)
+template <int Registers, class T, class Op, class A, class B, class D>
+VORM_INLINE void mediumObjects(const Op& op, const A& a, const B& b, const D& dst, int len, int count)
 {
     const Held<T, Registers, A> heldA(a);
     const Held<T, Registers, B> heldB(b);
@@ -98,42 +98,43 @@ VORM_INLINE void mediumObjects(const A& a, const B& b, const D& dst, int len, in
         const auto sourceB = runSource<T>(b, n);
         T* const p = dst.object(n);
         for (int k = 0; k < Registers; ++k)
-            Op::apply(heldA.part(sourceA, k), heldB.part(sourceB, k)).store(p + k * Lanes<T>::width);
-        runTail<Op>(sourceA, sourceB, p, Registers * Lanes<T>::width, len);
+            op.apply(heldA.part(sourceA, k), heldB.part(sourceB, k)).store(p + k * Lanes<T>::width);
+        runTail(op, sourceA, sourceB, p, Registers * Lanes<T>::width, len);
     }
 }
 
 // All other lengths. Not inlined, to keep the small sizes free of its registers.
 template <class Op, class A, class B, class T, template <class, class> class Dst>
-[[gnu::noinline]] VormStatus longObjects(A a, B b, Dst<T, Adjacent> dst, int len, int count)
+[[gnu::noinline]] VormStatus longObjects(Op op, A a, B b, Dst<T, Adjacent> dst, int len, int count)
 {
     switch (len / Lanes<T>::width) {
-    case 1: mediumObjects<Op, 1, T>(a, b, dst, len, count); break;
-    case 2: mediumObjects<Op, 2, T>(a, b, dst, len, count); break;
-    case 3: mediumObjects<Op, 3, T>(a, b, dst, len, count); break;
-    case 4: mediumObjects<Op, 4, T>(a, b, dst, len, count); break;
-    case 8: mediumObjects<Op, 8, T>(a, b, dst, len, count); break;
+    case 1: mediumObjects<1, T>(op, a, b, dst, len, count); break;
+    case 2: mediumObjects<2, T>(op, a, b, dst, len, count); break;
+    case 3: mediumObjects<3, T>(op, a, b, dst, len, count); break;
+    case 4: mediumObjects<4, T>(op, a, b, dst, len, count); break;
+    case 8: mediumObjects<8, T>(op, a, b, dst, len, count); break;
     default:
-        for (int n = 0; n < count; ++n) run<Op>(runSource<T>(a, n), runSource<T>(b, n), dst.object(n), len);
+        for (int n = 0; n < count; ++n) run(op, runSource<T>(a, n), runSource<T>(b, n), dst.object(n), len);
     }
     return StatusOk;
 }
 
 template <class Op, class A, class B, class T, template <class, class> class Dst>
-VORM_INLINE VormStatus contiguousObjects(const A& a, const B& b, const Dst<T, Adjacent>& dst, int len, int count)
+VORM_INLINE VormStatus contiguousObjects(const Op& op, const A& a, const B& b, const Dst<T, Adjacent>& dst, int len,
+                                         int count)
 {
     if constexpr (isRun<A> && isRun<B> && isRun<Dst<T, Adjacent>>) {
         if (isPacked(a, len) && isPacked(b, len) && isPacked(dst, len)) {
-            run<Op>(runSource<T>(a, 0), runSource<T>(b, 0), dst.p, std::ptrdiff_t{len} * count);
+            run(op, runSource<T>(a, 0), runSource<T>(b, 0), dst.p, std::ptrdiff_t{len} * count);
             return StatusOk;
         }
     }
     switch (len) {
-    case 3: smallObjects<Op, 3>(a, b, dst, count); break;
-    case 4: smallObjects<Op, 4>(a, b, dst, count); break;
-    case 5: smallObjects<Op, 5>(a, b, dst, count); break;
-    case 6: smallObjects<Op, 6>(a, b, dst, count); break;
-    default: return longObjects<Op>(a, b, dst, len, count);
+    case 3: smallObjects<3>(op, a, b, dst, count); break;
+    case 4: smallObjects<4>(op, a, b, dst, count); break;
+    case 5: smallObjects<5>(op, a, b, dst, count); break;
+    case 6: smallObjects<6>(op, a, b, dst, count); break;
+    default: return longObjects(op, a, b, dst, len, count);
     }
     return StatusOk;
 }
@@ -141,7 +142,7 @@ VORM_INLINE VormStatus contiguousObjects(const A& a, const B& b, const Dst<T, Ad
 // The single shapes: beyond the small sizes they behave as a loop over ascending elements, however their
 // operands overlap.
 template <class Op, class T, class A, class B>
-VORM_INLINE VormStatus contiguousObject(const A& a, const B& b, const Vector<T, Adjacent>& dst, int len)
+VORM_INLINE VormStatus contiguousObject(const Op& op, const A& a, const B& b, const Vector<T, Adjacent>& dst, int len)
 {
     const auto asLoop = [&](const auto& view) VORM_INLINE_LAMBDA {
         if constexpr (isConstant<std::decay_t<decltype(view)>>)
@@ -150,15 +151,15 @@ VORM_INLINE VormStatus contiguousObject(const A& a, const B& b, const Vector<T, 
             return runsAsLoop(view.p, dst.p, sizeof(RunRegister<T>));
     };
     switch (len) {
-    case 3: eachObject<Op, SmallVector<T, 3>>(a, b, dst, 0, 1); break;
-    case 4: eachObject<Op, SmallVector<T, 4>>(a, b, dst, 0, 1); break;
-    case 5: eachObject<Op, SmallVector<T, 5>>(a, b, dst, 0, 1); break;
-    case 6: eachObject<Op, SmallVector<T, 6>>(a, b, dst, 0, 1); break;
+    case 3: eachObject<SmallVector<T, 3>>(op, a, b, dst, 0, 1); break;
+    case 4: eachObject<SmallVector<T, 4>>(op, a, b, dst, 0, 1); break;
+    case 5: eachObject<SmallVector<T, 5>>(op, a, b, dst, 0, 1); break;
+    case 6: eachObject<SmallVector<T, 6>>(op, a, b, dst, 0, 1); break;
     default:
         if (asLoop(a) && asLoop(b))
-            run<Op>(runSource<T>(a, 0), runSource<T>(b, 0), dst.p, len);
+            run(op, runSource<T>(a, 0), runSource<T>(b, 0), dst.p, len);
         else
-            eachElement<Op>(a, b, dst, len, 1);
+            eachElement(op, a, b, dst, len, 1);
     }
     return StatusOk;
 }
@@ -166,15 +167,15 @@ VORM_INLINE VormStatus contiguousObject(const A& a, const B& b, const Vector<T, 
 // Elements anywhere: the _S2 and _LS2 kernels, and pointer tables. -----------------------------------
 
 template <class Op, class A, class B, class D>
-VORM_INLINE VormStatus anyStride(const A& a, const B& b, const D& dst, int len, int count)
+VORM_INLINE VormStatus anyStride(const Op& op, const A& a, const B& b, const D& dst, int len, int count)
 {
-    using T = std::remove_const_t<decltype(Op::apply(a(0, 0), a(0, 0)))>;
+    using T = std::remove_const_t<decltype(op.apply(a(0, 0), a(0, 0)))>;
     switch (len) {
-    case 3: eachObject<Op, ScatteredVector<T, 3>>(a, b, dst, 0, count); break;
-    case 4: eachObject<Op, ScatteredVector<T, 4>>(a, b, dst, 0, count); break;
-    case 5: eachObject<Op, ScatteredVector<T, 5>>(a, b, dst, 0, count); break;
-    case 6: eachObject<Op, ScatteredVector<T, 6>>(a, b, dst, 0, count); break;
-    default: eachElement<Op>(a, b, dst, len, count);
+    case 3: eachObject<ScatteredVector<T, 3>>(op, a, b, dst, 0, count); break;
+    case 4: eachObject<ScatteredVector<T, 4>>(op, a, b, dst, 0, count); break;
+    case 5: eachObject<ScatteredVector<T, 5>>(op, a, b, dst, 0, count); break;
+    case 6: eachObject<ScatteredVector<T, 6>>(op, a, b, dst, 0, count); break;
+    default: eachElement(op, a, b, dst, len, count);
     }
     return StatusOk;
 }
@@ -195,18 +196,19 @@ VORM_INLINE auto planeSource(const View& view, int n, int i)
 }
 
 template <class Op, class T, class A, class B>
-VORM_INLINE VormStatus pointerObjects(const A& a, const B& b, const VectorArrayPointers<T>& dst, int len, int count)
+VORM_INLINE VormStatus pointerObjects(const Op& op, const A& a, const B& b, const VectorArrayPointers<T>& dst, int len,
+                                      int count)
 {
     if (!(count >= Lanes<T>::width && inPlanes(a) && inPlanes(b) && inPlanes(dst) &&
           planesApart(dst.pp, len, 1, std::ptrdiff_t{count} * int{sizeof(T)}, count)))
-        return anyStride<Op>(a, b, dst, len, count);
+        return anyStride(op, a, b, dst, len, count);
 
     // Whole planes, unless constants are read again for each of them and are to stay in the cache.
     const int objectsAtOnce = isConstant<A> || isConstant<B> ? 1024 : count;
     for (int n = 0; n < count; n += objectsAtOnce) {
         const int objects = min(objectsAtOnce, count - n);
         for (int i = 0; i < len; ++i)
-            run<Op>(planeSource<T>(a, n, i), planeSource<T>(b, n, i), dst.element(i) + n, objects);
+            run(op, planeSource<T>(a, n, i), planeSource<T>(b, n, i), dst.element(i) + n, objects);
     }
     return StatusOk;
 }

@@ -11,12 +11,12 @@
 namespace vorm::elementwise {
 
 // The objects from first up to end, each as one vector of type V.
-template <class Op, class V, class A, class B, class D>
-VORM_INLINE void eachObject(const A& a, const B& b, const D& dst, int first, int end)
+template <class V, class Op, class A, class B, class D>
+VORM_INLINE void eachObject(const Op& op, const A& a, const B& b, const D& dst, int first, int end)
 {
     const PerObject<V, A> ofA(a);
     const PerObject<V, B> ofB(b);
-    for (int n = first; n < end; ++n) combine<Op>(ofA(n), ofB(n)).store(dst, n);
+    for (int n = first; n < end; ++n) combine(op, ofA(n), ofB(n)).store(dst, n);
 }
 
 // One object of an operand in the plain loop; a constant is loaded once for it.
@@ -36,13 +36,13 @@ struct ElementsOf<View> {
 
 // The plain loop: elements anywhere, any number of them.
 template <class Op, class A, class B, class D>
-VORM_INLINE void eachElement(const A& a, const B& b, const D& dst, int len, int count)
+VORM_INLINE void eachElement(const Op& op, const A& a, const B& b, const D& dst, int len, int count)
 {
     for (int n = 0; n < count; ++n) {
         const ElementsOf<A> ofA{a, n};
         const ElementsOf<B> ofB{b, n};
 #pragma GCC unroll 4
-        for (int i = 0; i < len; ++i) dst(n, i) = Op::apply(ofA(i), ofB(i));
+        for (int i = 0; i < len; ++i) dst(n, i) = op.apply(ofA(i), ofB(i));
     }
 }
 

@@ -90,8 +90,8 @@ struct Block<T, Len, View> {  // the constants of the block's objects, spread ov
     }
 };
 
-template <class Op, int Len, class T, class A, class B>
-VORM_INLINE void packedBlocks(const A& a, const B& b, const VectorArray<T, Adjacent>& dst, int count)
+template <int Len, class Op, class T, class A, class B>
+VORM_INLINE void packedBlocks(const Op& op, const A& a, const B& b, const VectorArray<T, Adjacent>& dst, int count)
 {
     constexpr int width = Lanes<T>::width;
     const int inBlocks = count / width * width;
@@ -102,12 +102,12 @@ VORM_INLINE void packedBlocks(const A& a, const B& b, const VectorArray<T, Adjac
         for (int n = 0; n < inBlocks; n += width) {
             blockA.enter(n), blockB.enter(n);
             unrolled<Len>([&](auto j) VORM_INLINE_LAMBDA {
-                blockDst.template put<j>(Op::apply(blockA.template get<j>(), blockB.template get<j>()));
+                blockDst.template put<j>(op.apply(blockA.template get<j>(), blockB.template get<j>()));
             });
             blockA.leave(), blockB.leave(), blockDst.leave();
         }
     }
-    eachObject<Op, SmallVector<T, Len>>(a, b, dst, inBlocks, count);
+    eachObject<SmallVector<T, Len>>(op, a, b, dst, inBlocks, count);
 }
 
 // Packed arrays with nothing that repeats: one run through all objects.

@@ -43,24 +43,24 @@ struct Everywhere {
 
 // The last elements from i on, fewer than a register.
 template <class Op, class A, class B, class T>
-VORM_INLINE void runTail(A a, B b, T* dst, std::ptrdiff_t i, std::ptrdiff_t length)
+VORM_INLINE void runTail(const Op& op, A a, B b, T* dst, std::ptrdiff_t i, std::ptrdiff_t length)
 {
     if constexpr (Lanes<T>::width == 4) {
         if (length - i >= 2) {
-            storeFirst<2>(dst + i, Op::apply(a.template lanes<2>(i), b.template lanes<2>(i)));
+            storeFirst<2>(dst + i, op.apply(a.template lanes<2>(i), b.template lanes<2>(i)));
             i += 2;
         }
     }
-    if (i < length) storeFirst<1>(dst + i, Op::apply(a.template lanes<1>(i), b.template lanes<1>(i)));
+    if (i < length) storeFirst<1>(dst + i, op.apply(a.template lanes<1>(i), b.template lanes<1>(i)));
 }
 
 template <class Op, class A, class B, class T>
-VORM_INLINE void run(A a, B b, T* dst, std::ptrdiff_t length)
+VORM_INLINE void run(const Op& op, A a, B b, T* dst, std::ptrdiff_t length)
 {
     constexpr int width = RunRegister<T>::width;
     std::ptrdiff_t i = 0;
     const auto one = [&]<class L>(L, std::ptrdiff_t at) VORM_INLINE_LAMBDA {
-        Op::apply(a.template lanes<L>(at), b.template lanes<L>(at)).store(dst + at);
+        op.apply(a.template lanes<L>(at), b.template lanes<L>(at)).store(dst + at);
     };
     // Each register is stored before the next is loaded: faster here than four loads, then four stores.
     for (; i + 4 * width <= length; i += 4 * width)
@@ -68,7 +68,7 @@ VORM_INLINE void run(A a, B b, T* dst, std::ptrdiff_t length)
     for (; i + width <= length; i += width) one(RunRegister<T>(), i);
     if constexpr (width > Lanes<T>::width)
         for (; i + Lanes<T>::width <= length; i += Lanes<T>::width) one(Lanes<T>(), i);
-    runTail<Op>(a, b, dst, i, length);
+    runTail(op, a, b, dst, i, length);
 }
 
 }  // namespace vorm::elementwise

@@ -1,4 +1,5 @@
-// The operations that work element by element, on one number or on a register of them.
+// The operations that work element by element, on one number or on a register of them. An operation is a value, which
+// holds what is the same for all elements.
 #pragma once
 
 #include "frame/layers.hpp"

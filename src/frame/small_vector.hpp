@@ -85,9 +85,9 @@ struct ScatteredVector {
 
 // The same operation on all parts.
 template <class Op, class V>
-VORM_INLINE V combine(V a, const V& b)
+VORM_INLINE V combine(const Op& op, V a, const V& b)
 {
-    for (unsigned k = 0; k < sizeof a.v / sizeof a.v[0]; ++k) a.v[k] = Op::apply(a.v[k], b.v[k]);
+    for (unsigned k = 0; k < sizeof a.v / sizeof a.v[0]; ++k) a.v[k] = op.apply(a.v[k], b.v[k]);
     return a;
 }
 

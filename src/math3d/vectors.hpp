@@ -27,7 +27,7 @@ template <class Op, int Len>
 VORM_INLINE VormStatus elements(const float* pSrc1, const float* pSrc2, float* pDst)
 {
     using V = SmallVector<float, Len>;
-    combine<Op>(V::load(Vector{pSrc1, adjacent}, 0), V::load(Vector{pSrc2, adjacent}, 0))
+    combine(Op(), V::load(Vector{pSrc1, adjacent}, 0), V::load(Vector{pSrc2, adjacent}, 0))
         .store(Vector{pDst, adjacent}, 0);
     return StatusOk;
 }
