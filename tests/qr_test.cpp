@@ -40,7 +40,7 @@ constexpr Kind kinds[] = {Kind::random,         Kind::graded,           Kind::pe
 template <class T>
 std::vector<T> matrixOf(Shape s, Kind kind, Random& random)
 {
-    const auto [m, n] = s;
+    const int m = s.rows, n = s.columns;
     std::vector<T> a(std::size_t(m * n));
     const auto at = [&](int r, int c) -> T& { return a[std::size_t(r * n + c)]; };
     for (int r = 0; r < m; ++r)
