@@ -166,6 +166,7 @@ int run(const std::string& filter, const std::string& output)
     addCholesky(sections);
     addDet(sections);
     addMath3d(sections);
+    addQr(sections);
     addCalls(sections);
     addTeam(sections);
 

@@ -50,6 +50,7 @@ void addLu(Sections& sections);
 void addCholesky(Sections& sections);
 void addDet(Sections& sections);
 void addMath3d(Sections& sections);
+void addQr(Sections& sections);
 void addCalls(Sections& sections);
 void addTeam(Sections& sections);
 

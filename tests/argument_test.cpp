@@ -27,6 +27,7 @@ Order orderOf(const Function& f)
     }
     if (f.family == "CholeskyBackSubst" && f.shape == "mva" && f.layout == "L")
         return {null, stride, shift, size, count};
+    if (f.family.starts_with("QR")) return {null, count, size, stride, shift, fit};
     return {null, count, size, fit, stride, shift};
 }
 
@@ -38,9 +39,10 @@ const std::map<std::string, std::set<std::string>> gaps = {
 };
 
 // The size of a source that has to be the inner size of a product, by the letter of the source; where a vector is
-// added, its length too.
+// added, its length too. Or the one that must not be above the other.
 std::set<std::string> innerSizes(const Function& f)
 {
+    if (f.family.starts_with("QR")) return {"width"};
     if (!f.isProduct()) return {};
     if (f.indexOf("src3Len") >= 0) return {"src1Width", "src2Len", "src1Height", "src3Len"};
     const char kind1 = f.operands[0].kind, kind2 = f.operands[1].kind;

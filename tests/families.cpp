@@ -4,14 +4,14 @@
 
 extern const Family fixedForms, vectorSums, vectorScaling, vectorProducts, matrixProducts, gaxpyProducts,
     luDecomposition, luSubstitution, choleskyDecomposition, choleskySubstitution, determinants, inverses, curves,
-    transformMatrices, matrixOperations, pointTransforms, affineTransform3DH;
+    transformMatrices, matrixOperations, pointTransforms, affineTransform3DH, qrDecomposition, qrSubstitution;
 
 const std::vector<const Family*>& families()
 {
     static const std::vector<const Family*> all = {
-        &fixedForms,      &vectorSums,        &vectorScaling,  &vectorProducts,        &matrixProducts,
-        &gaxpyProducts,   &luDecomposition,   &luSubstitution, &choleskyDecomposition, &choleskySubstitution,
-        &determinants,    &inverses,          &curves,         &transformMatrices,     &matrixOperations,
-        &pointTransforms, &affineTransform3DH};
+        &fixedForms,      &vectorSums,         &vectorScaling,   &vectorProducts,        &matrixProducts,
+        &gaxpyProducts,   &luDecomposition,    &luSubstitution,  &choleskyDecomposition, &choleskySubstitution,
+        &determinants,    &inverses,           &curves,          &transformMatrices,     &matrixOperations,
+        &pointTransforms, &affineTransform3DH, &qrDecomposition, &qrSubstitution};
     return all;
 }

@@ -44,6 +44,7 @@ struct Row {
 constexpr From sums = above(4800, 1400, 2500, 1500), products = above(2500, 3600, 3600, 1440, 1440);
 constexpr From saxpy = above({3000, 2000, 1500, 1000, 1200}, {3000, 1200, 1000, 1000, 1200});
 constexpr From lComb = above({4500, 4500, 4500, 3750, 4500}, {4500, 4500, 4500, 4500, 4500});
+constexpr From reflections = above(2800, 2800, 1800, 1800);
 constexpr From gaxpy = above({7000, 5000, 7000, 500, 4500}, {5000, 5000, 6000, 5000, 7000});
 
 constexpr Row table[] = {
@@ -88,6 +89,9 @@ constexpr Row table[] = {
      above(3600, 2500, 2500, 2500, 2500)},
 
     {"AffineTransform3DH", "mva", [](const Work& w) { return 6 * w.count; }, from(785)},
+    {"QRDecomp", "ma", [](const Work& w) { return 2 * w.n * w.m * w.count; }, reflections},
+    {"QRBackSubst", "mva", [](const Work& w) { return w.n * w.m + (w.n + w.m) * w.count; }, reflections},
+    {"QRBackSubst", "mava", [](const Work& w) { return (w.n * (w.m + 1) + w.m) * w.count; }, reflections},
 };
 
 bool hasWord(const std::string& text, const std::string& word)

@@ -4,6 +4,7 @@
 #include <cstring>
 #include <limits>
 
+#include "factor/sums.hpp"
 #include "frame/object_lanes.hpp"
 #include "frame/overlap.hpp"
 #include "vorm/status.h"
@@ -19,11 +20,6 @@ VORM_INLINE void subtractMultiple(const Row& row, const Row& pivotRow, T factor,
 {
     for (int c = from; c < order; ++c) row(c) = row(c) - pivotRow(c) * factor;
 }
-template <class T>
-struct AdjacentRow {
-    T* p;
-    decltype(auto) operator()(int c) const { return entry(p, c); }
-};
 template <class T>
 VORM_INLINE void subtractMultiple(const AdjacentRow<T>& row, const AdjacentRow<T>& pivotRow, T factor, int from,
                                   int order)

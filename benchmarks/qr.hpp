@@ -1,0 +1,221 @@
+// QR decomposition and solving, against Eigen (fixed-size, object by object) and LAPACK. Everyone starts from packed
+// objects that are to be kept; Eigen's and LAPACK's own decompositions are made before their solving is measured.
+#pragma once
+
+#include <Eigen/QR>
+
+#include "lu.hpp"
+
+namespace bench::qr {
+
+using lu::Array, lu::Layout, lu::LayoutOf;
+
+inline lapack_int geqrf(int m, int n, float* a, float* tau, float* work)
+{
+    return LAPACKE_sgeqrf_work(LAPACK_COL_MAJOR, m, n, a, m, tau, work, 1024);
+}
+inline lapack_int geqrf(int m, int n, double* a, double* tau, double* work)
+{
+    return LAPACKE_dgeqrf_work(LAPACK_COL_MAJOR, m, n, a, m, tau, work, 1024);
+}
+// b becomes Q' b, its first elements x.
+inline void solveByLapack(int m, int n, int many, const float* a, const float* tau, float* b, float* work)
+{
+    LAPACKE_sormqr_work(LAPACK_COL_MAJOR, 'L', 'T', m, many, n, a, m, tau, b, m, work, 65536);
+    LAPACKE_strtrs_work(LAPACK_COL_MAJOR, 'U', 'N', 'N', n, many, a, m, b, m);
+}
+inline void solveByLapack(int m, int n, int many, const double* a, const double* tau, double* b, double* work)
+{
+    LAPACKE_dormqr_work(LAPACK_COL_MAJOR, 'L', 'T', m, many, n, a, m, tau, b, m, work, 65536);
+    LAPACKE_dtrtrs_work(LAPACK_COL_MAJOR, 'U', 'N', 'N', n, many, a, m, b, m);
+}
+
+// Eigen's code takes long to compile: it is the same for all layouts.
+template <int rows, int columns, class T, int kept>
+[[gnu::noinline]] void eigenDecomposition(const Array<T>& a, const Array<T>& qr, T* scales, int count, Layout layout)
+{
+    using Matrix = Eigen::Matrix<T, rows, columns, kept>;
+    for (int object = 0; object < count; ++object) {
+        const Eigen::HouseholderQR<Matrix> result(Eigen::Map<const Matrix>(a.at(object, layout)));
+        Eigen::Map<Matrix>(qr.at(object, layout)) = result.matrixQR();
+        Eigen::Map<Eigen::Vector<T, columns>>(scales + object * columns) = result.hCoeffs();
+    }
+}
+template <int rows, int columns, class T>
+using Decomposition = Eigen::HouseholderQR<Eigen::Matrix<T, rows, columns>>;
+template <int rows, int columns, class T>
+[[gnu::noinline]] void eigenSolution(const Decomposition<rows, columns, T>* qr, int step, const Array<T>& b,
+                                     const Array<T>& x, int count, Layout layout)
+{
+    for (int object = 0; object < count; ++object, qr += step)
+        Eigen::Map<Eigen::Vector<T, columns>>(x.at(object, layout)) =
+            qr->solve(Eigen::Map<const Eigen::Vector<T, rows>>(b.at(object, layout)));
+}
+
+template <int rows, int columns, class T, Layout layout>
+Task decomposition(auto members, int count)
+{
+    const Array<T> a(rows, columns, count, layout, 387), qr(rows, columns, count, layout, 621);
+    T* const scales = Memory::region<T>(std::ptrdiff_t{count} * columns);
+    T* const work = Memory::region<T>(1024);
+    Task task;
+    const auto add = [&](const char* name, auto body) { task.contestants.push_back({name, body}); };
+    const auto arguments = [=](const Array<T>& from, const Array<T>& to, auto as) {
+        return std::tuple_cat(lu::matrixArguments(from, as), std::tuple(work), lu::matrixArguments(to, as),
+                              std::tuple(columns, rows, count));
+    };
+    const LayoutOf<layout> as;
+    if constexpr (layout == Layout::packed)
+        add("vorm", [=, all = arguments(a, qr, as)] { std::apply(members.standard, all); });
+    if constexpr (layout == Layout::list)
+        add("vorm", [=, all = arguments(a, qr, as)] { std::apply(members.list, all); });
+    if constexpr (layout == Layout::planes) {
+        add("vorm", [=, all = arguments(a, qr, as)] { std::apply(members.pointers, all); });
+        const Array<T> aPacked(rows, columns, count, Layout::packed, 1),
+            qrPacked(rows, columns, count, Layout::packed, 1);
+        const LayoutOf<Layout::packed> packed;
+        add("vorm, standard layout",
+            [=, all = arguments(aPacked, qrPacked, packed)] { std::apply(members.standard, all); });
+        return task;
+    }
+    add("Eigen", [=] { eigenDecomposition<rows, columns, T, Eigen::ColMajor>(a, qr, scales, count, layout); });
+    add("Eigen by rows", [=] { eigenDecomposition<rows, columns, T, Eigen::RowMajor>(a, qr, scales, count, layout); });
+    add("LAPACK", [=] {
+        for (int object = 0; object < count; ++object) {
+            std::copy_n(a.at(object, layout), rows * columns, qr.at(object, layout));
+            geqrf(rows, columns, qr.at(object, layout), scales + object * columns, work);
+        }
+    });
+    return task;
+}
+
+// With a matrix for each vector (mava), or one for all of them (mva).
+template <int rows, int columns, class T, Layout layout, bool ownMatrices>
+Task solution(auto members, auto decompose, int count)
+{
+    const int matrices = ownMatrices ? count : 1;
+    const Array<T> a(rows, columns, matrices, layout, 387), b(1, rows, count, layout, 621),
+        x(1, columns, count, layout, 783);
+    const Array<T> packedA(rows, columns, matrices, Layout::packed, 1), qr(rows, columns, matrices, Layout::packed, 1);
+    T* const buffer = Memory::region<T>(rows);
+    const LayoutOf<Layout::packed> packed;
+    std::apply(decompose.standard,
+               std::tuple_cat(lu::matrixArguments(packedA, packed), std::tuple(buffer), lu::matrixArguments(qr, packed),
+                              std::tuple(columns, rows, matrices)));
+    auto decompositions = std::make_shared<std::vector<Decomposition<rows, columns, T>>>();
+    for (int object = 0; object < matrices; ++object) {
+        const T* const factors = qr.data + std::ptrdiff_t{object} * rows * columns;
+        decompositions->emplace_back(Eigen::Map<const Eigen::Matrix<T, rows, columns, Eigen::RowMajor>>(
+            packedA.data + std::ptrdiff_t{object} * rows * columns));
+        for (int e = 0; e < rows * columns; ++e)
+            (layout == Layout::planes ? a.table[e][object] : a.at(object, layout)[e]) = factors[e];
+    }
+
+    Task task;
+    const auto add = [&](const char* name, auto body) { task.contestants.push_back({name, body}); };
+    const auto arguments = [=](const Array<T>& m, const Array<T>& from, const Array<T>& to, auto as) {
+        const auto rest = std::tuple_cat(std::tuple(buffer), lu::vectorArguments(from, as), lu::vectorArguments(to, as),
+                                         std::tuple(columns, rows, count));
+        if constexpr (ownMatrices)
+            return std::tuple_cat(lu::matrixArguments(m, as), rest);
+        else
+            return std::tuple_cat(lu::commonArguments(m, as), rest);
+    };
+    const LayoutOf<layout> as;
+    if constexpr (layout == Layout::packed)
+        add("vorm", [=, all = arguments(a, b, x, as)] { std::apply(members.standard, all); });
+    if constexpr (layout == Layout::list)
+        add("vorm", [=, all = arguments(a, b, x, as)] { std::apply(members.list, all); });
+    if constexpr (layout == Layout::planes) {
+        add("vorm", [=, all = arguments(a, b, x, as)] { std::apply(members.pointers, all); });
+        const Array<T> bPacked(1, rows, count, Layout::packed, 1), xPacked(1, columns, count, Layout::packed, 1);
+        add("vorm, standard layout",
+            [=, all = arguments(qr, bPacked, xPacked, packed)] { std::apply(members.standard, all); });
+        return task;
+    }
+    add("Eigen", [=] { eigenSolution<rows, columns, T>(decompositions->data(), ownMatrices, b, x, count, layout); });
+    auto theirs = std::make_shared<std::vector<T>>();
+    auto scales = std::make_shared<std::vector<T>>(std::size_t(matrices * columns));
+    auto work = std::make_shared<std::vector<T>>(std::size_t(65536 + rows * count));
+    for (int object = 0; object < matrices; ++object) {
+        for (int c = 0; c < columns; ++c)
+            for (int r = 0; r < rows; ++r)
+                theirs->push_back(packedA.data[(std::ptrdiff_t{object} * rows + r) * columns + c]);
+        geqrf(rows, columns, &(*theirs)[std::size_t(object * rows * columns)],
+              &(*scales)[std::size_t(object * columns)], work->data());
+    }
+    add("LAPACK", [=] {
+        T* const transformed = work->data() + 65536;
+        if (!ownMatrices && layout == Layout::packed) {
+            std::copy_n(b.data, std::ptrdiff_t{count} * rows, transformed);
+            solveByLapack(rows, columns, count, theirs->data(), scales->data(), transformed, work->data());
+            for (int object = 0; object < count; ++object)
+                std::copy_n(transformed + object * rows, columns, x.data + object * columns);
+            return;
+        }
+        for (int object = 0; object < count; ++object) {
+            std::copy_n(b.at(object, layout), rows, transformed);
+            const int own = ownMatrices ? object : 0;
+            solveByLapack(rows, columns, 1, theirs->data() + own * rows * columns, scales->data() + own * columns,
+                          transformed, work->data());
+            std::copy_n(transformed, columns, x.at(object, layout));
+        }
+    });
+    if constexpr (layout == Layout::packed && !ownMatrices)
+        add("Eigen, all at once", [=] {
+            Eigen::Map<Eigen::Matrix<T, columns, Eigen::Dynamic>>(x.data, columns, count) =
+                decompositions->front().solve(
+                    Eigen::Map<const Eigen::Matrix<T, rows, Eigen::Dynamic>>(b.data, rows, count));
+        });
+    return task;
+}
+
+struct Sections {
+    Section &resident, &streaming, &list, &planes;
+};
+
+template <int rows, int columns, class T>
+void addShape(Sections& s, auto decompose, auto solveVectors, auto solvePairs)
+{
+    constexpr bool isFloat = sizeof(T) == 4, isSmall = rows == columns && rows <= 6;
+    constexpr double wantedOfPlanes = !isSmall ? 1 : isFloat ? 1.3 : 1.1;
+    constexpr bool isAimed = rows == 3 || rows == 4 || rows == 6 || columns == 4;
+    const int streaming = static_cast<int>(streamingBytes() / (rows * columns * sizeof(T)) / 16 * 16);
+    const std::string size = " " + std::to_string(rows) + "x" + std::to_string(columns);
+    const auto addMember = [&](auto members, double wanted, auto taskOf) {
+        const auto add = [&](Section& section, int count, double atLeast, auto as) {
+            section.rows.push_back({members.name + size, count, [=] { return taskOf(as, count); }, atLeast});
+        };
+        add(s.resident, residentObjects, wanted, LayoutOf<Layout::packed>{});
+        if constexpr (isSmall) add(s.streaming, streaming, 1, LayoutOf<Layout::packed>{});
+        add(s.list, residentObjects, 1, LayoutOf<Layout::list>{});
+        add(s.planes, residentObjects, wantedOfPlanes, LayoutOf<Layout::planes>{});
+    };
+    addMember(decompose,
+              !isAimed  ? 1
+              : isFloat ? 2
+                        : 1.5,
+              [=](auto as, int count) { return decomposition<rows, columns, T, as()>(decompose, count); });
+    addMember(solvePairs, 3,
+              [=](auto as, int count) { return solution<rows, columns, T, as(), true>(solvePairs, decompose, count); });
+    addMember(solveVectors, 1, [=](auto as, int count) {
+        return solution<rows, columns, T, as(), false>(solveVectors, decompose, count);
+    });
+}
+template <class T>
+void addShapes(Sections& s, auto... members)
+{
+    addShape<3, 3, T>(s, members...);
+    addShape<4, 4, T>(s, members...);
+    addShape<5, 5, T>(s, members...);
+    addShape<6, 6, T>(s, members...);
+    addShape<8, 8, T>(s, members...);
+    addShape<12, 12, T>(s, members...);
+    addShape<10, 4, T>(s, members...);
+}
+
+// Each element type in its own file.
+void addAll32f(Sections& s);
+void addAll64f(Sections& s);
+
+}  // namespace bench::qr

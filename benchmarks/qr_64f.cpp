@@ -1,0 +1,13 @@
+// QR decomposition and solving in double precision.
+
+#include "qr.hpp"
+
+namespace bench {
+
+void qr::addAll64f(qr::Sections& s)
+{
+    addShapes<double>(s, BENCH_MEMBERS(vormQRDecomp_ma_64f), BENCH_MEMBERS(vormQRBackSubst_mva_64f),
+                      BENCH_MEMBERS(vormQRBackSubst_mava_64f));
+}
+
+}  // namespace bench

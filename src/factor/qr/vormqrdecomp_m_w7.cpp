@@ -1,0 +1,14 @@
+// vormQRDecomp_m: the kernel for contiguous elements, double precision.
+
+#include "factor/qr/qr_decomp_calls.hpp"
+
+using namespace vorm;
+using namespace vorm::factor;
+
+extern "C" {
+
+VormStatus n8_ownvormQRDecomp_m_64f(QR_DECOMP_M_PARAMS(double))
+{
+    return contiguousKernel(qrDecompM(QR_DECOMP_M_ARGS));
+}
+}
