@@ -4,7 +4,7 @@
 #pragma once
 
 #include "frame/layers.hpp"
-#include "products/elements.hpp"
+#include "frame/elements.hpp"
 #include "products/matrix_kinds.hpp"
 
 namespace vorm::products {

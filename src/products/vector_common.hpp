@@ -1,7 +1,7 @@
 // One matrix of order 3 to 6 times many vectors, compiled once for however the matrix lies and is read.
 #pragma once
 
-#include "products/elements.hpp"
+#include "frame/elements.hpp"
 #include "products/vector_sums.hpp"
 
 namespace vorm::products {
