@@ -150,6 +150,9 @@ TEST(Arguments, CatalogueIsRead)
         if (f.shape.find_first_of("mt") == std::string::npos) ++members[f.family + (f.isFixed() ? " fixed" : "")];
     EXPECT_EQ(members["Add"], 38);
     EXPECT_EQ(members["Sub"], 66);
+    EXPECT_EQ(members["Saxpy"], 22);
+    EXPECT_EQ(members["LComb"], 16);
+    EXPECT_EQ(members["Mul"], 22);
     EXPECT_EQ(members["Normalize fixed"], 3);
     const Function& f = functionNamed("vormAdd_vav_32f_L");
     EXPECT_EQ(f.family + f.shape + f.type + f.layout, "Addvav32fL");

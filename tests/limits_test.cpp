@@ -109,6 +109,14 @@ TEST_F(Limits, WrappedMeasureIsSerial)
     ASSERT_LT(limitOf(functionNamed("vormAdd_vac_32f"), {1, size, 1}, size, true).measure, 0);
     EXPECT_EQ(askedDuring(2, [&] { vormAdd_vac_32f(src.data(), 4, 4, 2, dst.data(), 4, 4, size, size); }), 0);
     EXPECT_EQ(dst[2 * size - 2], 2.5f);
+    ASSERT_LT(limitOf(functionNamed("vormSaxpy_vava_32f"), {1, size, 1}, size, true).measure, 0);
+    EXPECT_EQ(askedDuring(
+                  2, [&] { vormSaxpy_vava_32f(src.data(), 4, 4, 2, src.data(), 4, 4, dst.data(), 4, 4, size, size); }),
+              0);
+    EXPECT_EQ(dst[2 * size - 2], 1.5f);
+    ASSERT_LT(limitOf(functionNamed("vormMul_vac_32f"), {1, size, 1}, size, true).measure, 0);
+    EXPECT_EQ(askedDuring(2, [&] { vormMul_vac_32f(src.data(), 4, 4, 2, dst.data(), 4, 4, size, size); }), 0);
+    EXPECT_EQ(dst[2 * size - 2], 1);
     ASSERT_LT(limitOf(functionNamed("vormMul_mama_32f"), {1, 1, size}, size, true).measure, 0);
     EXPECT_EQ(askedDuring(2,
                           [&] {
