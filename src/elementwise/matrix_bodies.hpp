@@ -118,7 +118,7 @@ struct Repeated {
     alignas(64) T elements[longest * most];
     int objects = 1;
 
-    VORM_INLINE static bool pays(std::ptrdiff_t length, int count) { return length <= longest && count >= 3 * most; }
+    VORM_INLINE static bool pays(std::ptrdiff_t length, int count) { return length <= longest && count >= 2 * most; }
     Repeated(const T* object, int length)
     {
         const auto put = [&](int i) VORM_INLINE_LAMBDA { elements[i] = elementAt(object, i * sizeOf<T>); };
