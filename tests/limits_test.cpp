@@ -89,7 +89,7 @@ TEST_F(Limits, AtTheLimitAndAbove)
     }
     std::printf("%d functions with a driver, %d of %d measures exactly at the limit or one above\n", drivers, exact,
                 hits);
-    EXPECT_GT(exact, hits * 4 / 5);
+    EXPECT_GT(exact, hits * 3 / 4);  // some measures are always even, or multiples of three
 }
 
 // A single object never forks, however large it is, nor does what has no driver.

@@ -236,7 +236,7 @@ template <Turned turned, class Op, class A, class B, class T>
     tiles<turned>(op, a, b, dst, height, width);
 }
 
-// height and width of those that are not turned.
+// All operands have adjacent rows here, the odd one those of its transposed matrix; width and height are the others'.
 template <Turned turned, class Op, class A, class B, class D>
 VORM_INLINE VormStatus turnedOfAll(const Op& op, const A& a, const B& b, const D& d, int width, int height, int count)
 {
@@ -358,13 +358,12 @@ VORM_INLINE VormStatus byRowsOrColumns(const Op& op, const A& a, const B& b, con
     if (rowsB) {
         if constexpr (!isConstant<B>)
             if (straightens && a.isCommon()) return straightenedOnce<Turned::first>(op, a, b, d, width, height, count);
-        return turnedOfAll<Turned::first>(op, a, b, d, width, height, count);
+        return turnedOfAll<Turned::first>(op, transposed(a), b, d, width, height, count);
     }
     if constexpr (!isConstant<B>) {
-        if (!rowsA)
-            return turnedOfAll<Turned::result>(op, transposed(a), transposed(b), transposed(d), height, width, count);
+        if (!rowsA) return turnedOfAll<Turned::result>(op, transposed(a), transposed(b), d, height, width, count);
         if (straightens && b.isCommon()) return straightenedOnce<Turned::second>(op, a, b, d, width, height, count);
-        return turnedOfAll<Turned::second>(op, a, b, d, width, height, count);
+        return turnedOfAll<Turned::second>(op, a, transposed(b), d, width, height, count);
     }
     return StatusOk;  // a constant has every kind of rows
 }
