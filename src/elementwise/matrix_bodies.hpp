@@ -6,6 +6,7 @@
 #include "elementwise/runs.hpp"
 #include "frame/minmax.hpp"
 #include "frame/overlap.hpp"
+#include "frame/pin.hpp"
 #include "frame/planes.hpp"
 
 namespace vorm::elementwise {
@@ -78,6 +79,59 @@ template <int length, class Op, class A, class B, class D>
     return StatusOk;
 }
 
+// The same with a row that all objects share, which stays in registers.
+template <class T, int length>
+struct HeldRow {
+    static constexpr int width = Lanes<T>::width, full = length / width, rest = length % width;
+    static_assert(rest < 2);
+    Lanes<T> v[full + rest];
+
+    VORM_INLINE explicit HeldRow(const T* p)
+    {
+        for (int k = 0; k < full; ++k) v[k] = Lanes<T>::load(p + k * width);
+        if constexpr (rest != 0) v[full] = loadFirst<1>(p + full * width);
+    }
+    template <class L>
+    VORM_INLINE L lanes(std::ptrdiff_t i) const
+    {
+        return v[i / width];
+    }
+    template <int Count>
+    VORM_INLINE Lanes<T> lanes(std::ptrdiff_t i) const
+    {
+        return v[i / width];
+    }
+};
+template <bool commonFirst, int length, class Op, class T, class X, class D>
+[[gnu::noinline]] VormStatus heldVectors(Op op, const T* common, const X& refArray, const D& refD, int count)
+{
+    const HeldRow<T, length> held(common);
+    const X array = refArray;
+    const D d = refD;
+    for (int n = 0; n < count; ++n) {
+        const auto other = rowsOf(array, n)(0);
+        if constexpr (commonFirst)
+            shortRun<length>(op, held, other, d.at(n));
+        else
+            shortRun<length>(op, other, held, d.at(n));
+    }
+    return StatusOk;
+}
+
+// Opaque, or a compiler keeps a pointer for each row of each operand, in memory.
+template <class Elements>
+VORM_INLINE auto opaqueRowsOf(const Elements& elements, int n)
+{
+    auto rows = rowsOf(elements, n);
+    rows.p = opaque(rows.p);
+    return rows;
+}
+template <class T>
+VORM_INLINE auto opaqueRowsOf(const Constant<T>& constant, int n)
+{
+    return rowsOf(constant, n);
+}
+
 template <int order, class Op, class A, class B, class T>
 VORM_INLINE void squareRows(const Op& op, const A& a, const B& b, const RowsOfObject<T>& dst)
 {
@@ -94,7 +148,7 @@ template <int order, class Op, class A, class B, class D>
     const A a = refA;
     const B b = refB;
     const D d = refD;
-    for (int n = 0; n < count; ++n) squareRows<order>(op, rowsOf(a, n), rowsOf(b, n), rowsOf(d, n));
+    for (int n = 0; n < count; ++n) squareRows<order>(op, opaqueRowsOf(a, n), opaqueRowsOf(b, n), opaqueRowsOf(d, n));
     return StatusOk;
 }
 
@@ -133,13 +187,53 @@ template <bool commonFirst, class Op, class T>
 {
     const Repeated<T> repeated(common, length);
     const Along<T> same{repeated.elements};
-    for (int n = 0; n < count; n += repeated.objects) {
+    int n = 0;
+    if (length == 9) {  // nine registers, which stay where they are
+        constexpr int atOnce = Lanes<T>::width, row = 9 * atOnce;
+        constexpr std::ptrdiff_t bytes = row * sizeOf<T>;
+        n = count / atOnce * atOnce;
+        heldVectors<commonFirst, row>(op, repeated.elements, StridedElements<const T>{array, bytes, bytes, sizeOf<T>},
+                                      StridedElements<T>{dst, bytes, bytes, sizeOf<T>}, count / atOnce);
+    }
+    for (; n < count; n += repeated.objects) {
         const std::ptrdiff_t at = std::ptrdiff_t{n} * length;
         const Along<T> other{array + at};
         run(op, commonFirst ? same : other, commonFirst ? other : same, dst + at,
             std::ptrdiff_t{min(repeated.objects, count - n)} * length);
     }
     return StatusOk;
+}
+
+// Whether a row fits the registers beside what is computed with it.
+template <class T>
+constexpr bool isHeld(int length)
+{
+    return length <= 9 * Lanes<T>::width;
+}
+
+// Objects of one row each, beside a row that all of them share.
+template <bool commonFirst, class Op, class T, class X, class D>
+VORM_INLINE bool besideCommon(const Op& op, const T* common, const X& array, const D& d, std::ptrdiff_t length,
+                              int count)
+{
+    if constexpr (isStrided<D>) {
+        const std::ptrdiff_t packed = length * sizeOf<T>;
+        const bool fills =
+            length % Lanes<T>::width == 0 && isHeld<T>(static_cast<int>(min<std::ptrdiff_t>(length, 99)));
+        if (array.object == packed && d.object == packed && !fills && Repeated<T>::pays(length, count))
+            return repeatedRuns<commonFirst>(op, common, array.p, d.p, static_cast<int>(length), count), true;
+    }
+    switch (length) {
+    case 9: heldVectors<commonFirst, 9>(op, common, array, d, count); return true;
+    case 16: heldVectors<commonFirst, 16>(op, common, array, d, count); return true;
+    case 36:
+        if constexpr (isHeld<T>(36)) {
+            heldVectors<commonFirst, 36>(op, common, array, d, count);
+            return true;
+        }
+        return false;
+    default: return false;
+    }
 }
 
 // Objects of one row each.
@@ -149,20 +243,18 @@ VORM_INLINE VormStatus vectorsOf(const Op& op, const A& a, const B& b, const D& 
     using T = std::remove_pointer_t<decltype(d.at(0))>;
     if constexpr (isStrided<D>) {
         const std::ptrdiff_t packed = length * sizeOf<T>;
-        if (count > 1 && d.object == packed) {
-            const bool packedA = a.object == packed;
-            if constexpr (isConstant<B>) {
-                if (packedA) return run(op, rowsOf(a, 0)(0), rowsOf(b, 0)(0), d.p, length * count), StatusOk;
-            } else {
-                const bool packedB = b.object == packed;
-                if (packedA && packedB) return run(op, Along<T>{a.p}, Along<T>{b.p}, d.p, length * count), StatusOk;
-                if (Repeated<T>::pays(length, count)) {
-                    if (packedA && b.isCommon())
-                        return repeatedRuns<false>(op, b.p, a.p, d.p, static_cast<int>(length), count);
-                    if (packedB && a.isCommon())
-                        return repeatedRuns<true>(op, a.p, b.p, d.p, static_cast<int>(length), count);
-                }
-            }
+        if (count > 1 && d.object == packed && a.object == packed) {
+            if constexpr (isConstant<B>)
+                return run(op, rowsOf(a, 0)(0), rowsOf(b, 0)(0), d.p, length * count), StatusOk;
+            else if (b.object == packed)
+                return run(op, Along<T>{a.p}, Along<T>{b.p}, d.p, length * count), StatusOk;
+        }
+    }
+    if constexpr (!isConstant<B>) {
+        if (count > 2 && b.isCommon() && !a.isCommon()) {
+            if (besideCommon<false>(op, b.at(0), a, d, length, count)) return StatusOk;
+        } else if (count > 2 && a.isCommon() && !b.isCommon()) {
+            if (besideCommon<true>(op, a.at(0), b, d, length, count)) return StatusOk;
         }
     }
     switch (length) {
@@ -217,8 +309,41 @@ template <Turned turned, class T, int order, class Op, class A, class B, class D
         if constexpr (order == 3 && sizeof(T) == sizeof(float))
             oneTile<Tile<T, 3, 3>, Tile<T, 3, 3>, turned>(op, rowsOf(a, n), rowsOf(b, n), rowsOf(d, n), 0, 0);
         else
-            tiles<turned>(op, rowsOf(a, n), rowsOf(b, n), rowsOf(d, n), order, order);
+            tiles<turned>(op, opaqueRowsOf(a, n), opaqueRowsOf(b, n), opaqueRowsOf(d, n), order, order);
     return StatusOk;
+}
+
+// Packed arrays of three rows of three: some objects at once, or one by one from the first on.
+template <Turned turned, class T, class Op, class A, class B>
+[[gnu::noinline]] int turnedPackedThrees(Op op, const A& a, const B& b, T* dst, int count)
+{
+    constexpr int atOnce = PackedThrees<T>::objects, length = 9 * atOnce;
+    T repeated[2][length];
+    const auto source = [&](const auto& x, T* common) VORM_INLINE_LAMBDA {
+        if constexpr (isConstant<std::remove_cvref_t<decltype(x)>>) {
+            return x;
+        } else {
+            if (x.isCommon())
+                for (int i = 0; i < length; ++i) common[i] = elementAt(x.p, i % 9 * sizeOf<T>);
+            return StridedElements<const T>{x.isCommon() ? common : x.p, x.isCommon() ? 0 : length * sizeOf<T>, 0, 0};
+        }
+    };
+    const auto ofA = source(a, repeated[0]);
+    const auto ofB = source(b, repeated[1]);
+    for (int n = 0; n < count / atOnce; ++n)
+        oneTile<PackedThrees<T>, PackedThrees<T>, turned>(op, rowsOf(ofA, n), rowsOf(ofB, n),
+                                                          RowsOfObject<T>{dst + n * std::ptrdiff_t{length}, 0}, 0, 0);
+    return count / atOnce * atOnce;
+}
+template <class T, class Elements>
+VORM_INLINE bool isPackedOrCommon(const Elements& x, std::ptrdiff_t bytes)
+{
+    return x.object == bytes || x.isCommon();
+}
+template <class T>
+VORM_INLINE bool isPackedOrCommon(const Constant<T>&, std::ptrdiff_t)
+{
+    return true;
 }
 template <Turned turned, class T, class Op, class A, class B, class D>
 [[gnu::noinline]] VormStatus turnedPackedThree(Op op, const A& refA, const B& refB, const D& refD, int count)
@@ -226,7 +351,14 @@ template <Turned turned, class T, class Op, class A, class B, class D>
     const A a = refA;
     const B b = refB;
     const D d = refD;
-    for (int n = 0; n < count; ++n)
+    int first = 0;
+    if constexpr (isStrided<D>) {
+        constexpr std::ptrdiff_t object = 9 * sizeOf<T>;
+        if (count >= 3 * Lanes<T>::width && d.object == object && isPackedOrCommon<T>(a, object) &&
+            isPackedOrCommon<T>(b, object))
+            first = turnedPackedThrees<turned>(op, a, b, d.p, count);
+    }
+    for (int n = first; n < count; ++n)
         oneTile<PackedThree<T>, PackedThree<T>, turned>(op, rowsOf(a, n), rowsOf(b, n), rowsOf(d, n), 0, 0);
     return StatusOk;
 }

@@ -142,6 +142,56 @@ struct PackedThree {
     }
 };
 
+// As many of them without a gap as fill whole registers: four of floats or two of doubles, in nine registers.
+template <class T>
+struct PackedThrees {
+    static constexpr int width = Lanes<T>::width, registers = 9, objects = width;
+    Lanes<T> v[registers];
+
+    template <class Source>
+    VORM_INLINE static PackedThrees load(const Source& source, int, int)
+    {
+        PackedThrees tile;
+        for (int k = 0; k < registers; ++k) tile.v[k] = source(0).template lanes<Lanes<T>>(k * width);
+        return tile;
+    }
+    VORM_INLINE void store(const RowsOfObject<T>& to, int, int) const
+    {
+        for (int k = 0; k < registers; ++k) v[k].store(to.p + k * width);
+    }
+    // Element k of the matrices a, b, c, d is element 0 3 6 1 4 7 2 5 8 of one read turned.
+    VORM_INLINE PackedThrees turned() const
+    {
+        if constexpr (width == 4) {
+            const auto pair = [&](auto i, int from, auto j, int other) VORM_INLINE_LAMBDA {
+                return shuffle<decltype(i)::value, decltype(i)::value, decltype(j)::value, decltype(j)::value>(
+                    v[from], v[other]);
+            };
+            const auto both = [](Lanes<T> x, Lanes<T> y) VORM_INLINE_LAMBDA { return shuffle<0, 2, 0, 2>(x, y); };
+            const auto at0 = constant<0>, at1 = constant<1>, at2 = constant<2>, at3 = constant<3>;
+            return {shuffle<0, 3, 0, 2>(v[0], pair(at2, 1, at1, 0)),   // a0 a3 a6 a1
+                    shuffle<0, 3, 0, 2>(v[1], pair(at2, 0, at1, 1)),   // a4 a7 a2 a5
+                    shuffle<0, 1, 0, 3>(v[2], v[3]),                   // a8 b0 b3 b6
+                    both(pair(at2, 2, at1, 3), pair(at0, 4, at3, 2)),  // b1 b4 b7 b2
+                    both(pair(at2, 3, at1, 4), pair(at2, 4, at1, 5)),  // b5 b8 c0 c3
+                    both(pair(at0, 6, at3, 4), pair(at2, 5, at1, 6)),  // c6 c1 c4 c7
+                    shuffle<0, 3, 2, 3>(v[5], v[6]),                   // c2 c5 c8 d0
+                    shuffle<0, 2, 0, 3>(pair(at2, 7, at1, 8), v[7]),   // d3 d6 d1 d4
+                    shuffle<0, 2, 0, 3>(pair(at2, 8, at1, 7), v[8])};  // d7 d2 d5 d8
+        } else {
+            return {shuffle<0, 1>(v[0], v[1]),
+                    shuffle<0, 1>(v[3], v[0]),
+                    shuffle<0, 1>(v[2], v[3]),
+                    shuffle<0, 1>(v[1], v[2]),
+                    v[4],
+                    shuffle<0, 1>(v[6], v[7]),
+                    shuffle<0, 1>(v[5], v[6]),
+                    shuffle<0, 1>(v[8], v[5]),
+                    shuffle<0, 1>(v[7], v[8])};
+        }
+    }
+};
+
 // dst = a op b for one tile of a kind, whose place is that in the operands that are not turned.
 template <class InRows, class Odd, Turned turned, class Op, class A, class B, class T>
 VORM_INLINE void oneTile(const Op& op, const A& a, const B& b, const RowsOfObject<T>& dst, int r, int c)
