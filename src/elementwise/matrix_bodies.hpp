@@ -269,7 +269,7 @@ VORM_INLINE VormStatus vectorsOf(const Op& op, const A& a, const B& b, const D& 
 }
 
 template <class Op, class A, class B, class D>
-VORM_INLINE VormStatus rowsOfAll(const Op& op, const A& a, const B& b, const D& d, int width, int height, int count)
+[[gnu::noinline]] VormStatus rowsOfAll(Op op, const A& a, const B& b, const D& d, int width, int height, int count)
 {
     using T = std::remove_pointer_t<decltype(d.at(0))>;
     const std::ptrdiff_t row = width * sizeOf<T>;
@@ -299,12 +299,27 @@ VORM_INLINE VormStatus rowsOfAll(const Op& op, const A& a, const B& b, const D& 
 
 // One operand turned. --------------------------------------------------------------------------------
 
-template <Turned turned, class T, int order, class Op, class A, class B, class D>
+// The distance of the rows, where it is known when a body is compiled.
+template <class Elements>
+VORM_INLINE void setRows(Elements& elements, std::ptrdiff_t bytes)
+{
+    elements.row = bytes;
+}
+template <class T>
+VORM_INLINE void setRows(Constant<T>&, std::ptrdiff_t)
+{
+}
+
+template <Turned turned, class T, int order, bool packed, class Op, class A, class B, class D>
 [[gnu::noinline]] VormStatus turnedSquares(Op op, const A& refA, const B& refB, const D& refD, int count)
 {
-    const A a = refA;
-    const B b = refB;
-    const D d = refD;
+    A a = refA;
+    B b = refB;
+    D d = refD;
+    if constexpr (packed) {
+        constexpr std::ptrdiff_t row = order * sizeOf<T>;
+        setRows(a, row), setRows(b, row), setRows(d, row);
+    }
     for (int n = 0; n < count; ++n)
         if constexpr (order == 3 && sizeof(T) == sizeof(float))
             oneTile<Tile<T, 3, 3>, Tile<T, 3, 3>, turned>(op, rowsOf(a, n), rowsOf(b, n), rowsOf(d, n), 0, 0);
@@ -374,16 +389,23 @@ VORM_INLINE VormStatus turnedOfAll(const Op& op, const A& a, const B& b, const D
 {
     using T = std::remove_pointer_t<decltype(d.at(0))>;
     if (width == height) {
-        constexpr std::ptrdiff_t row = 3 * sizeOf<T>;
-        switch (width) {
-        case 3:
-            if (d.row == row && hasRowsOf<T>(a, row) && hasRowsOf<T>(b, row))
-                return turnedPackedThree<turned, T>(op, a, b, d, count);
-            return turnedSquares<turned, T, 3>(op, a, b, d, count);
-        case 4: return turnedSquares<turned, T, 4>(op, a, b, d, count);
-        case 5: return turnedSquares<turned, T, 5>(op, a, b, d, count);
-        case 6: return turnedSquares<turned, T, 6>(op, a, b, d, count);
-        default: break;
+        const std::ptrdiff_t row = width * sizeOf<T>;
+        if (d.row == row && hasRowsOf<T>(a, row) && hasRowsOf<T>(b, row)) {
+            switch (width) {
+            case 3: return turnedPackedThree<turned, T>(op, a, b, d, count);
+            case 4: return turnedSquares<turned, T, 4, true>(op, a, b, d, count);
+            case 5: return turnedSquares<turned, T, 5, true>(op, a, b, d, count);
+            case 6: return turnedSquares<turned, T, 6, true>(op, a, b, d, count);
+            default: break;
+            }
+        } else if (width == 3) {
+            return turnedSquares<turned, T, 3, false>(op, a, b, d, count);
+        } else if (width == 4) {
+            return turnedSquares<turned, T, 4, false>(op, a, b, d, count);
+        }
+        if constexpr (isStrided<D>) {
+            if (width == 5) return turnedSquares<turned, T, 5, false>(op, a, b, d, count);
+            if (width == 6) return turnedSquares<turned, T, 6, false>(op, a, b, d, count);
         }
     }
     for (int n = 0; n < count; ++n) turnedObject<turned>(op, rowsOf(a, n), rowsOf(b, n), rowsOf(d, n), height, width);

@@ -168,7 +168,10 @@ struct PackedThrees {
                     v[from], v[other]);
             };
             const auto both = [](Lanes<T> x, Lanes<T> y) VORM_INLINE_LAMBDA { return shuffle<0, 2, 0, 2>(x, y); };
-            const auto at0 = constant<0>, at1 = constant<1>, at2 = constant<2>, at3 = constant<3>;
+            constexpr auto at0 = constant<0>;
+            constexpr auto at1 = constant<1>;
+            constexpr auto at2 = constant<2>;
+            constexpr auto at3 = constant<3>;
             return {shuffle<0, 3, 0, 2>(v[0], pair(at2, 1, at1, 0)),   // a0 a3 a6 a1
                     shuffle<0, 3, 0, 2>(v[1], pair(at2, 0, at1, 1)),   // a4 a7 a2 a5
                     shuffle<0, 1, 0, 3>(v[2], v[3]),                   // a8 b0 b3 b6
