@@ -162,6 +162,7 @@ int run(const std::string& filter, const std::string& output)
     addMatrixSums(sections);
     addVectorProducts(sections);
     addMatrixProducts(sections);
+    addGaxpy(sections);
     addLu(sections);
     addCalls(sections);
     addTeam(sections);

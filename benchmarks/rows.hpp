@@ -46,6 +46,7 @@ void addElementwise(Sections& sections);
 void addMatrixSums(Sections& sections);
 void addVectorProducts(Sections& sections);
 void addMatrixProducts(Sections& sections);
+void addGaxpy(Sections& sections);
 void addLu(Sections& sections);
 void addCalls(Sections& sections);
 void addTeam(Sections& sections);

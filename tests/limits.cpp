@@ -46,6 +46,7 @@ constexpr From saxpy = above({3000, 2000, 1500, 1000, 1200}, {3000, 1200, 1000, 
 constexpr From lComb = above({4500, 4500, 4500, 3750, 4500}, {4500, 4500, 4500, 4500, 4500});
 
 constexpr From matrixSums = above({2999, 1999, 1999, 1999, 1999}, {1999, 1999, 1999, 1999, 1999});
+constexpr From gaxpy = above({7000, 5000, 7000, 500, 4500}, {5000, 5000, 6000, 5000, 7000});
 
 constexpr Row table[] = {
     {"Add Sub", "vav vva vac", [](const Work& w) { return (2 * w.count + 1) * w.n; }, sums},
@@ -76,6 +77,9 @@ constexpr Row table[] = {
     {"Mul", "mam mat tam tat", [](const Work& w) { return w.n * w.k + (w.n + w.k) * w.m * w.count; }, products},
     {"Mul", "mma mta tma tta", [](const Work& w) { return w.m * w.k + (w.m + w.k) * w.n * w.count; }, products},
     {"Mul", "mama mata tama tata", [](const Work& w) { return ((w.n + w.k) * w.m + w.n * w.k) * w.count; }, products},
+
+    {"Gaxpy", "mva", [](const Work& w) { return (w.k + 2 * w.m) * w.count; }, gaxpy},
+    {"Gaxpy", "mvav", [](const Work& w) { return w.k * w.count + w.m * (w.count + 1); }, gaxpy},
 
     {"LUDecomp", "ma", [](const Work& w) { return w.n * w.n * w.count; }, from(1001)},
     {"LUBackSubst", "mva", [](const Work& w) { return (2 * w.count + w.n) * w.n; }, from(701)},
@@ -113,4 +117,5 @@ Limit limitOf(const Function& f, const Sizes& s, int count, bool isContiguous)
                                        : by.standardAnyStride;
     const bool drives = from > 0 && f.name != "vormSub_mat_32f_L";
     return {static_cast<std::int32_t>(measure), drives ? from : INT32_MAX};
+    return {static_cast<std::int32_t>(measure), from ? from : INT32_MAX};
 }
