@@ -138,11 +138,11 @@ template <bool commonFirst, class Op, class T>
     return StatusOk;
 }
 
-// Whether a row fits the registers beside what is computed with it.
+// The lengths of rows that stay in registers beside what is computed with them.
 template <class T>
-constexpr bool isHeld(int length)
+constexpr bool isHeld(std::ptrdiff_t length)
 {
-    return length <= 9 * Lanes<T>::width;
+    return length == 16 || (length == 36 && sizeof(T) == sizeof(float));
 }
 
 // Objects of one row each, beside a row that all of them share.
@@ -152,9 +152,7 @@ VORM_INLINE bool besideCommon(const Op& op, const T* common, const X& array, con
 {
     if constexpr (isStrided<D>) {
         const std::ptrdiff_t packed = length * sizeOf<T>;
-        const bool fills =
-            length % Lanes<T>::width == 0 && isHeld<T>(static_cast<int>(min<std::ptrdiff_t>(length, 99)));
-        if (array.object == packed && d.object == packed && !fills && Repeated<T>::pays(length, count))
+        if (array.object == packed && d.object == packed && !isHeld<T>(length) && Repeated<T>::pays(length, count))
             return repeatedRuns<commonFirst>(op, common, array.p, d.p, static_cast<int>(length), count), true;
     }
     switch (length) {
