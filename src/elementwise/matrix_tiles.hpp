@@ -203,7 +203,8 @@ VORM_INLINE void oneTile(const Op& op, const A& a, const B& b, const RowsOfObjec
     const auto straight = [&](const auto& source) VORM_INLINE_LAMBDA { return InRows::load(source, r, c); };
     const auto odd = [&](const auto& source) VORM_INLINE_LAMBDA {
         Odd tile = Odd::load(source, c, r);
-        if constexpr (sizeof(T) == sizeof(double))  // or g++ loads halves again from memory instead of shuffling
+        // Or g++ loads halves again from memory instead of shuffling.
+        if constexpr (std::is_same_v<Odd, Tile<double, 2, 2>>)
             for (Lanes<T>& part : tile.v) pin(part);
         return tile.turned();
     };
