@@ -242,17 +242,10 @@ VORM_INLINE void scalarTile(const Op& op, const A& a, const B& b, const RowsOfOb
         }
 }
 
-// One object of any size, constants or numbers, that of the operands that are not turned.
-template <Turned turned, class Op, class A, class B, class T, class Height, class Width>
-VORM_INLINE void tiles(const Op& op, const A& a, const B& b, const RowsOfObject<T>& dst, Height height, Width width)
+// Tiles of at most so many rows and columns, band by band.
+template <int most, class Height, class Width, class EachTile>
+VORM_INLINE void inBands(Height height, Width width, const EachTile& tile)
 {
-    constexpr int most = Lanes<T>::width;
-    const auto tile = [&]<int rows, int columns>(int r, int c) VORM_INLINE_LAMBDA {
-        if constexpr (rows == 1 || columns == 1)
-            scalarTile<rows, columns, turned>(op, a, b, dst, r, c);
-        else
-            oneTile<Tile<T, rows, columns>, Tile<T, columns, rows>, turned>(op, a, b, dst, r, c);
-    };
     const auto band = [&]<int rows>(int r) VORM_INLINE_LAMBDA {
         int c = 0;
         for (; c + most <= width; c += most) tile.template operator()<rows, most>(r, c);
@@ -265,6 +258,26 @@ VORM_INLINE void tiles(const Op& op, const A& a, const B& b, const RowsOfObject<
     if constexpr (most == 4)
         if (height & 2) band.template operator()<2>(r), r += 2;
     if (height & 1) band.template operator()<1>(r);
+}
+
+// One object of any size, constants or numbers, that of the operands that are not turned.
+template <Turned turned, class Op, class A, class B, class T, class Height, class Width>
+VORM_INLINE void tiles(const Op& op, const A& a, const B& b, const RowsOfObject<T>& dst, Height height, Width width)
+{
+    constexpr int most = Lanes<T>::width;
+    const auto tile = [&]<int rows, int columns>(int r, int c) VORM_INLINE_LAMBDA {
+        if constexpr (rows == 1 || columns == 1)
+            scalarTile<rows, columns, turned>(op, a, b, dst, r, c);
+        else
+            oneTile<Tile<T, rows, columns>, Tile<T, columns, rows>, turned>(op, a, b, dst, r, c);
+    };
+    // Along the rows that are stored, which here are the columns.
+    if constexpr (turned == Turned::result)
+        inBands<most>(width, height, [&]<int columns, int rows>(int c, int r) VORM_INLINE_LAMBDA {
+            tile.template operator()<rows, columns>(r, c);
+        });
+    else
+        inBands<most>(height, width, tile);
 }
 
 }  // namespace vorm::elementwise
