@@ -164,6 +164,8 @@ int run(const std::string& filter, const std::string& output)
     addMatrixProducts(sections);
     addGaxpy(sections);
     addLu(sections);
+    addCholesky(sections);
+    addDet(sections);
     addCalls(sections);
     addTeam(sections);
 

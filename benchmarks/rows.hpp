@@ -48,6 +48,8 @@ void addVectorProducts(Sections& sections);
 void addMatrixProducts(Sections& sections);
 void addGaxpy(Sections& sections);
 void addLu(Sections& sections);
+void addCholesky(Sections& sections);
+void addDet(Sections& sections);
 void addCalls(Sections& sections);
 void addTeam(Sections& sections);
 

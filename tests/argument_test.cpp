@@ -27,6 +27,8 @@ Order orderOf(const Function& f)
     }
     if (f.layout.empty() && ((vectorSum && f.shape == "mam") || (f.family == "Sub" && f.shape == "mma")))
         return {null, count, stride, size};
+    if (f.family == "CholeskyBackSubst" && f.shape == "mva" && f.layout == "L")
+        return {null, stride, shift, size, count};
     return {null, count, size, fit, stride, shift};
 }
 

@@ -2,13 +2,14 @@
 
 #include "harness.hpp"
 
-extern const Family vectorSums, vectorScaling, vectorProducts, matrixSums, matrixProducts, gaxpyProducts,
-    luDecomposition, luSubstitution, fixedForms;
+extern const Family fixedForms, vectorSums, vectorScaling, vectorProducts, matrixSums, matrixProducts, gaxpyProducts,
+    luDecomposition, luSubstitution, choleskyDecomposition, choleskySubstitution, determinants, inverses;
 
 const std::vector<const Family*>& families()
 {
-    static const std::vector<const Family*> all = {&fixedForms,     &vectorSums,      &vectorScaling,
-                                                   &vectorProducts, &matrixSums,      &matrixProducts,
-                                                   &gaxpyProducts,  &luDecomposition, &luSubstitution};
+    static const std::vector<const Family*> all = {
+        &fixedForms,           &vectorSums,    &vectorScaling,   &vectorProducts, &matrixSums,
+        &matrixProducts,       &gaxpyProducts, &luDecomposition, &luSubstitution, &choleskyDecomposition,
+        &choleskySubstitution, &determinants,  &inverses};
     return all;
 }

@@ -51,6 +51,7 @@ struct Family {
     void (*spoil)(const Call&, int n, Random&) = nullptr;
     // How operands are stored that the general rule does not tell.
     Stored (*stored)(const Operand&, const Function&, const Problem&) = nullptr;
+    int largest = 1000;  // size that takes no more than a moment
 };
 
 const std::vector<const Family*>& families();

@@ -84,6 +84,16 @@ constexpr Row table[] = {
     {"LUDecomp", "ma", [](const Work& w) { return w.n * w.n * w.count; }, from(1001)},
     {"LUBackSubst", "mva", [](const Work& w) { return (2 * w.count + w.n) * w.n; }, from(701)},
     {"LUBackSubst", "mava", [](const Work& w) { return (w.n + 2) * w.n * w.count; }, from(1201)},
+
+    {"CholeskyDecomp", "ma", [](const Work& w) { return w.n * w.n * w.count; },
+     above({7500, 7500, 2000, 2000, 2000}, {2000, 2000, 720, 2000, 2000})},
+    {"CholeskyBackSubst", "mva", [](const Work& w) { return (2 * w.count + w.n) * w.n; }, above(1200, 720, 720, 720)},
+    {"CholeskyBackSubst", "mava", [](const Work& w) { return (w.n + 2) * w.n * w.count; },
+     above({2050, 1700, 1700, 1700, 1700}, {1700, 1700, 1700, 1700, 2050})},
+    {"Det", "ma", [](const Work& w) { return w.n * w.count; }, above(14400, 14400, 14400, 14400)},
+    // Order 1 has no driver.
+    {"Invert", "ma", [](const Work& w) { return w.n == 1 ? 0 : 2 * w.n * w.count; },
+     above(3600, 2500, 2500, 2500, 2500)},
 };
 
 bool hasWord(const std::string& text, const std::string& word)

@@ -110,8 +110,9 @@ TEST_P(AllFamilies, ThreadsThatBecomeMore)
 {
     for (const Function* f : members(true)) {
         int size = 3;
-        while (size < 1000 && !limitOf(*f, {size, size, size}, 3, true).isReached()) size += 4;
-        if (size >= 1000) continue;
+        const int largest = GetParam()->largest;
+        while (size < largest && !limitOf(*f, {size, size, size}, 3, true).isReached()) size += 4;
+        if (size >= largest) continue;
         Problem p = someProblem(*f, {size, size, size}, random);
         for (Lie& lie : p.lies) lie.atFront = false, lie.misaligned = 0;
         p.count = 3, p.threads = 2, p.later = 8;
@@ -147,7 +148,8 @@ TEST_P(AllFamilies, FailuresAtEveryPlace)
                 if (threads > 1 && order != 3 && order != 6 && order != 7) continue;
                 const Sizes s{order, order, order};
                 const int count = threads == 1 ? 11 : countOfDriver(*f, s) + threads % 3;
-                for (int place = 0; place < count; place += threads == 1 ? 1 : pick(random, 1, 4)) {
+                for (int place = 0; place < count;
+                     place += threads == 1 ? 1 : pick(random, 1, std::max(4, count / 12))) {
                     Problem p = someProblem(*f, s, random);
                     p.values = Values::ordinary, p.count = count, p.threads = threads;
                     p.failing = {place};

@@ -219,6 +219,26 @@ VORM_INLINE void loadMatrices(const View& view, int first, Number (&a)[n][n])
         gatherMatrices(view, first, objectsIn<Number>, n, reinterpret_cast<T*>(a));
 }
 
+// The same of any order, packed: element (r, c) at a[r * n + c].
+template <class Number, class View>
+VORM_INLINE void loadMatrices(const View& view, int first, Number* a, int n)
+{
+    using T = Element<Number>;
+    if constexpr (isAdjacent<View>)
+        for (int r = 0; r < n; ++r, a += n) {
+            const T* from[Number::width];
+            rowsAt(
+                view, first, [r](int) VORM_INLINE_LAMBDA { return r; }, from);
+            loadRows(
+                from, [&](int c) VORM_INLINE_LAMBDA -> auto& { return a[c]; }, n);
+        }
+    else if constexpr (isInPlanes<View>)
+        for (int r = 0; r < n; ++r, a += n)
+            for (int c = 0; c < n; ++c) a[c] = Number::load(view.element(r, c) + first);
+    else
+        gatherMatrices(view, first, objectsIn<Number>, n, reinterpret_cast<T*>(a));
+}
+
 template <class Number, class View, int n>
 VORM_INLINE void storeMatrices(const View& view, int first, const Number (&a)[n][n])
 {

@@ -1,0 +1,240 @@
+// Cholesky decomposition and substitution, against Eigen (fixed-size, object by object), LAPACK and the loop a user
+// would write with the order known to the compiler. Everyone starts from packed objects that are to be kept; Eigen's
+// and LAPACK's own decompositions are made before their solving is measured.
+#pragma once
+
+#include <Eigen/Cholesky>
+
+#include "lu.hpp"
+
+namespace bench::cholesky {
+
+using lu::Array, lu::Layout, lu::LayoutOf, lu::matrixArguments, lu::vectorArguments, lu::commonArguments;
+
+inline lapack_int potrf(int n, float* a) { return LAPACKE_spotrf_work(LAPACK_COL_MAJOR, 'U', n, a, n); }
+inline lapack_int potrf(int n, double* a) { return LAPACKE_dpotrf_work(LAPACK_COL_MAJOR, 'U', n, a, n); }
+inline lapack_int potrs(int n, int many, const float* a, float* x)
+{
+    return LAPACKE_spotrs_work(LAPACK_COL_MAJOR, 'U', n, many, a, n, x, n);
+}
+inline lapack_int potrs(int n, int many, const double* a, double* x)
+{
+    return LAPACKE_dpotrs_work(LAPACK_COL_MAJOR, 'U', n, many, a, n, x, n);
+}
+
+template <int n, class T>
+[[gnu::noinline]] bool plainDecomposition(const T* __restrict a, T* __restrict l)
+{
+    for (int i = 0; i < n; ++i) {
+        T t = a[i * n + i];
+        for (int j = 0; j < i; ++j) {
+            T value = a[i * n + j];
+            for (int k = 0; k < j; ++k) value -= l[i * n + k] * l[j * n + k];
+            value *= l[j * n + j];
+            l[i * n + j] = value;
+            t -= value * value;
+        }
+        if (t <= 0) return false;
+        l[i * n + i] = 1 / std::sqrt(t);
+    }
+    return true;
+}
+template <int n, class T>
+[[gnu::noinline]] void plainSolution(const T* __restrict l, const T* __restrict b, T* __restrict x, int count,
+                                     bool ownMatrices)
+{
+    for (int object = 0; object < count; ++object, b += n, x += n) {
+        for (int i = 0; i < n; ++i) {
+            T value = b[i];
+            for (int j = 0; j < i; ++j) value -= l[i * n + j] * x[j];
+            x[i] = value * l[i * n + i];
+        }
+        for (int i = n - 1; i >= 0; --i) {
+            T value = x[i];
+            for (int j = i + 1; j < n; ++j) value -= l[j * n + i] * x[j];
+            x[i] = value * l[i * n + i];
+        }
+        if (ownMatrices) l += n * n;
+    }
+}
+
+// Eigen's code takes long to compile: it is the same for all layouts.
+template <int n, class T, int kept>
+[[gnu::noinline]] void eigenDecomposition(const Array<T>& a, const Array<T>& l, int count, Layout layout)
+{
+    using Matrix = Eigen::Matrix<T, n, n, kept>;
+    for (int object = 0; object < count; ++object)
+        Eigen::Map<Matrix>(l.at(object, layout)) =
+            Eigen::LLT<Matrix>(Eigen::Map<const Matrix>(a.at(object, layout))).matrixLLT();
+}
+template <int n, class T>
+using Decomposition = Eigen::LLT<Eigen::Matrix<T, n, n>>;
+template <int n, class T>
+[[gnu::noinline]] void eigenSolution(const Decomposition<n, T>* llt, int step, const Array<T>& b, const Array<T>& x,
+                                     int count, Layout layout)
+{
+    using Vector = Eigen::Vector<T, n>;
+    for (int object = 0; object < count; ++object, llt += step)
+        Eigen::Map<Vector>(x.at(object, layout)) = llt->solve(Eigen::Map<const Vector>(b.at(object, layout)));
+}
+
+// What fill leaves in an array, with a diagonal that makes it positive definite, and symmetric.
+template <int n, class T>
+void makeDefinite(const Array<T>& a, int count, Layout layout)
+{
+    const auto element = [&](int object, int k) -> T& {
+        return layout == Layout::planes ? a.table[k][object] : a.at(object, layout)[k];
+    };
+    for (int object = 0; object < count; ++object)
+        for (int r = 0; r < n; ++r) {
+            element(object, r * n + r) += 2 * n;
+            for (int c = r + 1; c < n; ++c) element(object, r * n + c) = element(object, c * n + r);
+        }
+}
+
+template <int n, class T, Layout layout>
+Task decomposition(auto members, int count)
+{
+    const Array<T> a(n, n, count, layout, 387), l(n, n, count, layout, 621);
+    makeDefinite<n>(a, count, layout);
+    Task task;
+    const auto add = [&](const char* name, auto work) { task.contestants.push_back({name, work}); };
+    const auto arguments = [=](const Array<T>& from, const Array<T>& to, auto as) {
+        return std::tuple_cat(matrixArguments(from, as), matrixArguments(to, as), std::tuple(n, count));
+    };
+    const LayoutOf<layout> as;
+    if constexpr (layout == Layout::packed)
+        add("vorm", [=, all = arguments(a, l, as)] { std::apply(members.standard, all); });
+    if constexpr (layout == Layout::list)
+        add("vorm", [=, all = arguments(a, l, as)] { std::apply(members.list, all); });
+    if constexpr (layout == Layout::planes) {
+        add("vorm", [=, all = arguments(a, l, as)] { std::apply(members.pointers, all); });
+        const Array<T> aPacked(n, n, count, Layout::packed, 1), lPacked(n, n, count, Layout::packed, 1);
+        makeDefinite<n>(aPacked, count, Layout::packed);
+        const LayoutOf<Layout::packed> packed;
+        add("vorm, standard layout",
+            [=, all = arguments(aPacked, lPacked, packed)] { std::apply(members.standard, all); });
+        return task;
+    }
+    add("Eigen", [=] { eigenDecomposition<n, T, Eigen::ColMajor>(a, l, count, layout); });
+    add("Eigen by rows", [=] { eigenDecomposition<n, T, Eigen::RowMajor>(a, l, count, layout); });
+    add("LAPACK", [=] {
+        for (int object = 0; object < count; ++object) {
+            std::copy_n(a.at(object, layout), n * n, l.at(object, layout));
+            potrf(n, l.at(object, layout));
+        }
+    });
+    add("plain loop", [=] {
+        for (int object = 0; object < count; ++object)
+            plainDecomposition<n>(a.at(object, layout), l.at(object, layout));
+    });
+    return task;
+}
+
+// With a matrix for each vector (mava), or one for all of them (mva).
+template <int n, class T, Layout layout, bool ownMatrices>
+Task solution(auto members, int count)
+{
+    const int matrices = ownMatrices ? count : 1;
+    const Array<T> a(n, n, matrices, layout, 387), b(1, n, count, layout, 621), x(1, n, count, layout, 783);
+    const Array<T> packedA(n, n, matrices, Layout::packed, 1), l(n, n, matrices, Layout::packed, 1);
+    makeDefinite<n>(packedA, matrices, Layout::packed);
+    auto decompositions = std::make_shared<std::vector<Decomposition<n, T>>>();
+    for (int object = 0; object < matrices; ++object) {
+        const T* const matrix = packedA.data + object * n * n;
+        plainDecomposition<n>(matrix, l.data + object * n * n);
+        decompositions->emplace_back(Eigen::Map<const Eigen::Matrix<T, n, n>>(matrix));
+        for (int k = 0; k < n * n; ++k)
+            (layout == Layout::planes ? a.table[k][object] : a.at(object, layout)[k]) = l.data[object * n * n + k];
+    }
+
+    Task task;
+    const auto add = [&](const char* name, auto work) { task.contestants.push_back({name, work}); };
+    const auto arguments = [=](const Array<T>& m, const Array<T>& from, const Array<T>& to, auto as) {
+        const auto vectors = std::tuple_cat(vectorArguments(from, as), vectorArguments(to, as), std::tuple(n, count));
+        if constexpr (ownMatrices)
+            return std::tuple_cat(matrixArguments(m, as), vectors);
+        else
+            return std::tuple_cat(commonArguments(m, as), vectors);
+    };
+    const LayoutOf<layout> as;
+    if constexpr (layout == Layout::packed)
+        add("vorm", [=, all = arguments(a, b, x, as)] { std::apply(members.standard, all); });
+    if constexpr (layout == Layout::list)
+        add("vorm", [=, all = arguments(a, b, x, as)] { std::apply(members.list, all); });
+    if constexpr (layout == Layout::planes) {
+        add("vorm", [=, all = arguments(a, b, x, as)] { std::apply(members.pointers, all); });
+        const Array<T> bPacked(1, n, count, Layout::packed, 1), xPacked(1, n, count, Layout::packed, 1);
+        const LayoutOf<Layout::packed> packed;
+        add("vorm, standard layout",
+            [=, all = arguments(l, bPacked, xPacked, packed)] { std::apply(members.standard, all); });
+        return task;
+    }
+    add("Eigen", [=] { eigenSolution<n, T>(decompositions->data(), ownMatrices, b, x, count, layout); });
+    // LAPACK has the true diagonal.
+    const Array<T> theirs(n, n, matrices, Layout::packed, 1);
+    for (int object = 0; object < matrices; ++object) {
+        std::copy_n(packedA.data + object * n * n, n * n, theirs.data + object * n * n);
+        potrf(n, theirs.data + object * n * n);
+    }
+    add("LAPACK", [=] {
+        if (!ownMatrices && layout == Layout::packed) {
+            std::copy_n(b.data, std::ptrdiff_t{count} * n, x.data);
+            potrs(n, count, theirs.data, x.data);
+            return;
+        }
+        for (int object = 0; object < count; ++object) {
+            std::copy_n(b.at(object, layout), n, x.at(object, layout));
+            potrs(n, 1, theirs.data + (ownMatrices ? object : 0) * n * n, x.at(object, layout));
+        }
+    });
+    if constexpr (layout == Layout::packed) {
+        add("plain loop", [=] { plainSolution<n>(l.data, b.data, x.data, count, ownMatrices); });
+        if constexpr (!ownMatrices)
+            add("Eigen, all at once", [=] {
+                using Columns = Eigen::Matrix<T, n, Eigen::Dynamic>;
+                Eigen::Map<Columns>(x.data, n, count) =
+                    decompositions->front().solve(Eigen::Map<const Columns>(b.data, n, count));
+            });
+    }
+    return task;
+}
+
+struct CholeskySections {
+    Section &resident, &streaming, &list, &planes;
+};
+
+template <class T, int... n>
+void addOrders(CholeskySections& s, auto decompose, auto solveVectors, auto solvePairs)
+{
+    (..., [&] {
+        const int streaming = static_cast<int>(streamingBytes() / (n * n * sizeof(T)) / 16 * 16);
+        constexpr bool isFloat = sizeof(T) == 4;
+        constexpr double wantedDecomposition = n > 6 ? (isFloat ? 1.2 : 1) : n == 3 || !isFloat ? 2 : 4;
+        constexpr double wantedSolutions = n > 6 ? 1 : isFloat ? 4 : 3;
+        constexpr double wantedPlanes = n > 6 ? 1 : isFloat ? 1.3 : 1.1;
+        const auto add = [&](Section& section, const char* member, int count, double wanted, auto prepare) {
+            section.rows.push_back({std::string(member) + " " + std::to_string(n) + "x" + std::to_string(n), count,
+                                    [=] { return prepare(count); }, wanted});
+        };
+        const auto addShape = [&](auto members, double wanted, auto taskOf) {
+            const auto in = [=](auto layout) { return [=](int count) { return taskOf(layout, count); }; };
+            add(s.resident, members.name, residentObjects, wanted, in(LayoutOf<Layout::packed>{}));
+            add(s.streaming, members.name, streaming, 1, in(LayoutOf<Layout::packed>{}));
+            add(s.list, members.name, residentObjects, 1, in(LayoutOf<Layout::list>{}));
+            add(s.planes, members.name, residentObjects, wantedPlanes, in(LayoutOf<Layout::planes>{}));
+        };
+        addShape(decompose, wantedDecomposition,
+                 [=](auto layout, int count) { return decomposition<n, T, layout()>(decompose, count); });
+        addShape(solvePairs, wantedSolutions,
+                 [=](auto layout, int count) { return solution<n, T, layout(), true>(solvePairs, count); });
+        addShape(solveVectors, wantedSolutions,
+                 [=](auto layout, int count) { return solution<n, T, layout(), false>(solveVectors, count); });
+    }());
+}
+
+// Each element type in its own file.
+void addAll32f(CholeskySections& s);
+void addAll64f(CholeskySections& s);
+
+}  // namespace bench::cholesky

@@ -1,0 +1,14 @@
+// vormCholeskyBackSubst_mv: the kernel for contiguous elements, double precision.
+
+#include "factor/cholesky_back_subst_calls.hpp"
+
+using namespace vorm;
+using namespace vorm::factor;
+
+extern "C" {
+
+VormStatus n8_ownvormCholeskyBackSubst_mv_64f(CHOLESKY_MV_PARAMS(double))
+{
+    return contiguousKernel(choleskyMv(CHOLESKY_MV_ARGS));
+}
+}

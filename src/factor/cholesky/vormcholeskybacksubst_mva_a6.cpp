@@ -1,0 +1,18 @@
+// vormCholeskyBackSubst_mva: the kernels for contiguous elements, single precision.
+
+#include "factor/cholesky_back_subst_calls.hpp"
+
+using namespace vorm;
+using namespace vorm::factor;
+
+extern "C" {
+
+VormStatus n8_ownvormCholeskyBackSubst_mva_32f(CHOLESKY_MVA_PARAMS(float))
+{
+    return contiguousKernel(choleskyMva(CHOLESKY_MVA_ARGS));
+}
+VormStatus n8_ownvormCholeskyBackSubst_mva_32f_L(CHOLESKY_MVA_PARAMS_L(float))
+{
+    return contiguousKernel(choleskyMvaL(CHOLESKY_MVA_ARGS_L));
+}
+}
