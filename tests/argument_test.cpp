@@ -25,6 +25,8 @@ Order orderOf(const Function& f)
         if (f.layout == "L") return {null, size, stride, shift, count};
         return {null, size, stride, count, shift};
     }
+    if (f.layout.empty() && ((vectorSum && f.shape == "mam") || (f.family == "Sub" && f.shape == "mma")))
+        return {null, count, stride, size};
     if (f.family == "CholeskyBackSubst" && f.shape == "mva" && f.layout == "L")
         return {null, stride, shift, size, count};
     if (f.family.starts_with("QR")) return {null, count, size, stride, shift, fit};

@@ -2,16 +2,16 @@
 
 #include "harness.hpp"
 
-extern const Family fixedForms, vectorSums, vectorScaling, vectorProducts, matrixProducts, gaxpyProducts,
+extern const Family fixedForms, vectorSums, vectorScaling, matrixSums, vectorProducts, matrixProducts, gaxpyProducts,
     luDecomposition, luSubstitution, choleskyDecomposition, choleskySubstitution, determinants, inverses, curves,
     transformMatrices, matrixOperations, pointTransforms, affineTransform3DH, qrDecomposition, qrSubstitution;
 
 const std::vector<const Family*>& families()
 {
     static const std::vector<const Family*> all = {
-        &fixedForms,      &vectorSums,         &vectorScaling,   &vectorProducts,        &matrixProducts,
-        &gaxpyProducts,   &luDecomposition,    &luSubstitution,  &choleskyDecomposition, &choleskySubstitution,
-        &determinants,    &inverses,           &curves,          &transformMatrices,     &matrixOperations,
-        &pointTransforms, &affineTransform3DH, &qrDecomposition, &qrSubstitution};
+        &fixedForms,           &vectorSums,      &vectorScaling,      &matrixSums,      &vectorProducts,
+        &matrixProducts,       &gaxpyProducts,   &luDecomposition,    &luSubstitution,  &choleskyDecomposition,
+        &choleskySubstitution, &determinants,    &inverses,           &curves,          &transformMatrices,
+        &matrixOperations,     &pointTransforms, &affineTransform3DH, &qrDecomposition, &qrSubstitution};
     return all;
 }

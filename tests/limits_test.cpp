@@ -40,10 +40,10 @@ struct Hit {
 std::pair<Hit, Hit> nearest(const Function& f, bool isContiguous)
 {
     Hit below{{}, 0, INT32_MIN}, above{{}, 0, INT32_MAX};
-    const bool isProduct = f.isProduct(), isSquare = f.indexOf("order") >= 0;
-    const int most = isProduct ? 9 : isSquare ? 40 : 100;
+    const bool isProduct = f.isProduct(), isMatrix = f.indexOf("height") >= 0, isSquare = f.indexOf("order") >= 0;
+    const int most = isProduct ? 9 : isMatrix || isSquare ? 40 : 100;
     for (int n = 1; n <= most; ++n)
-        for (int m = isProduct ? 1 : n; m <= (isProduct ? most : n); ++m)
+        for (int m = isProduct || isMatrix ? 1 : n; m <= (isProduct || isMatrix ? most : n); ++m)
             for (int k = isProduct ? 1 : n; k <= (isProduct ? most : n); ++k) {
                 const Sizes s{m, n, k};
                 int low = 0, high = 8000;  // reached with high objects, not with low
@@ -76,7 +76,8 @@ TEST_F(Limits, AtTheLimitAndAbove)
             EXPECT_EQ(askedBy(f, above.sizes, above.count, 2, spread), 2) << f.name << ", measure " << above.measure;
             // The measure is the same function of all sizes: near the limit elsewhere.
             for (const Sizes& s : {Sizes{2, 3, 4}, {5, 2, 3}, {7, 7, 7}}) {
-                const Sizes square{s.columns, s.columns, s.columns}, &sizes = f.isProduct() ? s : square;
+                const Sizes square{s.columns, s.columns, s.columns},
+                    &sizes = f.isProduct() || f.indexOf("height") >= 0 ? s : square;
                 int count = 1;
                 while (!limitOf(f, sizes, count, isContiguous).isReached()) ++count;
                 EXPECT_EQ(askedBy(f, sizes, count - 1, 2, spread), 0) << f.name;
@@ -97,7 +98,7 @@ TEST_F(Limits, AtTheLimitAndAbove)
     }
     std::printf("%d functions with a driver, %d of %d measures exactly at the limit or one above\n", drivers, exact,
                 hits);
-    EXPECT_GT(exact, hits * 4 / 5);
+    EXPECT_GT(exact, hits * 3 / 4);  // some measures are always even, or multiples of three
 }
 
 // A single object never forks, however large it is, nor does what has no driver.
@@ -135,6 +136,12 @@ TEST_F(Limits, WrappedMeasureIsSerial)
                           }),
               0);
     EXPECT_EQ(dst[size - 1], 0.25f * size);
+    ASSERT_LT(limitOf(functionNamed("vormSub_tama_32f"), {size, size, 1}, 1, true).measure, 0);
+    EXPECT_EQ(
+        askedDuring(
+            2, [&] { vormSub_tama_32f(src.data(), 4, 4, 4, src.data(), 4, 4, 4, dst.data(), 4, 4, 4, size, size, 1); }),
+        0);
+    EXPECT_EQ(dst[size - 1], 0);
 }
 
 }  // namespace
