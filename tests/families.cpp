@@ -1,4 +1,5 @@
-// The families that have a model. A new one stands in a file of its own in families/, and here.
+// The families that have a model. A new one stands in a file of its own in families/, and here. The last to have a
+// function is its family: the fixed forms Det and Invert are matrix operations.
 
 #include "harness.hpp"
 
