@@ -13,8 +13,8 @@ using examples::expectOk;
 namespace kalman {
 namespace {
 
-// So many filters go through a whole step before the next ones do: what a call leaves is still in the cache for
-// the next one, and a call has enough to do to be worth its while, and that of a team of threads.
+// So many filters go through a whole step before the next ones do, that what a call leaves is still in the cache for
+// the next call.
 constexpr int group = 512;
 
 }  // namespace
