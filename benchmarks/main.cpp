@@ -161,6 +161,7 @@ int run(const std::string& filter, const std::string& output)
     addElementwise(sections);
     addVectorProducts(sections);
     addMatrixProducts(sections);
+    addGaxpy(sections);
     addLu(sections);
     addCalls(sections);
     addTeam(sections);

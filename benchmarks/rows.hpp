@@ -45,6 +45,7 @@ using Sections = std::list<Section>;
 void addElementwise(Sections& sections);
 void addVectorProducts(Sections& sections);
 void addMatrixProducts(Sections& sections);
+void addGaxpy(Sections& sections);
 void addLu(Sections& sections);
 void addCalls(Sections& sections);
 void addTeam(Sections& sections);

@@ -35,10 +35,12 @@ const std::map<std::string, std::set<std::string>> gaps = {
     {"vormSub_cav_32f_P", {"srcShift", "dstShift"}},
 };
 
-// The size of a source that has to be the inner size of a product, by the letter of the source.
+// The size of a source that has to be the inner size of a product, by the letter of the source; where a vector is
+// added, its length too.
 std::set<std::string> innerSizes(const Function& f)
 {
     if (!f.isProduct()) return {};
+    if (f.indexOf("src3Len") >= 0) return {"src1Width", "src2Len", "src1Height", "src3Len"};
     const char kind1 = f.operands[0].kind, kind2 = f.operands[1].kind;
     return {kind1 == 'm' ? "src1Width" : "src1Height", kind2 == 'v'   ? "src2Len"
                                                        : kind2 == 'm' ? "src2Height"

@@ -2,11 +2,12 @@
 
 #include "harness.hpp"
 
-extern const Family vectorSums, vectorProducts, matrixProducts, luDecomposition, luSubstitution, fixedForms;
+extern const Family vectorSums, vectorProducts, matrixProducts, gaxpyProducts, luDecomposition, luSubstitution,
+    fixedForms;
 
 const std::vector<const Family*>& families()
 {
-    static const std::vector<const Family*> all = {&fixedForms,     &vectorSums,      &vectorProducts,
-                                                   &matrixProducts, &luDecomposition, &luSubstitution};
+    static const std::vector<const Family*> all = {&fixedForms,    &vectorSums,      &vectorProducts, &matrixProducts,
+                                                   &gaxpyProducts, &luDecomposition, &luSubstitution};
     return all;
 }

@@ -12,14 +12,28 @@ struct Work {
 };
 
 // The first measures for which the driver runs; 0 where there is none.
-struct From {
-    int standard32f, standard64f, list, pointers;
-    int anyStride = 0;  // standard and list layout, 0 where contiguity changes nothing
+struct Layouts {
+    int standard, standardAnyStride, list, listAnyStride, pointers;
 };
-constexpr From above(int standard32f, int standard64f, int list, int pointers, int anyStride = -1)
+struct From {
+    Layouts single, twice;
+};
+constexpr Layouts oneAbove(const Layouts& l)
 {
-    return {standard32f + 1, standard64f + 1, list + 1, pointers + 1, anyStride + 1};
+    return {l.standard + 1, l.standardAnyStride + 1, l.list + 1, l.listAnyStride + 1, l.pointers + 1};
 }
+constexpr From above(const Layouts& single, const Layouts& twice) { return {oneAbove(single), oneAbove(twice)}; }
+// Whether elements are adjacent changes nothing, or leads to one limit for all.
+constexpr From above(int standard32f, int standard64f, int list, int pointers)
+{
+    return above({standard32f, standard32f, list, list, pointers}, {standard64f, standard64f, list, list, pointers});
+}
+constexpr From above(int standard32f, int standard64f, int list, int pointers, int anyStride)
+{
+    return above({standard32f, anyStride, list, anyStride, pointers},
+                 {standard64f, anyStride, list, anyStride, pointers});
+}
+constexpr From from(int measure) { return above(measure - 1, measure - 1, measure - 1, measure - 1); }
 
 struct Row {
     const char *families, *shapes;
@@ -28,13 +42,14 @@ struct Row {
 };
 
 constexpr From sums = above(4800, 1400, 2500, 1500), products = above(2500, 3600, 3600, 1440, 1440);
+constexpr From gaxpy = above({7000, 5000, 7000, 500, 4500}, {5000, 5000, 6000, 5000, 7000});
 
 constexpr Row table[] = {
     {"Add Sub", "vav vva vac", [](const Work& w) { return (2 * w.count + 1) * w.n; }, sums},
     {"Add Sub", "vava", [](const Work& w) { return 3 * w.count * w.n; }, sums},
     {"Add Sub", "vaca cava", [](const Work& w) { return w.count * (2 * w.n + 1); }, sums},
     {"Add Sub", "vca cav", [](const Work& w) { return w.n * w.count + w.n + w.count; }, sums},
-    {"Sub", "cva", [](const Work& w) { return 2 * w.count; }, {4800, 1400, 2500, 1500}},
+    {"Sub", "cva", [](const Work& w) { return 2 * w.count; }, above(4799, 1399, 2499, 1499)},
 
     {"Mul", "mva tva", [](const Work& w) { return w.m * w.k + (w.m + w.k) * w.count; }, products},
     {"Mul", "mav tav", [](const Work& w) { return w.m * (w.k + 1) * w.count + w.k; }, products},
@@ -43,9 +58,12 @@ constexpr Row table[] = {
     {"Mul", "mma mta tma tta", [](const Work& w) { return w.m * w.k + (w.m + w.k) * w.n * w.count; }, products},
     {"Mul", "mama mata tama tata", [](const Work& w) { return ((w.n + w.k) * w.m + w.n * w.k) * w.count; }, products},
 
-    {"LUDecomp", "ma", [](const Work& w) { return w.n * w.n * w.count; }, {1001, 1001, 1001, 1001}},
-    {"LUBackSubst", "mva", [](const Work& w) { return (2 * w.count + w.n) * w.n; }, {701, 701, 701, 701}},
-    {"LUBackSubst", "mava", [](const Work& w) { return (w.n + 2) * w.n * w.count; }, {1201, 1201, 1201, 1201}},
+    {"Gaxpy", "mva", [](const Work& w) { return (w.k + 2 * w.m) * w.count; }, gaxpy},
+    {"Gaxpy", "mvav", [](const Work& w) { return w.k * w.count + w.m * (w.count + 1); }, gaxpy},
+
+    {"LUDecomp", "ma", [](const Work& w) { return w.n * w.n * w.count; }, from(1001)},
+    {"LUBackSubst", "mva", [](const Work& w) { return (2 * w.count + w.n) * w.n; }, from(701)},
+    {"LUBackSubst", "mava", [](const Work& w) { return (w.n + 2) * w.n * w.count; }, from(1201)},
 };
 
 bool hasWord(const std::string& text, const std::string& word)
@@ -72,10 +90,10 @@ Limit limitOf(const Function& f, const Sizes& s, int count, bool isContiguous)
     const Row& row = rowOf(f);
     const std::uint32_t measure =
         row.measure({std::uint32_t(s.rows), std::uint32_t(s.columns), std::uint32_t(s.terms), std::uint32_t(count)});
-    const int from = f.layout == "P"                       ? row.from.pointers
-                     : !isContiguous && row.from.anyStride ? row.from.anyStride
-                     : f.layout == "L"                     ? row.from.list
-                     : f.type == "32f"                     ? row.from.standard32f
-                                                           : row.from.standard64f;
+    const Layouts& by = f.type == "32f" ? row.from.single : row.from.twice;
+    const int from = f.layout == "P"   ? by.pointers
+                     : f.layout == "L" ? (isContiguous ? by.list : by.listAnyStride)
+                     : isContiguous    ? by.standard
+                                       : by.standardAnyStride;
     return {static_cast<std::int32_t>(measure), from ? from : INT32_MAX};
 }

@@ -11,7 +11,7 @@ template <int Len>
 VORM_INLINE VormStatus timesConstant(const float* pSrc, float* pDst, float val)
 {
     using V = SmallVector<float, Len>;
-    combine<Mul>(V::load(Vector{pSrc, adjacent}, 0), V::broadcast(val)).store(Vector{pDst, adjacent}, 0);
+    combine(Mul(), V::load(Vector{pSrc, adjacent}, 0), V::broadcast(val)).store(Vector{pDst, adjacent}, 0);
     return StatusOk;
 }
 

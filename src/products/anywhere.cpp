@@ -53,9 +53,16 @@ struct KnownTable {
     }
 };
 
-// Vectors, one number each. What all objects share is read once.
-template <class T, int n, bool commonA, bool commonX, class A, class X, class D>
-VORM_INLINE void squareVectorsHere(const A a, const X x, const D y, int first, int end)
+VORM_INLINE NothingAdded elementAdded(NothingAdded, int) { return {}; }
+template <class Object>
+VORM_INLINE auto elementAdded(const Object& added, int i)
+{
+    return added(i, 0);
+}
+
+// Vectors, one number each. What all objects share is read once, but for a vector that is added.
+template <class T, int n, bool commonA, bool commonX, class A, class X, class Added, class D>
+VORM_INLINE void squareVectorsHere(const A a, const X x, const Added added, const D y, int first, int end)
 {
     T matrix[n][n], vector[n], sums[n];
     const auto loadMatrix = [&](int object) VORM_INLINE_LAMBDA {
@@ -77,26 +84,31 @@ VORM_INLINE void squareVectorsHere(const A a, const X x, const D y, int first, i
             for (int k = 1; k < n; ++k) sums[i] += matrix[i][k] * vector[k];
         }
         const auto to = y[object];
+        const auto behind = added[object];
+        for (int i = 0; i < n; ++i) sums[i] = plus(sums[i], elementAdded(behind, i));
         for (int i = 0; i < n; ++i) to(i, 0) = sums[i];
     }
 }
 
-template <class T, int n, bool commonA, bool commonX>
+template <class T, int n, bool commonA, bool commonX, class Added>
 [[gnu::noinline]] void squareVectors(const StridedElements<const T>& a, const StridedElements<const T>& x,
-                                     const StridedElements<T>& y, int first, int end)
+                                     const Added& added, const StridedElements<T>& y, int first, int end)
 {
-    squareVectorsHere<T, n, commonA, commonX>(a, x, y, first, end);
+    squareVectorsHere<T, n, commonA, commonX>(a, x, added, y, first, end);
 }
-template <class T, int n, bool commonA, bool commonX>
+template <class T, int n, bool commonA, bool commonX, class Added>
 [[gnu::noinline]] void squareVectors(const TabledElements<const T>& a, const TabledElements<const T>& x,
-                                     const TabledElements<T>& y, int first, int end)
+                                     const Added& added, const TabledElements<T>& y, int first, int end)
 {
     const KnownTable<const T, 1, 0> ofX(x);
     const KnownTable<T, 1, 0> ofY(y);
-    if (a.column == 1)
-        squareVectorsHere<T, n, commonA, commonX>(KnownTable<const T, n, 1>(a), ofX, ofY, first, end);
+    if constexpr (!std::is_same_v<Added, NothingAdded>)  // to products with a matrix as stored only
+        squareVectorsHere<T, n, commonA, commonX>(KnownTable<const T, n, 1>(a), ofX, KnownTable<const T, 1, 0>(added),
+                                                  ofY, first, end);
+    else if (a.column == 1)
+        squareVectorsHere<T, n, commonA, commonX>(KnownTable<const T, n, 1>(a), ofX, added, ofY, first, end);
     else
-        squareVectorsHere<T, n, commonA, commonX>(KnownTable<const T, 1, n>(a), ofX, ofY, first, end);
+        squareVectorsHere<T, n, commonA, commonX>(KnownTable<const T, 1, n>(a), ofX, added, ofY, first, end);
 }
 
 // Some sums side by side, of the products of elements (c, k) with the factor of term k.
@@ -122,14 +134,15 @@ VORM_INLINE void eachSum(int count, int terms, const Element& element, const Fac
     if (c < count) from.template operator()<1>(c);
 }
 
-template <class T, Outermost outermost, template <class> class Elements>
-[[gnu::noinline]] void anyLengths(const Elements<const T>& a, const Elements<const T>& b, const Elements<T>& d,
-                                  Lengths lengths, int first, int end)
+template <class T, Outermost outermost, template <class> class Elements, class Added>
+[[gnu::noinline]] void anyLengths(const Elements<const T>& a, const Elements<const T>& b, const Added& added,
+                                  const Elements<T>& d, Lengths lengths, int first, int end)
 {
     for (int object = first; object < end; ++object) {
         const auto ofA = a[object];
         const auto ofB = b[object];
         const auto ofD = d[object];
+        const auto behind = added[object];
         if constexpr (outermost == Outermost::rows)
             for (int i = 0; i < lengths.m; ++i)
                 eachSum<T>(
@@ -141,25 +154,25 @@ template <class T, Outermost outermost, template <class> class Elements>
                 eachSum<T>(
                     lengths.m, lengths.k, [&](int i, int k) VORM_INLINE_LAMBDA { return ofA(i, k); },
                     [&](int k) VORM_INLINE_LAMBDA { return ofB(k, j); },
-                    [&](int i, T sum) VORM_INLINE_LAMBDA { ofD(i, j) = sum; });
+                    [&](int i, T sum) VORM_INLINE_LAMBDA { ofD(i, j) = plus(sum, elementAdded(behind, i)); });
     }
 }
 
 }  // namespace
 
-template <Second second, class T, template <class> class Elements>
-void productsAnywhere(const Elements<const T>& a, const Elements<const T>& b, const Elements<T>& d, Lengths lengths,
-                      Outermost outermost, int first, int end)
+template <Second second, class T, template <class> class Elements, class Added>
+void productsAnywhere(const Elements<const T>& a, const Elements<const T>& b, const Added& added, const Elements<T>& d,
+                      Lengths lengths, Outermost outermost, int first, int end)
 {
     const auto ofOrder = [&]<int n>() VORM_INLINE_LAMBDA {
         if constexpr (second == Second::matrices)
             squareMatrices<T, n>(a, b, d, first, end);
-        else if (a.isCommon())
-            squareVectors<T, n, true, false>(a, b, d, first, end);
+        else if (!std::is_same_v<Added, NothingAdded> || a.isCommon())  // where a vector is added A is common
+            squareVectors<T, n, true, false>(a, b, added, d, first, end);
         else if (b.isCommon())
-            squareVectors<T, n, false, true>(a, b, d, first, end);
+            squareVectors<T, n, false, true>(a, b, added, d, first, end);
         else
-            squareVectors<T, n, false, false>(a, b, d, first, end);
+            squareVectors<T, n, false, false>(a, b, added, d, first, end);
     };
     switch (squareOrder<second>(lengths)) {
     case 3: return ofOrder.template operator()<3>();
@@ -168,15 +181,16 @@ void productsAnywhere(const Elements<const T>& a, const Elements<const T>& b, co
     case 6: return ofOrder.template operator()<6>();
     default:
         if (second == Second::vectors || outermost == Outermost::columns)
-            anyLengths<T, Outermost::columns>(a, b, d, lengths, first, end);
+            anyLengths<T, Outermost::columns>(a, b, added, d, lengths, first, end);
         else
-            anyLengths<T, Outermost::rows>(a, b, d, lengths, first, end);
+            anyLengths<T, Outermost::rows>(a, b, added, d, lengths, first, end);
     }
 }
 
-#define VORM_PRODUCTS_ANYWHERE(second, T, Elements)                                                    \
-    template void productsAnywhere<Second::second>(const Elements<const T>&, const Elements<const T>&, \
+#define VORM_SUMS_ANYWHERE(second, T, Elements, Added)                                                               \
+    template void productsAnywhere<Second::second>(const Elements<const T>&, const Elements<const T>&, const Added&, \
                                                    const Elements<T>&, Lengths, Outermost, int, int)
+#define VORM_PRODUCTS_ANYWHERE(second, T, Elements) VORM_SUMS_ANYWHERE(second, T, Elements, NothingAdded)
 VORM_PRODUCTS_ANYWHERE(matrices, float, StridedElements);
 VORM_PRODUCTS_ANYWHERE(matrices, double, StridedElements);
 VORM_PRODUCTS_ANYWHERE(matrices, float, TabledElements);
@@ -185,5 +199,9 @@ VORM_PRODUCTS_ANYWHERE(vectors, float, StridedElements);
 VORM_PRODUCTS_ANYWHERE(vectors, double, StridedElements);
 VORM_PRODUCTS_ANYWHERE(vectors, float, TabledElements);
 VORM_PRODUCTS_ANYWHERE(vectors, double, TabledElements);
+VORM_SUMS_ANYWHERE(vectors, float, StridedElements, StridedElements<const float>);
+VORM_SUMS_ANYWHERE(vectors, double, StridedElements, StridedElements<const double>);
+VORM_SUMS_ANYWHERE(vectors, float, TabledElements, TabledElements<const float>);
+VORM_SUMS_ANYWHERE(vectors, double, TabledElements, TabledElements<const double>);
 
 }  // namespace vorm::products

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "frame/layers.hpp"
+#include "products/added.hpp"
 #include "products/elements.hpp"
 #include "products/matrix_kinds.hpp"
 
@@ -23,14 +24,14 @@ VORM_INLINE int squareOrder(Lengths lengths)
 // Which loop is outside where lengths are no constants: that is, which elements are written first.
 enum class Outermost { rows, columns };
 
-// D = A B for the objects from first up to end.
-template <Second second, class T, template <class> class Elements>
-VORM_HIDDEN void productsAnywhere(const Elements<const T>& a, const Elements<const T>& b, const Elements<T>& d,
-                                  Lengths lengths, Outermost outermost, int first, int end);
+// D = A B for the objects from first up to end, or D = A B + added, which then are Elements<const T> too.
+template <Second second, class T, template <class> class Elements, class Added>
+VORM_HIDDEN void productsAnywhere(const Elements<const T>& a, const Elements<const T>& b, const Added& added,
+                                  const Elements<T>& d, Lengths lengths, Outermost outermost, int first, int end);
 
 // The same in pointer layout, through whole registers of objects where they lie in planes.
-template <Second second, class T>
-VORM_HIDDEN void pointerProducts(const TabledElements<const T>& a, const TabledElements<const T>& b,
+template <Second second, class T, class Added>
+VORM_HIDDEN void pointerProducts(const TabledElements<const T>& a, const TabledElements<const T>& b, const Added& added,
                                  const TabledElements<T>& d, Lengths lengths, Outermost outermost, int count);
 
 }  // namespace vorm::products

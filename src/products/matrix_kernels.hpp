@@ -85,14 +85,16 @@ VORM_INLINE VormStatus contiguousProducts(const A& src1, const B& src2, const D&
 template <class T, Outermost outermost = Outermost::rows, class A, class B, class D>
 VORM_INLINE VormStatus productsAnywhere(const A& a, const B& b, const D& dst, Lengths lengths, int first, int count)
 {
-    productsAnywhere<Second::matrices>(elementsOf(a), elementsOf(b), elementsOf(dst), lengths, outermost, first, count);
+    productsAnywhere<Second::matrices>(elementsOf(a), elementsOf(b), NothingAdded{}, elementsOf(dst), lengths,
+                                       outermost, first, count);
     return StatusOk;
 }
 
 template <class T, Outermost outermost, class A, class B, class D>
 VORM_INLINE VormStatus pointerProducts(const A& a, const B& b, const D& dst, Lengths lengths, int count)
 {
-    pointerProducts<Second::matrices>(elementsOf(a), elementsOf(b), elementsOf(dst), lengths, outermost, count);
+    pointerProducts<Second::matrices>(elementsOf(a), elementsOf(b), NothingAdded{}, elementsOf(dst), lengths, outermost,
+                                      count);
     return StatusOk;
 }
 

@@ -7,6 +7,7 @@
 #include "frame/lanes.hpp"
 #include "frame/pin.hpp"
 #include "frame/unrolled.hpp"
+#include "products/added.hpp"
 
 namespace vorm::products {
 
@@ -91,12 +92,24 @@ template <class T, int terms, int rows, int columns>
     }
 }
 
+// What is added to some rows: a line of a plane each, or the same register for all steps, which the mask then
+// keeps from moving on; or nothing.
+template <class T, int rows>
+struct AddedLines {
+    const T* from[rows];
+    std::ptrdiff_t mask;
+    VORM_INLINE const T* at(int i, std::ptrdiff_t offset) const { return advance(from[i], offset & mask); }
+};
+struct NothingLines {
+    VORM_INLINE NothingAdded at(int, std::ptrdiff_t) const { return {}; }
+};
+
 // d(i) is the sum over k of held(i, k) times plane k, for some rows i: what all objects share stays in
 // registers as far as they suffice, and so do the few addresses. The rest is operands in memory that are
 // aligned, as the planes are not: no loads of their own.
-template <class T, int terms, int rows>
-[[gnu::noinline]] void heldTile(const Lanes<T> (*held)[terms], const T* const (&planes)[terms], T* const (&d)[rows],
-                                int steps)
+template <class T, int terms, int rows, class Added>
+[[gnu::noinline]] void heldTile(const Lanes<T> (*held)[terms], const T* const (&planes)[terms], const Added added,
+                                T* const (&d)[rows], int steps)
 {
     // In locals, since for all a compiler knows a store might change what the pointers refer to.
     Lanes<T> factors[rows][terms];
@@ -114,7 +127,7 @@ template <class T, int terms, int rows>
             const auto factor = Lanes<T>::load(advance(from[k], at));
             for (int i = 0; i < rows; ++i) sums[i] = k == 0 ? factors[i][k] * factor : sums[i] + factors[i][k] * factor;
         });
-        for (int i = 0; i < rows; ++i) sums[i].store(advance(to[i], at));
+        for (int i = 0; i < rows; ++i) plus(sums[i], added.at(i, at)).store(advance(to[i], at));
     }
 }
 

@@ -60,6 +60,8 @@ void cover(const A& a, const B& b, const D& d, int columns, int steps, bool cach
     for (; j < columns; ++j) planeTile<T, n, n, 1>(a, b.from(0, j), d.from(0, j), steps);
 }
 
+bool inPlanes(NothingAdded) { return true; }
+
 // The distance from one pointer of a table to the next, if it is the same for all: bytes.
 template <class T>
 bool evenDistance(const TabledElements<T>& table, int elements, std::ptrdiff_t& distance)
@@ -71,14 +73,35 @@ bool evenDistance(const TabledElements<T>& table, int elements, std::ptrdiff_t& 
     return true;
 }
 
+// What is added to some rows of a product with a common matrix, from row i on: a vector for each object, in planes, or
+// one that all objects share, which is spread for this.
+template <class T, int some>
+AddedLines<T, some> linesOf(const TabledElements<const T>& added, Lanes<T> (&spread)[some], int i, std::ptrdiff_t begin)
+{
+    AddedLines<T, some> lines;
+    lines.mask = added.isCommon() ? 0 : ~std::ptrdiff_t{0};
+    for (int r = 0; r < some; ++r) {
+        const T* const plane = added.plane(i + r, 0);
+        if (added.isCommon()) spread[r] = T(elementAt(plane, 0));
+        lines.from[r] = added.isCommon() ? reinterpret_cast<const T*>(&spread[r]) : advance(plane, begin);
+    }
+    return lines;
+}
+template <class T, int some>
+NothingLines linesOf(NothingAdded, Lanes<T> (&)[some], int, std::ptrdiff_t)
+{
+    return {};
+}
+
 // Products where all objects share an operand, some lines of which stay in registers: rows of A or columns
 // of B. Each line of the other operand, a column or a row, meets all of them while it is in the cache.
-template <class T, int n>
+template <class T, int n, class Added>
 class HeldProduct {
 public:
-    HeldProduct(const TabledElements<const T>& a, const TabledElements<const T>& b, const TabledElements<T>& d,
-                int columns)
-        : planes_(a.isCommon() ? transposed(b) : a),
+    HeldProduct(const TabledElements<const T>& a, const TabledElements<const T>& b, const Added& added,
+                const TabledElements<T>& d, int columns)
+        : added_(added),
+          planes_(a.isCommon() ? transposed(b) : a),
           d_(a.isCommon() ? d : transposed(d)),
           heldLines_(a.isCommon() ? n : columns),
           lines_(a.isCommon() ? columns : n)
@@ -90,6 +113,7 @@ public:
     void objects(std::ptrdiff_t begin, int steps) const
     {
         constexpr int atOnce = n < 6 ? n : 3;
+        if constexpr (!std::is_same_v<Added, NothingAdded>) return someLines<n>(0, 0, begin, steps);  // vectors
         if (lines_ == 1 && heldLines_ == n) return someLines<n>(0, 0, begin, steps);  // reads each plane once
         for (int j = 0; j < lines_; ++j) {
             int i = 0;
@@ -106,10 +130,12 @@ private:
         T* d[some];
         for (int k = 0; k < n; ++k) planes[k] = advance(planes_.plane(j, k), begin);
         for (int r = 0; r < some; ++r) d[r] = advance(d_.plane(i + r, j), begin);
-        heldTile<T, n, some>(&held_[i], planes, d, steps);
+        Lanes<T> spread[some];
+        heldTile<T, n, some>(&held_[i], planes, linesOf(added_, spread, i, begin), d, steps);
     }
 
     Lanes<T> held_[n][n];
+    Added added_;
     TabledElements<const T> planes_;
     TabledElements<T> d_;
     int heldLines_, lines_;
@@ -117,17 +143,17 @@ private:
 
 // Orders 3 to 6, for whole registers of objects. B and D have as many columns as A, or one. Every sum goes from left to
 // right, with the first product as its start value.
-template <class T, int n>
-void squarePlanes(const TabledElements<const T>& a, const TabledElements<const T>& b, const TabledElements<T>& d,
-                  int columns, int atOnce, int count)
+template <class T, int n, class Added>
+void squarePlanes(const TabledElements<const T>& a, const TabledElements<const T>& b, const Added& added,
+                  const TabledElements<T>& d, int columns, int atOnce, int count)
 {
     constexpr int width = Lanes<T>::width;
     const auto eachRound = [&](const auto& round) {
         for (std::ptrdiff_t first = 0; first < count; first += atOnce)
             round(first * int{sizeof(T)}, static_cast<int>(min<std::ptrdiff_t>(atOnce, count - first)) / width);
     };
-    if (a.isCommon() || b.isCommon()) {
-        const HeldProduct<T, n> product(a, b, d, columns);
+    if (!std::is_same_v<Added, NothingAdded> || a.isCommon() || b.isCommon()) {
+        const HeldProduct<T, n, Added> product(a, b, added, d, columns);
         eachRound([&](std::ptrdiff_t begin, int steps) { product.objects(begin, steps); });
         return;
     }
@@ -152,14 +178,78 @@ void squarePlanes(const TabledElements<const T>& a, const TabledElements<const T
     });
 }
 
+// Vectors of any length where all objects share A and it is small: each of its elements waits in memory, spread over a
+// register. Four rows of two registers of objects at a time.
+template <class T>
+class HeldMatrix {
+public:
+    static bool holds(Lengths lengths) { return std::int64_t{lengths.m} * lengths.k <= mostElements; }
+    HeldMatrix(const TabledElements<const T>& a, Lengths lengths) : lengths_(lengths)
+    {
+        for (int i = 0; i < lengths.m; ++i)
+            for (int k = 0; k < lengths.k; ++k) held_[i * lengths.k + k] = T(elementAt(a.plane(i, k), 0));
+    }
+    // So many objects, which fill whole registers.
+    template <class Added>
+    void objects(const TabledElements<const T>& b, const Added& added, const TabledElements<T>& d, int count) const
+    {
+        const T* planes[mostElements];
+        for (int k = 0; k < lengths_.k; ++k) planes[k] = b.plane(k, 0);
+        constexpr int run = 16 * width;
+        for (int first = 0; first < count; first += run) {
+            const int end = min(count, first + run);
+            int i = 0;
+            for (; i + 4 <= lengths_.m; i += 4) rows<4>(planes, added, d, i, first, end);
+            for (; i < lengths_.m; ++i) rows<1>(planes, added, d, i, first, end);
+        }
+    }
+
+private:
+    static constexpr int mostElements = 512, width = Lanes<T>::width;
+
+    template <int some, class Added>
+    void rows(const T* const* planes, const Added& added, const TabledElements<T>& d, int i, int object, int end) const
+    {
+        Lanes<T> spread[some];
+        const auto lines = linesOf(added, spread, i, 0);
+        T* to[some];
+        for (int r = 0; r < some; ++r) to[r] = d.plane(i + r, 0);
+        for (; object + 2 * width <= end; object += 2 * width) someRows<some, 2>(planes, lines, to, i, object);
+        for (; object < end; object += width) someRows<some, 1>(planes, lines, to, i, object);
+    }
+    template <int some, int registers, class Lines>
+    VORM_INLINE void someRows(const T* const* planes, const Lines& lines, T* const (&to)[some], int i, int object) const
+    {
+        const Lanes<T>* const held = held_ + i * lengths_.k;
+        Lanes<T> sums[some][registers];
+        for (auto& row : sums)
+            for (auto& sum : row) sum = T(0);
+        for (int k = 0; k < lengths_.k; ++k) {
+            Lanes<T> factors[registers];
+            for (int p = 0; p < registers; ++p) factors[p] = Lanes<T>::load(planes[k] + object + p * width);
+            for (int r = 0; r < some; ++r)
+                for (int p = 0; p < registers; ++p) sums[r][p] = sums[r][p] + held[r * lengths_.k + k] * factors[p];
+        }
+        for (int r = 0; r < some; ++r)
+            for (int p = 0; p < registers; ++p) {
+                const int at = object + p * width;
+                plus(sums[r][p], lines.at(r, at * std::ptrdiff_t{sizeof(T)})).store(to[r] + at);
+            }
+    }
+
+    Lanes<T> held_[mostElements];
+    Lengths lengths_;
+};
+
 // Any lengths, for a register of objects. Every sum starts at zero and takes its products in ascending k.
-template <class T, bool commonA, bool commonB>
-void anyLengths(const TabledElements<const T>& a, const TabledElements<const T>& b, const TabledElements<T>& d,
-                Lengths lengths, Outermost outermost, int count)
+template <class T, bool commonA, bool commonB, class Added>
+void anyLengths(const TabledElements<const T>& a, const TabledElements<const T>& b, const Added& added,
+                const TabledElements<T>& d, Lengths lengths, Outermost outermost, int count)
 {
-    if (outermost == Outermost::columns)
-        return anyLengths<T, commonB, commonA>(transposed(b), transposed(a), transposed(d),
-                                               {lengths.n, lengths.m, lengths.k}, Outermost::rows, count);
+    if constexpr (std::is_same_v<Added, NothingAdded>)
+        if (outermost == Outermost::columns)
+            return anyLengths<T, commonB, commonA>(transposed(b), transposed(a), added, transposed(d),
+                                                   {lengths.n, lengths.m, lengths.k}, Outermost::rows, count);
     const auto load = [](auto isCommon, const T* plane, int object) VORM_INLINE_LAMBDA {
         if constexpr (isCommon)
             return Lanes<T>(T(elementAt(plane, 0)));
@@ -173,46 +263,56 @@ void anyLengths(const TabledElements<const T>& a, const TabledElements<const T>&
                 for (int k = 0; k < lengths.k; ++k)
                     sum = sum + load(std::bool_constant<commonA>{}, a.plane(i, k), object) *
                                     load(std::bool_constant<commonB>{}, b.plane(k, j), object);
+                if constexpr (!std::is_same_v<Added, NothingAdded>)
+                    sum = sum + (added.isCommon() ? load(std::true_type{}, added.plane(i, 0), object)
+                                                  : load(std::false_type{}, added.plane(i, 0), object));
                 sum.store(d.plane(i, j) + object);
             }
 }
 
 }  // namespace
 
-template <Second second, class T>
-void pointerProducts(const TabledElements<const T>& a, const TabledElements<const T>& b, const TabledElements<T>& d,
-                     Lengths lengths, Outermost outermost, int count)
+template <Second second, class T, class Added>
+void pointerProducts(const TabledElements<const T>& a, const TabledElements<const T>& b, const Added& added,
+                     const TabledElements<T>& d, Lengths lengths, Outermost outermost, int count)
 {
     constexpr int width = Lanes<T>::width;
     int inLanes = 0;
     const int atOnce = objectsAtOnce<second>(b, count);
-    if (count >= width && inPlanes(a) && inPlanes(b) && inPlanes(d) &&
+    if (count >= width && inPlanes(a) && inPlanes(b) && inPlanes(added) && inPlanes(d) &&
         planesApart(d.pp, lengths.m, lengths.n, std::ptrdiff_t{atOnce} * int{sizeof(T)},
                     std::int64_t{lengths.k} * count)) {
         inLanes = count / width * width;
         switch (squareOrder<second>(lengths)) {
-        case 3: squarePlanes<T, 3>(a, b, d, lengths.n, min(atOnce, inLanes), inLanes); break;
-        case 4: squarePlanes<T, 4>(a, b, d, lengths.n, min(atOnce, inLanes), inLanes); break;
-        case 5: squarePlanes<T, 5>(a, b, d, lengths.n, min(atOnce, inLanes), inLanes); break;
-        case 6: squarePlanes<T, 6>(a, b, d, lengths.n, min(atOnce, inLanes), inLanes); break;
+        case 3: squarePlanes<T, 3>(a, b, added, d, lengths.n, min(atOnce, inLanes), inLanes); break;
+        case 4: squarePlanes<T, 4>(a, b, added, d, lengths.n, min(atOnce, inLanes), inLanes); break;
+        case 5: squarePlanes<T, 5>(a, b, added, d, lengths.n, min(atOnce, inLanes), inLanes); break;
+        case 6: squarePlanes<T, 6>(a, b, added, d, lengths.n, min(atOnce, inLanes), inLanes); break;
         default:
-            if (a.isCommon())
-                anyLengths<T, true, false>(a, b, d, lengths, outermost, inLanes);
+            if constexpr (second == Second::vectors)
+                if (a.isCommon() && HeldMatrix<T>::holds(lengths) && inLanes >= 8 * width) {
+                    HeldMatrix<T>(a, lengths).objects(b, added, d, inLanes);
+                    break;
+                }
+            if (!std::is_same_v<Added, NothingAdded> || a.isCommon())
+                anyLengths<T, true, false>(a, b, added, d, lengths, outermost, inLanes);
             else if (b.isCommon())
-                anyLengths<T, false, true>(a, b, d, lengths, outermost, inLanes);
+                anyLengths<T, false, true>(a, b, added, d, lengths, outermost, inLanes);
             else
-                anyLengths<T, false, false>(a, b, d, lengths, outermost, inLanes);
+                anyLengths<T, false, false>(a, b, added, d, lengths, outermost, inLanes);
         }
     }
-    if (inLanes < count) productsAnywhere<second>(a, b, d, lengths, outermost, inLanes, count);
+    if (inLanes < count) productsAnywhere<second>(a, b, added, d, lengths, outermost, inLanes, count);
 }
 
-#define VORM_POINTER_PRODUCTS(second, T)                                                                          \
+#define VORM_POINTER_PRODUCTS(second, T, Added)                                                                   \
     template void pointerProducts<Second::second>(const TabledElements<const T>&, const TabledElements<const T>&, \
-                                                  const TabledElements<T>&, Lengths, Outermost, int)
-VORM_POINTER_PRODUCTS(matrices, float);
-VORM_POINTER_PRODUCTS(matrices, double);
-VORM_POINTER_PRODUCTS(vectors, float);
-VORM_POINTER_PRODUCTS(vectors, double);
+                                                  const Added&, const TabledElements<T>&, Lengths, Outermost, int)
+VORM_POINTER_PRODUCTS(matrices, float, NothingAdded);
+VORM_POINTER_PRODUCTS(matrices, double, NothingAdded);
+VORM_POINTER_PRODUCTS(vectors, float, NothingAdded);
+VORM_POINTER_PRODUCTS(vectors, double, NothingAdded);
+VORM_POINTER_PRODUCTS(vectors, float, TabledElements<const float>);
+VORM_POINTER_PRODUCTS(vectors, double, TabledElements<const double>);
 
 }  // namespace vorm::products

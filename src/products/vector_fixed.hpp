@@ -10,8 +10,8 @@ namespace vorm::products {
 
 // As stored: products along the rows, turned so that term k of as many rows as there are lanes makes a
 // register.
-template <class T, int n, Start start>
-VORM_INLINE void rowsProduct(const T* a, std::ptrdiff_t stride1, const InLine<T, n>& x, T* y)
+template <class T, int n, Start start, class Added>
+VORM_INLINE void rowsProduct(const T* a, std::ptrdiff_t stride1, const InLine<T, n>& x, Added added, T* y)
 {
     using Number = Lanes<T>;
     constexpr int width = Number::width, full = n / width, rest = n % width;
@@ -24,7 +24,7 @@ VORM_INLINE void rowsProduct(const T* a, std::ptrdiff_t stride1, const InLine<T,
         const Number terms[3] = {shuffle<0, 1, 0, 0>(low, r2),    // 00 10 20
                                  shuffle<2, 3, 1, 1>(low, r2),    // 01 11 21
                                  shuffle<0, 1, 2, 2>(high, r2)};  // 02 12 22
-        storeThree(y, leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA { return terms[k]; }));
+        storeThree(y, plusThree(leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA { return terms[k]; }), added));
     } else {
         unrolled<full>([&](auto g) VORM_INLINE_LAMBDA {
             constexpr int r0 = g * width;
@@ -45,7 +45,7 @@ VORM_INLINE void rowsProduct(const T* a, std::ptrdiff_t stride1, const InLine<T,
                 terms[n - 2] = shuffle<0, 2, 0, 2>(low, high);
                 terms[n - 1] = shuffle<1, 3, 1, 3>(low, high);
             }
-            leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA { return terms[k]; }).store(y + r0);
+            plus(leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA { return terms[k]; }), added + r0).store(y + r0);
         });
         if constexpr (rest == 2) {  // two rows of floats side by side, 4 5 4 5
             const Number r4 = Number::load(row(4)) * x.v[0], r5 = Number::load(row(5)) * x.v[0];
@@ -58,18 +58,20 @@ VORM_INLINE void rowsProduct(const T* a, std::ptrdiff_t stride1, const InLine<T,
                                      highPairs(high, high),
                                      shuffle<0, 2, 0, 2>(tails, tails),
                                      shuffle<1, 3, 1, 3>(tails, tails)};
-            storeHalf<0>(y + 4, leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA { return terms[k]; }));
+            const Number sums = leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA { return terms[k]; });
+            storeHalf<0>(y + 4, plusFirst<2>(sums, added + 4));
         }
         unrolled<rest == 1>([&](auto g) VORM_INLINE_LAMBDA {
             const T* const p = row(full * width + g);
             Number products[full];
             for (int c = 0; c < full; ++c) products[c] = Number::load(p + c * width) * x.v[c];
-            elementAt(y + full * width + g, 0) = leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA {
+            const T sum = leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA {
                 if constexpr (k < full * width)
                     return lane<k % width>(products[k / width]);
                 else
                     return T(elementAt(p + k, 0)) * lane<k - full * width>(x.v[full]);
             });
+            elementAt(y + full * width + g, 0) = plus(sum, added + (full * width + g));
         });
     }
 }
@@ -97,12 +99,12 @@ VORM_INLINE void weightedRows(const T* a, std::ptrdiff_t stride1, const Spread<T
     }
 }
 
-template <class T, int n, Start start, class Stored, class X, class D>
-VORM_INLINE void productsByObject(const Stored& a, const X& x, const D& y, int first, int end)
+template <class T, int n, Start start, class Stored, class X, class D, class Added = NothingAdded>
+VORM_INLINE void productsByObject(const Stored& a, const X& x, const D& y, int first, int end, const Added& added = {})
 {
     const PerObject<InLine<T, n>, X> vectors(x);
     for (int object = first; object < end; ++object)
-        rowsProduct<T, n, start>(a.object(object), a.stride1, vectors(object), y.object(object));
+        rowsProduct<T, n, start>(a.object(object), a.stride1, vectors(object), added.object(object), y.object(object));
 }
 template <class T, int n, Start start, class Stored, class X, class D>
 VORM_INLINE void productsByObject(const Transposed<Stored>& a, const X& x, const D& y, int first, int end)
@@ -174,7 +176,7 @@ template <class T, int n, Start start, class A, class X, class D>
 VORM_INLINE void fixedProducts(const A& a, const X& x, const D& y, int count)
 {
     if constexpr (A::isCommon && !X::isCommon) {
-        productsOfCommon<T, n, start>(a, x, y, count);
+        productsOfCommon<T, n, start>(a, x, NothingAdded{}, y, count);
     } else {
         const int done = packedRows<T, n, start>(a, x, y, count);
         if (done < count) productsByObject<T, n, start>(a, x, y, done, count);

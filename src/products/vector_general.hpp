@@ -17,6 +17,7 @@
 #include "frame/operands.hpp"
 #include "frame/overlap.hpp"
 #include "frame/unrolled.hpp"
+#include "products/added.hpp"
 #include "products/dots.hpp"
 
 namespace vorm::products {
@@ -167,8 +168,8 @@ template <class T>
 
 // The lists without straight-line bodies: tiles of two objects by four elements. -----------------------
 
-template <int objects, int rows, class T, class A, class X, class D>
-VORM_INLINE void runningTile(const A& a, const X& x, const D& y, int object, int i, int terms)
+template <int objects, int rows, class T, class A, class X, class D, class Added = NothingAdded>
+VORM_INLINE void runningTile(const A& a, const X& x, const D& y, int object, int i, int terms, const Added& added = {})
 {
     T sum[objects][rows] = {};
     for (int k = 0; k < terms; ++k)
@@ -177,7 +178,7 @@ VORM_INLINE void runningTile(const A& a, const X& x, const D& y, int object, int
             for (int r = 0; r < rows; ++r) sum[o][r] += a(object + o, i + r, k) * factor;
         }
     for (int o = 0; o < objects; ++o)
-        for (int r = 0; r < rows; ++r) y(object + o, i + r) = sum[o][r];
+        for (int r = 0; r < rows; ++r) y(object + o, i + r) = plus(sum[o][r], added(object + o, i + r));
 }
 
 template <class T, class A, class X, class D>

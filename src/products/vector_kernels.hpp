@@ -69,16 +69,16 @@ VORM_INLINE VormStatus contiguousProducts(const A& src1, const X& x, const D& y,
 // Elements anywhere: the _S2 and _P kernels. ------------------------------------------------------------
 
 // One product is done where it is called, since that takes less time than to say where the elements lie.
-template <class T, class A, class X, class D>
-VORM_INLINE void productAnywhere(const A& a, const X& x, const D& y, int rows, int terms)
+template <class T, class A, class X, class D, class Added = NothingAdded>
+VORM_INLINE void productAnywhere(const A& a, const X& x, const D& y, int rows, int terms, const Added& added = {})
 {
     const bool done =
-        withOrder(rows, terms, [&](auto n) VORM_INLINE_LAMBDA { scatteredProducts<T, n>(a, x, y, 0, 1); });
+        withOrder(rows, terms, [&](auto n) VORM_INLINE_LAMBDA { scatteredProducts<T, n>(a, x, y, 0, 1, added); });
     if (done) return;
     for (int i = 0; i < rows; ++i) {
         T sum(0);
         for (int k = 0; k < terms; ++k) sum += a(0, i, k) * x(0, k);
-        y(0, i) = sum;
+        y(0, i) = plus(sum, added(0, i));
     }
 }
 
@@ -88,7 +88,7 @@ VORM_INLINE VormStatus productsAnywhere(const A& a, const X& x, const D& y, int 
     if constexpr (D::isCommon)
         productAnywhere<T>(a, x, y, rows, terms);
     else
-        productsAnywhere<Second::vectors>(elementsOf(a), elementsOf(x), elementsOf(y), {rows, 1, terms},
+        productsAnywhere<Second::vectors>(elementsOf(a), elementsOf(x), NothingAdded{}, elementsOf(y), {rows, 1, terms},
                                           Outermost::rows, first, count);
     return StatusOk;
 }
@@ -96,8 +96,8 @@ VORM_INLINE VormStatus productsAnywhere(const A& a, const X& x, const D& y, int 
 template <class T, class A, class X, class D>
 VORM_INLINE VormStatus pointerProducts(const A& a, const X& x, const D& y, int rows, int terms, int count)
 {
-    pointerProducts<Second::vectors>(elementsOf(a), elementsOf(x), elementsOf(y), {rows, 1, terms}, Outermost::rows,
-                                     count);
+    pointerProducts<Second::vectors>(elementsOf(a), elementsOf(x), NothingAdded{}, elementsOf(y), {rows, 1, terms},
+                                     Outermost::rows, count);
     return StatusOk;
 }
 

@@ -10,6 +10,7 @@
 #include "frame/shuffles.hpp"
 #include "frame/small_vector.hpp"
 #include "frame/unrolled.hpp"
+#include "products/added.hpp"
 
 namespace vorm::products {
 
@@ -42,8 +43,8 @@ struct ScatteredMatrix {
     }
 };
 
-template <class T, int n, Start start = Start::firstProduct, class A, class X, class D>
-VORM_INLINE void scatteredProducts(const A& a, const X& x, const D& y, int first, int end)
+template <class T, int n, Start start = Start::firstProduct, class A, class X, class D, class Added = NothingAdded>
+VORM_INLINE void scatteredProducts(const A& a, const X& x, const D& y, int first, int end, const Added& added = {})
 {
     const PerObject<ScatteredMatrix<T, n>, A> matrices(a);
     const PerObject<ScatteredVector<T, n>, X> vectors(x);
@@ -53,7 +54,8 @@ VORM_INLINE void scatteredProducts(const A& a, const X& x, const D& y, int first
         ScatteredVector<T, n> result;
         for (int i = 0; i < n; ++i)
             result.v[i] =
-                leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA { return matrix.v[i][k] * vector.v[k]; });
+                plus(leftToRight<n, start>([&](auto k) VORM_INLINE_LAMBDA { return matrix.v[i][k] * vector.v[k]; }),
+                     added(object, i));
         result.store(y, object);
     }
 }
