@@ -8,8 +8,6 @@
 
 namespace kalman {
 
-using Doubles = std::vector<double>;  // of all filters, packed
-
 // Where a filter starts: the guess and the covariance of its error, and the covariance of its measurements.
 struct Start {
     Doubles guesses;                // states of each filter

@@ -1,8 +1,8 @@
 // Matrices and vectors of all filters in two layouts, so that the filter can be written once for both.
 //
 // An operand of a call is a pointer and a few numbers; the layout decides which, and everything else of the
-// argument list is the same. The operands below say what stands for them in an argument list, and `call`
-// puts it there: call(vormMul_mama_32f, a, 6, 6, b, 6, 6, d, count).
+// argument list is the same. The operands below say what stands for them in an argument list, and a Member puts
+// it there: product(a, 6, 6, b, 6, 6, d, count).
 #pragma once
 
 #include <vorm/vorm.h>
@@ -11,6 +11,8 @@
 #include <tuple>
 #include <type_traits>
 #include <vector>
+
+#include "common/stages.hpp"
 
 namespace kalman {
 
@@ -23,11 +25,18 @@ auto argumentsOf(const Argument& argument)
         return std::tuple(argument);  // a size, the count, the row numbers of a decomposition
 }
 
-template <class Function, class... Arguments>
-VormStatus call(Function* function, const Arguments&... arguments)
-{
-    return std::apply(function, std::tuple_cat(argumentsOf(arguments)...));
-}
+// A function of the library that takes operands of a layout.
+template <class Function>
+struct Member {
+    const char* name;
+    Function* function;
+
+    template <class... Arguments>
+    void operator()(const Arguments&... arguments) const
+    {
+        examples::expectOk(std::apply(function, std::tuple_cat(argumentsOf(arguments)...)), name);
+    }
+};
 
 // Object after object, row after row: the standard layout. A block of all matrices, or a stretch of all vectors,
 // is the same strides from another first element on.
@@ -83,14 +92,14 @@ struct Packed {
         std::vector<T> values_;
     };
 
-    // The member of a family for this layout and type.
+    // The one for this layout and type, of the members of a shape.
     template <class F32, class F64, class P32, class P64>
-    static auto* pick(F32* f32, F64* f64, P32*, P64*)
+    static constexpr auto member(const char* name, F32* f32, F64* f64, P32*, P64*)
     {
         if constexpr (std::is_same_v<T, float>)
-            return f32;
+            return Member<F32>{name, f32};
         else
-            return f64;
+            return Member<F64>{name, f64};
     }
 };
 
@@ -163,12 +172,12 @@ struct StructureOfArrays {
     };
 
     template <class F32, class F64, class P32, class P64>
-    static auto* pick(F32*, F64*, P32* p32, P64* p64)
+    static constexpr auto member(const char* name, F32*, F64*, P32* p32, P64* p64)
     {
         if constexpr (std::is_same_v<T, float>)
-            return p32;
+            return Member<P32>{name, p32};
         else
-            return p64;
+            return Member<P64>{name, p64};
     }
 };
 

@@ -7,12 +7,15 @@
 
 #include <array>
 #include <cstddef>
+#include <vector>
 
 namespace kalman {
 
 constexpr int states = 6, seen = 3;  // elements of a state, and of a measurement
 constexpr double interval = 0.1;     // seconds from step to step
 constexpr double disturbance = 0.2;  // scans are scaled to a box of edge 2, which the accelerations refer to
+
+using Doubles = std::vector<double>;  // of all filters, packed
 
 template <class T, int Rows, int Columns>
 using Matrix = std::array<T, static_cast<std::size_t>(Rows* Columns)>;

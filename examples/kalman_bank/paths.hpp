@@ -9,8 +9,6 @@
 
 namespace kalman {
 
-using Doubles = std::vector<double>;  // of all filters or flyers, packed
-
 struct Paths {
     std::vector<Doubles> planned;            // at each time, position and velocity of each flyer
     std::vector<std::vector<int>> vertices;  // at each time, the vertex that each flyer is leaving

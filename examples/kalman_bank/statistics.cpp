@@ -9,7 +9,6 @@
 #include <numeric>
 
 #include "common/stages.hpp"
-#include "kalman_bank/model.hpp"
 
 using examples::expectOk;
 

@@ -3,9 +3,9 @@
 
 #include <vector>
 
-namespace kalman {
+#include "kalman_bank/model.hpp"
 
-using Doubles = std::vector<double>;  // of all filters, packed
+namespace kalman {
 
 // The mean over all filters of e^T C^-1 e, where e is an error of `order` elements and C its covariance. If the
 // covariances are right, it is the mean of chi-square numbers of `order` degrees of freedom, one for each filter.
