@@ -7,7 +7,8 @@
 namespace kalman {
 namespace {
 
-constexpr double speed = 0.2, height = 0.03;  // of a scan in a box of edge 2, a second
+// Of a scan in a box of edge 2, a second.
+constexpr double speed = 0.2, height = 0.03, shortest = 1e-4;
 
 struct Point {
     double x = 0, y = 0, z = 0;
@@ -21,7 +22,7 @@ double length(Point a) { return std::sqrt(dot(a, a)); }
 // The mesh as corners above its vertices and the edges between them.
 struct Net {
     std::vector<Point> points;
-    std::vector<std::vector<int>> neighbours;  // those apart from their vertex
+    std::vector<std::vector<int>> neighbours;  // along edges that lead somewhere
 
     const Point& at(int vertex) const { return points[static_cast<std::size_t>(vertex)]; }
 };
@@ -36,7 +37,7 @@ Net netAbove(const examples::Mesh& mesh, const std::vector<float>& vertices, con
     for (std::size_t k = 0; k < mesh.corners.size(); k += 3)
         for (std::size_t c = 0; c < 3; ++c) {
             const int a = mesh.corners[k + c], b = mesh.corners[k + (c + 1) % 3];
-            if (!(length(net.at(b) - net.at(a)) > 1e-6)) continue;
+            if (!(length(net.at(b) - net.at(a)) > shortest)) continue;
             net.neighbours[static_cast<std::size_t>(a)].push_back(b);
             net.neighbours[static_cast<std::size_t>(b)].push_back(a);
         }
