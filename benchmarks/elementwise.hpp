@@ -1,4 +1,5 @@
-// Sums and differences of vectors, against Eigen in every form a user could choose for the layout:
+// Sums, differences and scaled sums of vectors and their products by constants, against Eigen in every form a user
+// could choose for the layout:
 //   long map      the packed array as one long vector; a common operand repeated in memory beforehand
 //   replicate     the array as a Len x count matrix, the common operand as a replicate expression
 //   fixed loop    object by object through fixed-size maps; common operands copied to locals, or by reference
@@ -20,14 +21,34 @@ namespace bench {
 enum class Kind { array, common, constant, constants };
 enum class Layout { packed, slots, anyStride, list, planes };
 
-struct Add {
-    static constexpr auto apply = [](const auto& a, const auto& b) { return a + b; };
+// Operations: on numbers and on Eigen's expressions. Factors stand behind the sources they scale.
+struct Sum {
+    static constexpr int factors = 0;
 };
-struct Sub {
-    static constexpr auto apply = [](const auto& a, const auto& b) { return a - b; };
+struct Add : Sum {
+    auto operator()(const auto& a, const auto& b) const { return a + b; }
 };
-struct SubFrom {  // the constant shapes take their vector first
-    static constexpr auto apply = [](const auto& a, const auto& b) { return b - a; };
+struct Sub : Sum {
+    auto operator()(const auto& a, const auto& b) const { return a - b; }
+};
+struct SubFrom : Sum {  // the constant shapes take their vector first
+    auto operator()(const auto& a, const auto& b) const { return b - a; }
+};
+struct Mul {
+    static constexpr int factors = 0;
+    auto operator()(const auto& a, const auto& b) const { return a * b; }
+};
+template <class T>
+struct Saxpy {
+    static constexpr int factors = 1;
+    T val = T(1.25);
+    auto operator()(const auto& a, const auto& b) const { return a * val + b; }
+};
+template <class T>
+struct LComb {
+    static constexpr int factors = 2;
+    T val1 = T(1.25), val2 = T(0.75);
+    auto operator()(const auto& a, const auto& b) const { return a * val1 + b * val2; }
 };
 
 // An operand in the form of every contestant.
@@ -198,12 +219,20 @@ Task elementwiseTask(Function* ours, int count)
     const Operand<T, Len, kindA, layout> a(0, count);
     const Operand<T, Len, kindB, layout> b(1, count);
     const Operand<T, Len, Kind::array, layout> dst(2, count);
-    constexpr auto combine = Op::apply;
-    constexpr bool repeats = kindB == Kind::common || kindB == Kind::constants;
+    const Op combine;
+    constexpr bool repeats = kindA == Kind::common || kindB == Kind::common || kindB == Kind::constants;
 
     Task task;
     const auto add = [&](const std::string& name, auto work) { task.contestants.push_back({name, work}); };
-    const auto arguments = std::tuple_cat(a.arguments(), b.arguments(), dst.arguments(), std::tuple(Len, count));
+    const auto sources = [&] {
+        if constexpr (Op::factors == 2)
+            return std::tuple_cat(a.arguments(), std::tuple(combine.val1), b.arguments(), std::tuple(combine.val2));
+        else if constexpr (Op::factors == 1)
+            return std::tuple_cat(a.arguments(), std::tuple(combine.val), b.arguments());
+        else
+            return std::tuple_cat(a.arguments(), b.arguments());
+    }();
+    const auto arguments = std::tuple_cat(sources, dst.arguments(), std::tuple(Len, count));
     add("vorm", [=] { std::apply(ours, arguments); });
     if constexpr (layout == Layout::packed) {
         add(bandwidth, [=] { moveBytes<Len, kindA, kindB>(a.data(), b.data(), dst.data(), count); });
@@ -238,7 +267,8 @@ template <class Op, int Len, Layout layout, Kind kindA, Kind kindB, class T, cla
 void addRow(Section* resident, Section* streaming, const char* member, Function* function)
 {
     constexpr bool held = layout == Layout::packed && Len <= 6;
-    constexpr bool common = kindA == Kind::array && kindB == Kind::common && sizeof(T) == sizeof(float);
+    constexpr bool common =
+        kindA == Kind::array && kindB == Kind::common && sizeof(T) == sizeof(float) && std::is_base_of_v<Sum, Op>;
     const auto add = [&](Section& section, int count, double wanted) {
         section.rows.push_back({std::string(member) + " len " + std::to_string(Len), count,
                                 [=] { return elementwiseTask<Op, Len, layout, kindA, kindB, T>(function, count); },
@@ -266,5 +296,7 @@ void addShape(ElementwiseSections& s, const M& m)
 // Each element type in its own file.
 void addElementwise32f(ElementwiseSections& sections);
 void addElementwise64f(ElementwiseSections& sections);
+void addScaling32f(ElementwiseSections& sections);
+void addScaling64f(ElementwiseSections& sections);
 
 }  // namespace bench

@@ -23,6 +23,8 @@ void addElementwise(Sections& sections)
     };
     addElementwise32f(s);
     addElementwise64f(s);
+    addScaling32f(s);
+    addScaling64f(s);
 }
 
 void addElementwise32f(ElementwiseSections& s)

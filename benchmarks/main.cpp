@@ -159,6 +159,7 @@ int run(const std::string& filter, const std::string& output)
 {
     Sections sections;
     addElementwise(sections);
+    addMatrixSums(sections);
     addVectorProducts(sections);
     addMatrixProducts(sections);
     addGaxpy(sections);

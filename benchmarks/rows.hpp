@@ -43,6 +43,7 @@ using Sections = std::list<Section>;
 
 // One function per subject, each in its own file; main calls them in the order of the report.
 void addElementwise(Sections& sections);
+void addMatrixSums(Sections& sections);
 void addVectorProducts(Sections& sections);
 void addMatrixProducts(Sections& sections);
 void addGaxpy(Sections& sections);

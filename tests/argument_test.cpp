@@ -25,6 +25,8 @@ Order orderOf(const Function& f)
         if (f.layout == "L") return {null, size, stride, shift, count};
         return {null, size, stride, count, shift};
     }
+    if (f.layout.empty() && ((vectorSum && f.shape == "mam") || (f.family == "Sub" && f.shape == "mma")))
+        return {null, count, stride, size};
     return {null, count, size, fit, stride, shift};
 }
 
@@ -152,6 +154,9 @@ TEST(Arguments, CatalogueIsRead)
         if (f.shape.find_first_of("mt") == std::string::npos) ++members[f.family + (f.isFixed() ? " fixed" : "")];
     EXPECT_EQ(members["Add"], 38);
     EXPECT_EQ(members["Sub"], 66);
+    EXPECT_EQ(members["Saxpy"], 22);
+    EXPECT_EQ(members["LComb"], 16);
+    EXPECT_EQ(members["Mul"], 22);
     EXPECT_EQ(members["Normalize fixed"], 3);
     const Function& f = functionNamed("vormAdd_vav_32f_L");
     EXPECT_EQ(f.family + f.shape + f.type + f.layout, "Addvav32fL");

@@ -58,11 +58,20 @@ int someSize(Random& random)
     return chance(random, 60) ? pick(random, 3, 6) : sizes[pick(random, 0, 12)];
 }
 
+// Products of matrices and sums of them, of any sizes.
+bool isRectangular(const Function& f)
+{
+    return f.isProduct() || (f.indexOf("height") >= 0 && (f.family == "Add" || f.family == "Sub" || f.family == "Mul"));
+}
+
 // So many objects that the work of a call pays for a team, some hundred microseconds.
 int largeCount(const Function& f, const Sizes& s)
 {
-    const bool isCubic = !f.isProduct() && f.operands[0].kind == 'm';
-    const int steps = f.isProduct() ? s.rows * s.columns * s.terms : isCubic ? s.rows * s.rows * s.rows : s.columns;
+    const bool isCubic = !isRectangular(f) && f.operands[0].kind == 'm';
+    const int steps = f.isProduct()      ? s.rows * s.columns * s.terms
+                      : isCubic          ? s.rows * s.rows * s.rows
+                      : isRectangular(f) ? s.rows * s.columns
+                                         : s.columns;
     return std::max(20, 400000 / (steps + 5));
 }
 
@@ -73,7 +82,7 @@ std::uint64_t digestOf(const Function& f)
     Random random(f.name.size() * 2654435761u + f.parameters.size());
     for (int call = 0; call < (f.isArray() ? 1200 : 600); ++call) {
         const int n = someSize(random);
-        const bool isCube = !f.isProduct() || chance(random, 50), isLong = f.isArray() && call % 40 == 39;
+        const bool isCube = !isRectangular(f) || chance(random, 50), isLong = f.isArray() && call % 40 == 39;
         Sizes sizes = isCube ? Sizes{n, n, n} : Sizes{n, someSize(random), someSize(random)};
         if (isLong && sizes.rows * sizes.columns * sizes.terms > 216) sizes = {3, 3, 3};
         Problem p = someProblem(f, sizes, random);

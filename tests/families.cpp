@@ -2,12 +2,13 @@
 
 #include "harness.hpp"
 
-extern const Family vectorSums, vectorProducts, matrixProducts, gaxpyProducts, luDecomposition, luSubstitution,
-    fixedForms;
+extern const Family vectorSums, vectorScaling, vectorProducts, matrixSums, matrixProducts, gaxpyProducts,
+    luDecomposition, luSubstitution, fixedForms;
 
 const std::vector<const Family*>& families()
 {
-    static const std::vector<const Family*> all = {&fixedForms,    &vectorSums,      &vectorProducts, &matrixProducts,
-                                                   &gaxpyProducts, &luDecomposition, &luSubstitution};
+    static const std::vector<const Family*> all = {&fixedForms,     &vectorSums,      &vectorScaling,
+                                                   &vectorProducts, &matrixSums,      &matrixProducts,
+                                                   &gaxpyProducts,  &luDecomposition, &luSubstitution};
     return all;
 }

@@ -6,15 +6,13 @@
 #include <climits>
 #include <cmath>
 #include <cstring>
-#include <deque>
 #include <limits>
 #include <vector>
 
-#include "elementwise/kernels.hpp"
 #include "frame/call.hpp"
+#include "frame/elements.hpp"
 #include "frame/object_lanes.hpp"
 #include "frame/operands.hpp"
-#include "frame/rows.hpp"
 #include "frame/small_vector.hpp"
 
 using namespace vorm;
@@ -101,6 +99,17 @@ TEST(Views, Addresses)
     EXPECT_EQ(offset(MatrixArrayPointers{pp, shift, s0, 4}(n, r, c)), entry(r * 4 + c) + n * s0);
     EXPECT_EQ(offset(Transposed{MatrixArrayPointers{pp, shift, s0, 4}}(n, c, r)), entry(r * 4 + c) + n * s0);
 
+    // The same by the distances between elements; what is common in a list leads back to the view's own pointer.
+    const auto same = [&](const auto& elements, const auto& view) {
+        return offset(elements[n](r, c)) == offset(view(n, r, c));
+    };
+    const Matrix matrix{p, s1, s2};
+    const Transposed turned{MatrixList{pp, shift, s1, s2}};
+    EXPECT_TRUE(same(elementsOf(Transposed{MatrixArray{p, s0, s1, s2}}), Transposed{MatrixArray{p, s0, s1, s2}}));
+    EXPECT_TRUE(same(elementsOf(MatrixArrayPointers{pp, shift, s0, 4}), MatrixArrayPointers{pp, shift, s0, 4}));
+    EXPECT_TRUE(same(listedElementsOf(turned), turned));
+    EXPECT_TRUE(same(listedElementsOf(matrix), matrix));
+
     for (int k = 0; k < 1000; ++k) p[k] = float(k);
     EXPECT_EQ(Constant{2.5f}(n, i), 2.5f);
     EXPECT_EQ((ConstantArray<float>{p, s0}(n, i)), float(n * s0 / 4));
@@ -113,137 +122,6 @@ TEST(Views, BeyondTwoGiB)
 {
     const VectorArray far{reinterpret_cast<float*>(4096), 1 << 20, 4};
     EXPECT_EQ(reinterpret_cast<std::uintptr_t>(far.object(1 << 12)), 4096 + (std::uintptr_t{1} << 32));
-}
-
-// Differences of matrices by the kernels for vectors, against the definition: every way two sources can lie and be
-// read, and in how many pieces. All operands share one pool of memory, so that a stray store shows as well.
-class Rows : public testing::Test {
-protected:
-    static constexpr int size = 3 << 14;
-    Rows() : memory(size), expected(size)
-    {
-        for (float value = 0; float& element : memory) element = value = value < 1000 ? value + 3 : value - 997;
-    }
-    float* pool(int operand) { return memory.data() + operand * (size / 3); }
-
-    // Each of these makes an operand of the pool: rows of w elements, h of them, every element, row and object so far
-    // behind the last one.
-    struct Layout {
-        int w, h, element, row, object;
-    };
-    static Layout layout(int w, int h, int elementGap, int rowGap, int objectGap)
-    {
-        const int e = 4 + 4 * elementGap, row = w * e + 4 * rowGap;
-        return {w, h, e, row, h * row + 4 * objectGap};
-    }
-    template <bool isArray, class T>
-    static auto standard(T* p, const Layout& l)
-    {
-        if constexpr (isArray)
-            return MatrixArray{p, l.object, l.row, l.element};
-        else
-            return Matrix{p, l.row, l.element};
-    }
-    template <class T>
-    auto list(T* p, const Layout& l, int count)
-    {
-        auto& table = tables.emplace_back();
-        for (int n = 0; n < count; ++n) table.push_back(const_cast<float*>(advance(p, (n * 7 % count) * l.object)));
-        return MatrixList{const_cast<T* const*>(table.data()), 0, l.row, l.element};
-    }
-    template <class T>
-    auto pointers(T* p, const Layout& l, int planeStep, int stride0)
-    {
-        auto& table = tables.emplace_back();
-        for (int i = 0; i < l.w * l.h; ++i) table.push_back(const_cast<float*>(p + i * planeStep));
-        return MatrixArrayPointers{const_cast<T* const*>(table.data()), 0, stride0, l.w};
-    }
-
-    // Returns the number of pieces.
-    template <class D, class A, class B>
-    int check(int width, int height, int count, const D& dst, const A& a, const B& b)
-    {
-        int pieces = 0;
-        const auto before = memory;
-        for (int n = 0; n < count; ++n)
-            for (int r = 0; r < height; ++r)
-                for (int c = 0; c < width; ++c) dst(n, r, c) = a(n, r, c) - b(n, r, c);
-        expected = memory, memory = before;
-        const auto kernel = [&]<class To, class X, class Y>(int len, int objects, const To& to, const X& x,
-                                                            const Y& y) {
-            ++pieces;
-            if constexpr (requires { to.element(0); })
-                elementwise::pointerObjects<Sub>(x, y, to, len, objects);
-            else if constexpr (isAdjacent<To> && isAdjacent<X> && isAdjacent<Y>)
-                elementwise::contiguousObjects<Sub>(x, y, to, len, objects);
-            else
-                elementwise::anyStride<Sub>(x, y, to, len, objects);
-        };
-        asVectors(width, height, count, kernel, dst, a, b);
-        EXPECT_TRUE(memory == expected) << width << " x " << height << ", " << count;
-        memory = before;
-        return pieces;
-    }
-    std::vector<float> memory, expected;
-    std::deque<std::vector<float*>> tables;
-};
-
-TEST_F(Rows, EveryLayoutAndReading)
-{
-    for (const auto& [width, height] : {std::pair{3, 3}, {4, 4}, {5, 2}, {2, 7}, {1, 6}, {6, 1}})
-        for (int count : {1, 2, 50})
-            for (int gaps = 0; gaps < 27; ++gaps) {
-                const int w = width, h = height, of1 = gaps % 3, of2 = gaps / 3 % 3, ofDst = gaps / 9;
-                const auto stored = [&](int g) { return layout(w, h, 0, g == 1, g == 2 ? 3 : 0); };
-                const auto turned = [&](int g) { return layout(h, w, g == 2, g == 1, 0); };
-                float* const dst = pool(0);
-                const float *const p = pool(1), *const q = pool(2);
-                const Layout ld = stored(ofDst), l1 = stored(of1), l2 = stored(of2), t1 = turned(of1), t2 = turned(of2);
-                const auto d = standard<true>(dst, ld);
-                const auto a = standard<true>(p, l1), b = standard<true>(q, l2);
-                const auto at = Transposed{standard<true>(p, t1)}, bt = Transposed{standard<true>(q, t2)};
-                check(w, h, count, d.withAdjacent(), a.withAdjacent(), b.withAdjacent());
-                check(w, h, count, d.withAdjacent(), standard<false>(p, l1).withAdjacent(), b.withAdjacent());
-                check(w, h, count, d, a, standard<false>(q, l2));
-                check(w, h, count, d.withAdjacent(), at.withAdjacent(), b.withAdjacent());
-                check(w, h, count, d, at, bt);
-                check(w, h, count, d, a, Transposed{standard<false>(q, t2)});
-                check(w, h, count, list(dst, ld, count).withAdjacent(), list(p, l1, count).withAdjacent(),
-                      standard<false>(q, l2).withAdjacent());
-                check(w, h, count, list(dst, ld, count), Transposed{list(p, t1, count)}, list(q, l2, count));
-                check(w, h, 1, standard<false>(dst, ld).withAdjacent(), standard<false>(p, l1).withAdjacent(),
-                      Transposed{standard<false>(q, t2)}.withAdjacent());
-                const auto dp = pointers(dst, ld, 101, 4 + 4 * (ofDst == 2));
-                const auto bp = pointers(q, t2, 130, 4 + 4 * (of2 == 2));
-                check(w, h, count, dp, pointers(p, l1, 110, 4), Transposed{bp});
-                check(w, h, count, dp, MatrixPointers{pointers(p, l1, 9, 4).pp, 0, w},
-                      Transposed{MatrixPointers{bp.pp, 4, h}});
-            }
-}
-
-TEST_F(Rows, AsFewPiecesAsTheLayoutAllows)
-{
-    const auto pieces = [&](int w, int h, int rowGap, int objectGap, int count) {
-        const Layout l = layout(w, h, 0, rowGap, objectGap);
-        return check(w, h, count, standard<true>(pool(0), l).withAdjacent(), standard<true>(pool(1), l).withAdjacent(),
-                     standard<true>(pool(2), l).withAdjacent());
-    };
-    EXPECT_EQ(pieces(3, 3, 0, 0, 50), 1);       // one long vector
-    EXPECT_EQ(pieces(3, 3, 0, 3, 50), 1);       // a vector of nine for each object
-    EXPECT_EQ(pieces(3, 3, 1, 0, 50), 1);       // one array of rows
-    EXPECT_EQ(pieces(3, 3, 1, 3, 50), 3);       // the same row of all objects
-    EXPECT_EQ(pieces(3, 20, 1, 3, 5), 5);       // the rows of each object
-    EXPECT_EQ(pieces(30, 8, 1, 3, 40), 3 * 8);  // as many objects as a cache keeps from row to row
-}
-
-// A row that a list's shift does not reach is reached through its object.
-TEST_F(Rows, FarRowsOfLists)
-{
-    const float* from[20];
-    for (int n = 0; n < 20; ++n) from[n] = pool(1);
-    const MatrixList view{static_cast<const float* const*>(from), 4, 1 << 30, 4};
-    EXPECT_TRUE(reachesRow(view, 1));
-    EXPECT_FALSE(reachesRow(view, 2));
 }
 
 template <class T>

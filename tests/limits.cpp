@@ -42,6 +42,10 @@ struct Row {
 };
 
 constexpr From sums = above(4800, 1400, 2500, 1500), products = above(2500, 3600, 3600, 1440, 1440);
+constexpr From saxpy = above({3000, 2000, 1500, 1000, 1200}, {3000, 1200, 1000, 1000, 1200});
+constexpr From lComb = above({4500, 4500, 4500, 3750, 4500}, {4500, 4500, 4500, 4500, 4500});
+
+constexpr From matrixSums = above({2999, 1999, 1999, 1999, 1999}, {1999, 1999, 1999, 1999, 1999});
 constexpr From gaxpy = above({7000, 5000, 7000, 500, 4500}, {5000, 5000, 6000, 5000, 7000});
 
 constexpr Row table[] = {
@@ -51,6 +55,22 @@ constexpr Row table[] = {
     {"Add Sub", "vca cav", [](const Work& w) { return w.n * w.count + w.n + w.count; }, sums},
     {"Sub", "cva", [](const Work& w) { return 2 * w.count; }, above(4799, 1399, 2499, 1499)},
 
+    {"Add Sub", "mam mat tam tat mma mta tma tta", [](const Work& w) { return w.m * w.n * (2 * w.count + 1); },
+     matrixSums},
+    {"Add Sub", "mama mata tama tata", [](const Work& w) { return 3 * w.m * w.n * w.count; }, matrixSums},
+
+    {"Saxpy", "vav", [](const Work& w) { return (2 * w.count + 1) * w.n; }, saxpy},
+    {"Saxpy", "vva", [](const Work& w) { return (2 * w.count + 1) * w.n; },
+     above({3000, 2000, 1500, 1500, 1200}, {3000, 1200, 1000, 1000, 1200})},
+    {"Saxpy", "vava", [](const Work& w) { return 3 * w.count * w.n; }, saxpy},
+    {"LComb", "vav", [](const Work& w) { return (2 * w.count + 1) * w.n; }, lComb},
+    {"LComb", "vava", [](const Work& w) { return 3 * w.count * w.n; }, lComb},
+
+    {"Mul", "vac", [](const Work& w) { return 2 * w.n * w.count; }, products},
+    {"Mul", "mac tac", [](const Work& w) { return 2 * w.m * w.n * w.count; },
+     above({3500, 3500, 3500, 1500, 1700}, {3500, 3500, 3500, 3500, 1700})},
+    {"Mul", "vaca", [](const Work& w) { return (2 * w.n + 1) * w.count; }, above(2100, 2100, 1200, 650)},
+    {"Mul", "vca", [](const Work& w) { return w.n * (w.count + 1) + w.count; }, above(2100, 2100, 1200, 650)},
     {"Mul", "mva tva", [](const Work& w) { return w.m * w.k + (w.m + w.k) * w.count; }, products},
     {"Mul", "mav tav", [](const Work& w) { return w.m * (w.k + 1) * w.count + w.k; }, products},
     {"Mul", "mava tava", [](const Work& w) { return (w.m * w.k + w.m + w.k) * w.count; }, products},
@@ -95,5 +115,7 @@ Limit limitOf(const Function& f, const Sizes& s, int count, bool isContiguous)
                      : f.layout == "L" ? (isContiguous ? by.list : by.listAnyStride)
                      : isContiguous    ? by.standard
                                        : by.standardAnyStride;
+    const bool drives = from > 0 && f.name != "vormSub_mat_32f_L";
+    return {static_cast<std::int32_t>(measure), drives ? from : INT32_MAX};
     return {static_cast<std::int32_t>(measure), from ? from : INT32_MAX};
 }

@@ -6,7 +6,25 @@
 
 namespace {
 
-// Sums of single vectors are loops over ascending elements beyond the small sizes.
+// Sums and products of single vectors are loops over ascending elements beyond the small sizes.
+bool isLoop(const Function& f)
+{
+    const bool isProduct = f.family == "Mul" && f.shape == "vc";
+    return (f.family == "Add" || f.family == "Sub" || f.family == "Saxpy" || f.family == "LComb" || isProduct) &&
+           !f.isArray() && !f.isFixed() && f.layout.empty() && f.shape.find_first_of("mt") == f.shape.npos;
+}
+
+template <class T>
+T combined(const Function& f, T first, T second)
+{
+    const T val = T(0.5);
+    if (f.family == "Add") return first + second;
+    if (f.family == "Sub") return first - second;
+    if (f.family == "Mul") return first * second;
+    const T scaled = first * val;
+    return scaled + (f.family == "Saxpy" ? second : second * val);
+}
+
 template <class T>
 void checkOverlaps(const Function& f, std::size_t overlapped, Random& random)
 {
@@ -31,19 +49,19 @@ void checkOverlaps(const Function& f, std::size_t overlapped, Random& random)
             for (std::size_t i = 0; i < std::size_t(len); ++i) {
                 const T x = model[at + i], y = f.shape == "vv" ? other[i] : T(0.5);
                 const bool isFirst = overlapped == 0 && f.shape[0] != 'c';
-                model[to + i] = f.family == "Add" ? x + y : isFirst ? x - y : y - x;
+                model[to + i] = isFirst ? combined(f, x, y) : combined(f, y, x);
             }
             ASSERT_EQ(f.call(arguments), StatusOk);
             ASSERT_EQ(memory, model) << f.name << ", " << ahead << " ahead, len " << len;
         }
 }
 
-TEST(Overlap, SumsOfSingleVectors)
+TEST(Overlap, SingleVectors)
 {
     Random random(20120924);
     for (const Function& f : catalogue())
-        for (std::size_t k = 0; k < 2 && (f.family == "Add" || f.family == "Sub"); ++k)
-            if (!f.isArray() && !f.isFixed() && f.layout.empty() && f.operands[k].kind == 'v')
+        for (std::size_t k = 0; k + 1 < f.operands.size() && isLoop(f); ++k)
+            if (f.operands[k].kind == 'v')
                 f.type == "32f" ? checkOverlaps<float>(f, k, random) : checkOverlaps<double>(f, k, random);
 }
 

@@ -51,72 +51,96 @@ VORM_INLINE void smallObjects(const Op& op, const A& a, const B& b, const Vector
             return packedBlocks<Len>(op, a, b, dst, count);
         }
     }
-    if constexpr (Len == 3 && sizeof(T) == sizeof(float)) {
+    // A slot is loaded at once, but stored in two parts with a shuffle between them: of no use where nothing is loaded.
+    if constexpr (Len == 3 && sizeof(T) == sizeof(float) && !(A::isCommon && isConstant<B>)) {
         if (inSlots(a) && inSlots(b)) return slotObjects(op, a, b, dst, count);
     }
-    eachObject<SmallVector<T, Len>>(op, a, b, dst, 0, count);
+    eachByRegisters<SmallVector<T, Len>>(op, a, b, dst, 0, count);
 }
 
 template <int Len, class Op, class T, class A, class B>
 VORM_INLINE void smallObjects(const Op& op, const A& a, const B& b, const VectorList<T, Adjacent>& dst, int count)
 {
-    eachObject<SmallVector<T, Len>>(op, a, b, dst, 0, count);
+    eachByRegisters<SmallVector<T, Len>>(op, a, b, dst, 0, count);
 }
 
-// What a run of a few registers reads, register by register: a common vector stays where it was loaded.
-template <class T, int Registers, class View>
-struct Held {
-    VORM_INLINE explicit Held(const View&) {}
-    template <class Source>
-    VORM_INLINE Lanes<T> part(const Source& source, int k) const
+// Where the objects of an operand are, so that all shapes of an operation share one kernel for long vectors, and
+// another for those in lists: what is common to all objects is an array that makes no step, or an entry of such a list.
+template <class T, bool inList>
+struct Objects {
+    const void* first;
+    std::ptrdiff_t step, shift;
+    VORM_INLINE T* operator()(int n) const
     {
-        return source.lanes(k * Lanes<T>::width);
+        const char* const p = static_cast<const char*>(first) + n * step;
+        if constexpr (inList)
+            return advance(*reinterpret_cast<T* const*>(p), shift);
+        else
+            return const_cast<T*>(reinterpret_cast<const T*>(p));
     }
 };
-template <class T, int Registers>
-struct Held<T, Registers, Vector<const T, Adjacent>> {
-    Lanes<T> v[Registers];
-    VORM_INLINE explicit Held(const Vector<const T, Adjacent>& view)
-    {
-        for (int k = 0; k < Registers; ++k) v[k] = Lanes<T>::load(view.p + k * Lanes<T>::width);
-    }
-    template <class Source>
-    VORM_INLINE Lanes<T> part(const Source&, int k) const
-    {
-        return v[k];
-    }
-};
+template <class T, bool inList, class View>
+VORM_INLINE Objects<T, inList> objectsOf(const View& view)
+{
+    if constexpr (requires { view.pp; })
+        return {view.pp, sizeof(T*), view.shift};
+    else if constexpr (inList)
+        return {&view.p, 0, 0};
+    else if constexpr (requires { view.stride0; })
+        return {view.p, view.stride0, 0};
+    else
+        return {view.p, 0, 0};
+}
+template <class T>
+VORM_INLINE auto asVector(const Constant<T>& constant)
+{
+    return Vector{&constant.val, adjacent};
+}
+template <class View>
+VORM_INLINE const View& asVector(const View& view)
+{
+    return view;
+}
+template <bool isVal, class T>
+VORM_INLINE auto runSource(const T* p)
+{
+    if constexpr (isVal)
+        return Everywhere<T>{elementAt(p, 0)};
+    else
+        return Along<T>{p};
+}
 
 // Objects of a few registers and a tail.
-template <int Registers, class T, class Op, class A, class B, class D>
-VORM_INLINE void mediumObjects(const Op& op, const A& a, const B& b, const D& dst, int len, int count)
+template <int registers, bool isVal, class Op, class T, bool inList>
+VORM_INLINE void mediumObjects(const Op& op, const Objects<const T, inList>& a, const Objects<const T, inList>& b,
+                               const Objects<T, inList>& dst, int len, int count)
 {
-    const Held<T, Registers, A> heldA(a);
-    const Held<T, Registers, B> heldB(b);
     for (int n = 0; n < count; ++n) {
-        const auto sourceA = runSource<T>(a, n);
-        const auto sourceB = runSource<T>(b, n);
-        T* const p = dst.object(n);
-        for (int k = 0; k < Registers; ++k)
-            op.apply(heldA.part(sourceA, k), heldB.part(sourceB, k)).store(p + k * Lanes<T>::width);
-        runTail(op, sourceA, sourceB, p, Registers * Lanes<T>::width, len);
+        const Along<T> sourceA{a(n)};
+        const auto sourceB = runSource<isVal>(b(n));
+        T* const p = dst(n);
+        unrolled<registers>([&](auto k) VORM_INLINE_LAMBDA {
+            op.apply(sourceA.lanes(k * Lanes<T>::width), sourceB.lanes(k * Lanes<T>::width))
+                .store(p + k * Lanes<T>::width);
+        });
+        runTail(op, sourceA, sourceB, p, registers * Lanes<T>::width, len);
     }
 }
 
-// All other lengths. Not inlined, to keep the small sizes free of its registers.
-template <class Op, class A, class B, class T, template <class, class> class Dst>
-[[gnu::noinline]] VormStatus longObjects(Op op, A a, B b, Dst<T, Adjacent> dst, int len, int count)
+// All lengths but the small ones; b is an array of constants, or of vectors.
+template <bool isVal, class Op, class T, bool inList>
+VORM_SHARED void longObjects(Op op, Objects<const T, inList> a, Objects<const T, inList> b, Objects<T, inList> dst,
+                             int len, int count)
 {
     switch (len / Lanes<T>::width) {
-    case 1: mediumObjects<1, T>(op, a, b, dst, len, count); break;
-    case 2: mediumObjects<2, T>(op, a, b, dst, len, count); break;
-    case 3: mediumObjects<3, T>(op, a, b, dst, len, count); break;
-    case 4: mediumObjects<4, T>(op, a, b, dst, len, count); break;
-    case 8: mediumObjects<8, T>(op, a, b, dst, len, count); break;
+    case 1: return mediumObjects<1, isVal>(op, a, b, dst, len, count);
+    case 2: return mediumObjects<2, isVal>(op, a, b, dst, len, count);
+    case 3: return mediumObjects<3, isVal>(op, a, b, dst, len, count);
+    case 4: return mediumObjects<4, isVal>(op, a, b, dst, len, count);
+    case 8: return mediumObjects<8, isVal>(op, a, b, dst, len, count);
     default:
-        for (int n = 0; n < count; ++n) run(op, runSource<T>(a, n), runSource<T>(b, n), dst.object(n), len);
+        for (int n = 0; n < count; ++n) run(op, Along<T>{a(n)}, runSource<isVal>(b(n)), dst(n), len);
     }
-    return StatusOk;
 }
 
 template <class Op, class A, class B, class T, template <class, class> class Dst>
@@ -134,7 +158,10 @@ VORM_INLINE VormStatus contiguousObjects(const Op& op, const A& a, const B& b, c
     case 4: smallObjects<4>(op, a, b, dst, count); break;
     case 5: smallObjects<5>(op, a, b, dst, count); break;
     case 6: smallObjects<6>(op, a, b, dst, count); break;
-    default: return longObjects(op, a, b, dst, len, count);
+    default:
+        constexpr bool inList = !isRun<Dst<T, Adjacent>>;
+        longObjects<isConstant<B>>(op, objectsOf<const T, inList>(a), objectsOf<const T, inList>(asVector(b)),
+                                   objectsOf<T, inList>(dst), len, count);
     }
     return StatusOk;
 }

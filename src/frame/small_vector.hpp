@@ -3,6 +3,7 @@
 
 #include "frame/operands.hpp"
 #include "frame/shuffles.hpp"
+#include "frame/unrolled.hpp"
 
 namespace vorm {
 
@@ -10,16 +11,15 @@ namespace vorm {
 // of memory are read or written.
 template <class T, int Len>
 struct SmallVector {
-    static constexpr int width = Lanes<T>::width, full = Len / width, rest = Len % width;
-    Lanes<T> v[full + (rest != 0)];
+    static constexpr int width = Lanes<T>::width, full = Len / width, rest = Len % width, parts = full + (rest != 0);
+    Lanes<T> v[parts];
 
     template <class View>
     VORM_INLINE static SmallVector load(const View& view, int n)
     {
         const T* const p = view.object(n);
         SmallVector r;
-        for (int k = 0; k < full; ++k) r.v[k] = Lanes<T>::load(p + k * width);
-        if constexpr (rest != 0) r.v[full] = loadFirst<rest>(p + full * width);
+        unrolled<parts>([&](auto k) VORM_INLINE_LAMBDA { r.v[k] = part<k>(p); });
         return r;
     }
     VORM_INLINE static SmallVector broadcast(T value)
@@ -32,8 +32,18 @@ struct SmallVector {
     VORM_INLINE void store(const View& view, int n) const
     {
         T* const p = view.object(n);
-        for (int k = 0; k < full; ++k) v[k].store(p + k * width);
-        if constexpr (rest != 0) storeFirst<rest>(p + full * width, v[full]);
+        unrolled<parts>([&](auto k) VORM_INLINE_LAMBDA { putPart<k>(p, v[k]); });
+    }
+    // Register k of a vector by itself.
+    template <int k>
+    VORM_INLINE static Lanes<T> part(const T* p)
+    {
+        return loadFirst<(k < full ? width : rest)>(p + k * width);
+    }
+    template <int k>
+    VORM_INLINE static void putPart(T* p, Lanes<T> a)
+    {
+        storeFirst<(k < full ? width : rest)>(p + k * width, a);
     }
 };
 

@@ -8,13 +8,6 @@
 
 namespace vorm::math3d {
 
-struct Mul {
-    template <class Number>
-    VORM_INLINE static Number apply(Number a, Number b)
-    {
-        return a * b;
-    }
-};
 struct Min {  // b where they are equal or unordered, as the processor's own minimum
     VORM_INLINE static Lanes<float> apply(Lanes<float> a, Lanes<float> b) { return _mm_min_ps(a.v, b.v); }
 };

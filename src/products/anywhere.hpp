@@ -3,9 +3,9 @@
 // value; all other sums start at zero and take their products in ascending k.
 #pragma once
 
+#include "frame/elements.hpp"
 #include "frame/layers.hpp"
 #include "products/added.hpp"
-#include "products/elements.hpp"
 #include "products/matrix_kinds.hpp"
 
 namespace vorm::products {

@@ -1,7 +1,7 @@
 // Many products of order 3 to 6 with a matrix that they share: compiled once for both ways in which it can be read.
 #pragma once
 
-#include "products/elements.hpp"
+#include "frame/elements.hpp"
 #include "products/matrix_fixed.hpp"
 
 namespace vorm::products {

@@ -2,8 +2,8 @@
 // the matrix lies and is read.
 #pragma once
 
+#include "frame/elements.hpp"
 #include "products/added.hpp"
-#include "products/elements.hpp"
 #include "products/vector_sums.hpp"
 
 namespace vorm::products {

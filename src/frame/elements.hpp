@@ -6,7 +6,7 @@
 
 #include "frame/operands.hpp"
 
-namespace vorm::products {
+namespace vorm {
 
 // Standard layout. Distances are in bytes; that of the objects is 0 where they all share the operand.
 template <class T>
@@ -15,6 +15,7 @@ struct StridedElements {
     std::ptrdiff_t object, row, column;
 
     bool isCommon() const { return object == 0; }
+    VORM_INLINE T* at(int n) const { return advance(p, n * object); }
 
     struct Object {
         T* p;
@@ -22,6 +23,17 @@ struct StridedElements {
         VORM_INLINE decltype(auto) operator()(int r, int c) const { return elementAt(advance(p, r * row), c * column); }
     };
     VORM_INLINE Object operator[](int n) const { return {advance(p, n * object), row, column}; }
+};
+
+// List layout. The objects that all share one are a list with the same entry for each: of step 0.
+template <class T>
+struct ListedElements {
+    T* const* pp;
+    std::ptrdiff_t step, shift, row, column;
+
+    bool isCommon() const { return step == 0; }
+    VORM_INLINE T* at(int n) const { return advance(pp[n * step], shift); }
+    VORM_INLINE typename StridedElements<T>::Object operator[](int n) const { return {at(n), row, column}; }
 };
 
 // Pointer layout: rows and columns are distances in the table.
@@ -74,4 +86,19 @@ VORM_INLINE auto elementsOf(const View& view)
     }
 }
 
-}  // namespace vorm::products
+// As a list: what all objects share is a list whose one entry is the view's own pointer, and lives as long.
+template <class View>
+VORM_INLINE auto listedElementsOf(const View& view)
+{
+    if constexpr (isTransposed<View>) {
+        return transposed(listedElementsOf(view.stored));
+    } else if constexpr (View::isCommon) {
+        using T = std::remove_pointer_t<decltype(view.p)>;
+        return ListedElements<T>{&view.p, 0, 0, view.stride1, bytes<T>(view.stride2)};
+    } else {
+        using T = std::remove_pointer_t<std::remove_cvref_t<decltype(*view.pp)>>;
+        return ListedElements<T>{view.pp, 1, view.shift, view.stride1, bytes<T>(view.stride2)};
+    }
+}
+
+}  // namespace vorm

@@ -1,0 +1,13 @@
+// vormAdd_mam: the kernels for contiguous elements, double precision.
+
+#include "elementwise/matrix_calls.hpp"
+#include "elementwise/shapes/mam.hpp"
+
+using namespace vorm;
+using namespace vorm::elementwise;
+
+extern "C" {
+
+VormStatus n8_ownvormAdd_mam_64f(MAM_PARAMS(double)) { return contiguousKernel<Add>(mam<Mm>(MAM_ARGS)); }
+VormStatus n8_ownvormAdd_mam_64f_L(MAM_PARAMS_L(double)) { return contiguousKernel<Add>(mamL<Mm>(MAM_ARGS_L)); }
+}

@@ -1,0 +1,13 @@
+// vormAdd_tata: the kernels for contiguous elements, single precision.
+
+#include "elementwise/matrix_calls.hpp"
+#include "elementwise/shapes/mama.hpp"
+
+using namespace vorm;
+using namespace vorm::elementwise;
+
+extern "C" {
+
+VormStatus n8_ownvormAdd_tata_32f(MAMA_PARAMS(float)) { return contiguousKernel<Add>(mama<Tt>(MAMA_ARGS)); }
+VormStatus n8_ownvormAdd_tata_32f_L(MAMA_PARAMS_L(float)) { return contiguousKernel<Add>(mamaL<Tt>(MAMA_ARGS_L)); }
+}

@@ -1,0 +1,32 @@
+// vormAdd_tm: public layers, and the kernels for elements anywhere.
+
+#include "elementwise/matrix_calls.hpp"
+#include "elementwise/shapes/mm.hpp"
+
+using namespace vorm;
+using namespace vorm::elementwise;
+
+extern "C" {
+
+VormStatus n8_vormAdd_tm_32f(MM_PARAMS(float))
+{
+    return checked(mm<Tm>(MM_ARGS), n8_ownvormAdd_tm_32f, n8_ownvormAdd_tm_32f_S2, MM_ARGS);
+}
+VormStatus n8_vormAdd_tm_64f(MM_PARAMS(double))
+{
+    return checked(mm<Tm>(MM_ARGS), n8_ownvormAdd_tm_64f, n8_ownvormAdd_tm_64f_S2, MM_ARGS);
+}
+VormStatus n8_vormAdd_tm_32f_P(MM_PARAMS_P(float))
+{
+    return checked(mmP<Tm>(MM_ARGS_P), n8_ownvormAdd_tm_32f_P, MM_ARGS_P);
+}
+VormStatus n8_vormAdd_tm_64f_P(MM_PARAMS_P(double))
+{
+    return checked(mmP<Tm>(MM_ARGS_P), n8_ownvormAdd_tm_64f_P, MM_ARGS_P);
+}
+
+VormStatus n8_ownvormAdd_tm_32f_S2(MM_PARAMS(float)) { return anyStrideKernel<Add>(mm<Tm>(MM_ARGS)); }
+VormStatus n8_ownvormAdd_tm_64f_S2(MM_PARAMS(double)) { return anyStrideKernel<Add>(mm<Tm>(MM_ARGS)); }
+VormStatus n8_ownvormAdd_tm_32f_P(MM_PARAMS_P(float)) { return pointerKernel<Add>(mmP<Tm>(MM_ARGS_P)); }
+VormStatus n8_ownvormAdd_tm_64f_P(MM_PARAMS_P(double)) { return pointerKernel<Add>(mmP<Tm>(MM_ARGS_P)); }
+}

@@ -1,0 +1,13 @@
+// vormSub_mama: the kernels for contiguous elements, double precision.
+
+#include "elementwise/matrix_calls.hpp"
+#include "elementwise/shapes/mama.hpp"
+
+using namespace vorm;
+using namespace vorm::elementwise;
+
+extern "C" {
+
+VormStatus n8_ownvormSub_mama_64f(MAMA_PARAMS(double)) { return contiguousKernel<Sub>(mama<Mm>(MAMA_ARGS)); }
+VormStatus n8_ownvormSub_mama_64f_L(MAMA_PARAMS_L(double)) { return contiguousKernel<Sub>(mamaL<Mm>(MAMA_ARGS_L)); }
+}

@@ -1,0 +1,31 @@
+// vormSub_mat: team-parallel drivers.
+
+#include "elementwise/shapes/mam.hpp"
+#include "frame/driver.hpp"
+
+using namespace vorm;
+using namespace vorm::elementwise;
+
+extern "C" {
+
+VormStatus n8_ownOMP_vormSub_mat_32f(MAM_PARAMS(float))
+{
+    return team(mam<Mt>(MAM_ARGS), n8_ownvormSub_mat_32f, n8_ownvormSub_mat_32f_S2);
+}
+VormStatus n8_ownOMP_vormSub_mat_64f(MAM_PARAMS(double))
+{
+    return team(mam<Mt>(MAM_ARGS), n8_ownvormSub_mat_64f, n8_ownvormSub_mat_64f_S2);
+}
+VormStatus n8_ownOMP_vormSub_mat_64f_L(MAM_PARAMS_L(double))
+{
+    return team(mamL<Mt>(MAM_ARGS_L), n8_ownvormSub_mat_64f_L, n8_ownvormSub_mat_64f_LS2);
+}
+VormStatus n8_ownOMP_vormSub_mat_32f_P(MAM_PARAMS_P(float))
+{
+    return team(mamP<Mt>(MAM_ARGS_P), n8_ownvormSub_mat_32f_P);
+}
+VormStatus n8_ownOMP_vormSub_mat_64f_P(MAM_PARAMS_P(double))
+{
+    return team(mamP<Mt>(MAM_ARGS_P), n8_ownvormSub_mat_64f_P);
+}
+}

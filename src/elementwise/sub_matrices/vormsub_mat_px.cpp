@@ -1,0 +1,52 @@
+// vormSub_mat: public layers, and the kernels for elements anywhere.
+
+#include "elementwise/matrix_calls.hpp"
+#include "elementwise/shapes/mam.hpp"
+
+using namespace vorm;
+using namespace vorm::elementwise;
+
+extern "C" {
+
+VormStatus n8_vormSub_mat_32f(MAM_PARAMS(float))
+{
+    return checked<from(3000), from(2000)>(mam<Mt>(MAM_ARGS), n8_ownOMP_vormSub_mat_32f, n8_ownvormSub_mat_32f,
+                                           n8_ownvormSub_mat_32f_S2, MAM_ARGS);
+}
+VormStatus n8_vormSub_mat_64f(MAM_PARAMS(double))
+{
+    return checked<from(2000)>(mam<Mt>(MAM_ARGS), n8_ownOMP_vormSub_mat_64f, n8_ownvormSub_mat_64f,
+                               n8_ownvormSub_mat_64f_S2, MAM_ARGS);
+}
+// Unlike all other array members it has no driver.
+VormStatus n8_vormSub_mat_32f_L(MAM_PARAMS_L(float))
+{
+    return checked(mamL<Mt>(MAM_ARGS_L), n8_ownvormSub_mat_32f_L, n8_ownvormSub_mat_32f_LS2, MAM_ARGS_L);
+}
+VormStatus n8_vormSub_mat_64f_L(MAM_PARAMS_L(double))
+{
+    return checked<from(2000)>(mamL<Mt>(MAM_ARGS_L), n8_ownOMP_vormSub_mat_64f_L, n8_ownvormSub_mat_64f_L,
+                               n8_ownvormSub_mat_64f_LS2, MAM_ARGS_L);
+}
+VormStatus n8_vormSub_mat_32f_P(MAM_PARAMS_P(float))
+{
+    return checked<from(2000)>(mamP<Mt>(MAM_ARGS_P), n8_ownOMP_vormSub_mat_32f_P, n8_ownvormSub_mat_32f_P, MAM_ARGS_P);
+}
+VormStatus n8_vormSub_mat_64f_P(MAM_PARAMS_P(double))
+{
+    return checked<from(2000)>(mamP<Mt>(MAM_ARGS_P), n8_ownOMP_vormSub_mat_64f_P, n8_ownvormSub_mat_64f_P, MAM_ARGS_P);
+}
+
+VormStatus n8_ownvormSub_mat_32f_S2(MAM_PARAMS(float)) { return anyStrideKernel<Sub>(mam<Mt>(MAM_ARGS)); }
+VormStatus n8_ownvormSub_mat_64f_S2(MAM_PARAMS(double)) { return anyStrideKernel<Sub>(mam<Mt>(MAM_ARGS)); }
+VormStatus n8_ownvormSub_mat_32f_LS2(MAM_PARAMS_L(float))
+{
+    return eachSingle(mamL<Mt>(MAM_ARGS_L), n8_ownvormSub_mt_32f_S2);
+}
+VormStatus n8_ownvormSub_mat_64f_LS2(MAM_PARAMS_L(double))
+{
+    return eachSingle(mamL<Mt>(MAM_ARGS_L), n8_ownvormSub_mt_64f_S2);
+}
+VormStatus n8_ownvormSub_mat_32f_P(MAM_PARAMS_P(float)) { return pointerKernel<Sub>(mamP<Mt>(MAM_ARGS_P)); }
+VormStatus n8_ownvormSub_mat_64f_P(MAM_PARAMS_P(double)) { return pointerKernel<Sub>(mamP<Mt>(MAM_ARGS_P)); }
+}

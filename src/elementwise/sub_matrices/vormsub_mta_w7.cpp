@@ -1,0 +1,13 @@
+// vormSub_mta: the kernels for contiguous elements, double precision.
+
+#include "elementwise/matrix_calls.hpp"
+#include "elementwise/shapes/mma.hpp"
+
+using namespace vorm;
+using namespace vorm::elementwise;
+
+extern "C" {
+
+VormStatus n8_ownvormSub_mta_64f(MMA_PARAMS(double)) { return contiguousKernel<Sub>(mma<Mt>(MMA_ARGS)); }
+VormStatus n8_ownvormSub_mta_64f_L(MMA_PARAMS_L(double)) { return contiguousKernel<Sub>(mmaL<Mt>(MMA_ARGS_L)); }
+}

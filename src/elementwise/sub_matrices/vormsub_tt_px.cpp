@@ -1,0 +1,32 @@
+// vormSub_tt: public layers, and the kernels for elements anywhere.
+
+#include "elementwise/matrix_calls.hpp"
+#include "elementwise/shapes/mm.hpp"
+
+using namespace vorm;
+using namespace vorm::elementwise;
+
+extern "C" {
+
+VormStatus n8_vormSub_tt_32f(MM_PARAMS(float))
+{
+    return checked(mm<Tt>(MM_ARGS), n8_ownvormSub_tt_32f, n8_ownvormSub_tt_32f_S2, MM_ARGS);
+}
+VormStatus n8_vormSub_tt_64f(MM_PARAMS(double))
+{
+    return checked(mm<Tt>(MM_ARGS), n8_ownvormSub_tt_64f, n8_ownvormSub_tt_64f_S2, MM_ARGS);
+}
+VormStatus n8_vormSub_tt_32f_P(MM_PARAMS_P(float))
+{
+    return checked(mmP<Tt>(MM_ARGS_P), n8_ownvormSub_tt_32f_P, MM_ARGS_P);
+}
+VormStatus n8_vormSub_tt_64f_P(MM_PARAMS_P(double))
+{
+    return checked(mmP<Tt>(MM_ARGS_P), n8_ownvormSub_tt_64f_P, MM_ARGS_P);
+}
+
+VormStatus n8_ownvormSub_tt_32f_S2(MM_PARAMS(float)) { return anyStrideKernel<Sub>(mm<Tt>(MM_ARGS)); }
+VormStatus n8_ownvormSub_tt_64f_S2(MM_PARAMS(double)) { return anyStrideKernel<Sub>(mm<Tt>(MM_ARGS)); }
+VormStatus n8_ownvormSub_tt_32f_P(MM_PARAMS_P(float)) { return pointerKernel<Sub>(mmP<Tt>(MM_ARGS_P)); }
+VormStatus n8_ownvormSub_tt_64f_P(MM_PARAMS_P(double)) { return pointerKernel<Sub>(mmP<Tt>(MM_ARGS_P)); }
+}

@@ -1,0 +1,14 @@
+// vormMul_mac: the kernels for contiguous elements, single precision.
+
+#include "elementwise/matrix_calls.hpp"
+#include "products/shapes/mac.hpp"
+
+using namespace vorm;
+using namespace vorm::products;
+using elementwise::anyStrideKernel, elementwise::contiguousKernel, elementwise::pointerKernel;
+
+extern "C" {
+
+VormStatus n8_ownvormMul_mac_32f(MAC_PARAMS(float)) { return contiguousKernel<Mul>(mac<AsStored>(MAC_ARGS)); }
+VormStatus n8_ownvormMul_mac_32f_L(MAC_PARAMS_L(float)) { return contiguousKernel<Mul>(macL<AsStored>(MAC_ARGS_L)); }
+}

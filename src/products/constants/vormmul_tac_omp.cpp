@@ -1,0 +1,35 @@
+// vormMul_tac: team-parallel drivers.
+
+#include "frame/driver.hpp"
+#include "products/shapes/mac.hpp"
+
+using namespace vorm;
+using namespace vorm::products;
+
+extern "C" {
+
+VormStatus n8_ownOMP_vormMul_tac_32f(MAC_PARAMS(float))
+{
+    return team(mac<AsTransposed>(MAC_ARGS), n8_ownvormMul_tac_32f, n8_ownvormMul_tac_32f_S2);
+}
+VormStatus n8_ownOMP_vormMul_tac_64f(MAC_PARAMS(double))
+{
+    return team(mac<AsTransposed>(MAC_ARGS), n8_ownvormMul_tac_64f, n8_ownvormMul_tac_64f_S2);
+}
+VormStatus n8_ownOMP_vormMul_tac_32f_L(MAC_PARAMS_L(float))
+{
+    return team(macL<AsTransposed>(MAC_ARGS_L), n8_ownvormMul_tac_32f_L, n8_ownvormMul_tac_32f_LS2);
+}
+VormStatus n8_ownOMP_vormMul_tac_64f_L(MAC_PARAMS_L(double))
+{
+    return team(macL<AsTransposed>(MAC_ARGS_L), n8_ownvormMul_tac_64f_L, n8_ownvormMul_tac_64f_LS2);
+}
+VormStatus n8_ownOMP_vormMul_tac_32f_P(MAC_PARAMS_P(float))
+{
+    return team(macP<AsTransposed>(MAC_ARGS_P), n8_ownvormMul_tac_32f_P);
+}
+VormStatus n8_ownOMP_vormMul_tac_64f_P(MAC_PARAMS_P(double))
+{
+    return team(macP<AsTransposed>(MAC_ARGS_P), n8_ownvormMul_tac_64f_P);
+}
+}
