@@ -113,7 +113,7 @@ void compareWithEigen(const EigenResult& eigen, const Result& result)
     for (const double error : errorsOf(result.estimates.back(), eigen.estimates))
         largest = std::isnan(error) ? INFINITY : std::max(largest, std::abs(error));
     const double epsilons = largest / static_cast<double>(std::numeric_limits<T>::epsilon());
-    std::printf("  %s  Eigen %.1f, with estimates %.1f epsilons away\n", typeName<T>(), 1000 / eigen.nanoseconds,
+    std::printf("  %s  Eigen %.3g, with estimates %.1f epsilons away\n", typeName<T>(), 1000 / eigen.nanoseconds,
                 epsilons);
     if (!(epsilons < 64)) throw std::runtime_error("Eigen comes to other estimates");
 }
@@ -141,7 +141,7 @@ void run(const std::string& input, const std::string& output)
 #endif
     std::printf("Million filters a second on one thread:\n");
     for (const auto& [type, it] : {std::pair("32f", &single), std::pair("64f", &result)})
-        std::printf("  %s  packed %.1f, structure of arrays %.1f\n", type, 1000 / it->packedTime,
+        std::printf("  %s  packed %.3g, structure of arrays %.3g\n", type, 1000 / it->packedTime,
                     1000 / it->arraysTime);
 #ifdef KALMAN_BANK_EIGEN
     compareWithEigen<float>(eigenSingle, single);
