@@ -94,12 +94,12 @@ struct Packed {
 
     // The one for this layout and type, of the members of a shape.
     template <class F32, class F64, class P32, class P64>
-    static constexpr auto member(const char* name, F32* f32, F64* f64, P32*, P64*)
+    static constexpr auto member(const char* function, F32* f32, F64* f64, P32*, P64*)
     {
         if constexpr (std::is_same_v<T, float>)
-            return Member<F32>{name, f32};
+            return Member<F32>{function, f32};
         else
-            return Member<F64>{name, f64};
+            return Member<F64>{function, f64};
     }
 };
 
@@ -172,12 +172,12 @@ struct StructureOfArrays {
     };
 
     template <class F32, class F64, class P32, class P64>
-    static constexpr auto member(const char* name, F32*, F64*, P32* p32, P64* p64)
+    static constexpr auto member(const char* function, F32*, F64*, P32* p32, P64* p64)
     {
         if constexpr (std::is_same_v<T, float>)
-            return Member<P32>{name, p32};
+            return Member<P32>{function, p32};
         else
-            return Member<P64>{name, p64};
+            return Member<P64>{function, p64};
     }
 };
 
