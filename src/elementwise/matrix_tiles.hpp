@@ -4,6 +4,7 @@
 
 #include "elementwise/runs.hpp"
 #include "frame/elements.hpp"
+#include "frame/pin.hpp"
 #include "frame/shuffles.hpp"
 #include "frame/unrolled.hpp"
 
@@ -200,7 +201,12 @@ template <class InRows, class Odd, Turned turned, class Op, class A, class B, cl
 VORM_INLINE void oneTile(const Op& op, const A& a, const B& b, const RowsOfObject<T>& dst, int r, int c)
 {
     const auto straight = [&](const auto& source) VORM_INLINE_LAMBDA { return InRows::load(source, r, c); };
-    const auto odd = [&](const auto& source) VORM_INLINE_LAMBDA { return Odd::load(source, c, r).turned(); };
+    const auto odd = [&](const auto& source) VORM_INLINE_LAMBDA {
+        Odd tile = Odd::load(source, c, r);
+        if constexpr (sizeof(T) == sizeof(double))  // or g++ loads halves again from memory instead of shuffling
+            for (Lanes<T>& part : tile.v) pin(part);
+        return tile.turned();
+    };
     InRows x, y;
     if constexpr (turned == Turned::first)
         x = odd(a);

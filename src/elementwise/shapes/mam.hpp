@@ -35,7 +35,7 @@ constexpr Work mamWork(int width, int height, int count, int picoseconds)
 template <class Kind, class T>
 VORM_INLINE auto mam(MAM_PARAMS(T))
 {
-    return arrayCallOf<T>(mamWork(width, height, count, byType<T>(200, 420)), count,
+    return arrayCallOf<T>(mamWork(width, height, count, byType<T>(200, 460)), count,
                           Kind::First::used(MatrixArray{pSrc1, src1Stride0, src1Stride1, src1Stride2}),
                           Kind::Second::used(Matrix{pSrc2, src2Stride1, src2Stride2}),
                           MatrixArray{pDst, dstStride0, dstStride1, dstStride2}, Size{width}, Size{height});
@@ -43,7 +43,7 @@ VORM_INLINE auto mam(MAM_PARAMS(T))
 template <class Kind, class T>
 VORM_INLINE auto mamL(MAM_PARAMS_L(T))
 {
-    return arrayCallOf<T>(mamWork(width, height, count, byType<T>(230, 460)), count,
+    return arrayCallOf<T>(mamWork(width, height, count, byType<T>(210, 520)), count,
                           Kind::First::used(MatrixList{ppSrc1, src1Shift, src1Stride1, src1Stride2}),
                           Kind::Second::used(Matrix{pSrc2, src2Stride1, src2Stride2}),
                           MatrixList{ppDst, dstShift, dstStride1, dstStride2}, Size{width}, Size{height});
@@ -52,7 +52,7 @@ template <class Kind, class T>
 VORM_INLINE auto mamP(MAM_PARAMS_P(T))
 {
     return arrayCallOf<T>(
-        mamWork(width, height, count, byType<T>(135, 400)), count,
+        mamWork(width, height, count, byType<T>(200, 460)), count,
         Kind::First::used(MatrixArrayPointers{ppSrc1, src1Shift, src1Stride0, Kind::First::columns(width, height)}),
         Kind::Second::used(MatrixPointers{ppSrc2, src2Shift, Kind::Second::columns(width, height)}),
         MatrixArrayPointers{ppDst, dstShift, dstStride0, width}, Size{width}, Size{height});

@@ -37,7 +37,7 @@ constexpr Work mamaWork(int width, int height, int count, int picoseconds)
 template <class Kind, class T>
 VORM_INLINE auto mama(MAMA_PARAMS(T))
 {
-    return arrayCallOf<T>(mamaWork(width, height, count, byType<T>(300, 660)), count,
+    return arrayCallOf<T>(mamaWork(width, height, count, byType<T>(340, 750)), count,
                           Kind::First::used(MatrixArray{pSrc1, src1Stride0, src1Stride1, src1Stride2}),
                           Kind::Second::used(MatrixArray{pSrc2, src2Stride0, src2Stride1, src2Stride2}),
                           MatrixArray{pDst, dstStride0, dstStride1, dstStride2}, Size{width}, Size{height});
@@ -45,7 +45,7 @@ VORM_INLINE auto mama(MAMA_PARAMS(T))
 template <class Kind, class T>
 VORM_INLINE auto mamaL(MAMA_PARAMS_L(T))
 {
-    return arrayCallOf<T>(mamaWork(width, height, count, byType<T>(330, 660)), count,
+    return arrayCallOf<T>(mamaWork(width, height, count, byType<T>(340, 700)), count,
                           Kind::First::used(MatrixList{ppSrc1, src1Shift, src1Stride1, src1Stride2}),
                           Kind::Second::used(MatrixList{ppSrc2, src2Shift, src2Stride1, src2Stride2}),
                           MatrixList{ppDst, dstShift, dstStride1, dstStride2}, Size{width}, Size{height});
@@ -54,7 +54,7 @@ template <class Kind, class T>
 VORM_INLINE auto mamaP(MAMA_PARAMS_P(T))
 {
     return arrayCallOf<T>(
-        mamaWork(width, height, count, byType<T>(270, 570)), count,
+        mamaWork(width, height, count, byType<T>(340, 730)), count,
         Kind::First::used(MatrixArrayPointers{ppSrc1, src1Shift, src1Stride0, Kind::First::columns(width, height)}),
         Kind::Second::used(MatrixArrayPointers{ppSrc2, src2Shift, src2Stride0, Kind::Second::columns(width, height)}),
         MatrixArrayPointers{ppDst, dstShift, dstStride0, width}, Size{width}, Size{height});

@@ -35,7 +35,7 @@ constexpr Work mmaWork(int width, int height, int count, int picoseconds)
 template <class Kind, class T>
 VORM_INLINE auto mma(MMA_PARAMS(T))
 {
-    return arrayCallOf<T>(mmaWork(width, height, count, byType<T>(200, 420)), count,
+    return arrayCallOf<T>(mmaWork(width, height, count, byType<T>(200, 460)), count,
                           Kind::First::used(Matrix{pSrc1, src1Stride1, src1Stride2}),
                           Kind::Second::used(MatrixArray{pSrc2, src2Stride0, src2Stride1, src2Stride2}),
                           MatrixArray{pDst, dstStride0, dstStride1, dstStride2}, Size{width}, Size{height});
@@ -43,7 +43,7 @@ VORM_INLINE auto mma(MMA_PARAMS(T))
 template <class Kind, class T>
 VORM_INLINE auto mmaL(MMA_PARAMS_L(T))
 {
-    return arrayCallOf<T>(mmaWork(width, height, count, byType<T>(230, 460)), count,
+    return arrayCallOf<T>(mmaWork(width, height, count, byType<T>(210, 520)), count,
                           Kind::First::used(Matrix{pSrc1, src1Stride1, src1Stride2}),
                           Kind::Second::used(MatrixList{ppSrc2, src2Shift, src2Stride1, src2Stride2}),
                           MatrixList{ppDst, dstShift, dstStride1, dstStride2}, Size{width}, Size{height});
@@ -52,7 +52,7 @@ template <class Kind, class T>
 VORM_INLINE auto mmaP(MMA_PARAMS_P(T))
 {
     return arrayCallOf<T>(
-        mmaWork(width, height, count, byType<T>(135, 400)), count,
+        mmaWork(width, height, count, byType<T>(200, 460)), count,
         Kind::First::used(MatrixPointers{ppSrc1, src1Shift, Kind::First::columns(width, height)}),
         Kind::Second::used(MatrixArrayPointers{ppSrc2, src2Shift, src2Stride0, Kind::Second::columns(width, height)}),
         MatrixArrayPointers{ppDst, dstShift, dstStride0, width}, Size{width}, Size{height});

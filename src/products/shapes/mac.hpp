@@ -30,21 +30,21 @@ constexpr Work macWork(int width, int height, int count, int picoseconds)
 template <class As, class T>
 VORM_INLINE auto mac(MAC_PARAMS(T))
 {
-    return arrayCallOf<T>(macWork(width, height, count, byType<T>(130, 420)), count,
+    return arrayCallOf<T>(macWork(width, height, count, byType<T>(190, 450)), count,
                           As::used(MatrixArray{pSrc, srcStride0, srcStride1, srcStride2}), Constant{val},
                           MatrixArray{pDst, dstStride0, dstStride1, dstStride2}, Size{width}, Size{height});
 }
 template <class As, class T>
 VORM_INLINE auto macL(MAC_PARAMS_L(T))
 {
-    return arrayCallOf<T>(macWork(width, height, count, byType<T>(200, 440)), count,
+    return arrayCallOf<T>(macWork(width, height, count, byType<T>(210, 500)), count,
                           As::used(MatrixList{ppSrc, srcShift, srcStride1, srcStride2}), Constant{val},
                           MatrixList{ppDst, dstShift, dstStride1, dstStride2}, Size{width}, Size{height});
 }
 template <class As, class T>
 VORM_INLINE auto macP(MAC_PARAMS_P(T))
 {
-    return arrayCallOf<T>(macWork(width, height, count, byType<T>(130, 400)), count,
+    return arrayCallOf<T>(macWork(width, height, count, byType<T>(190, 450)), count,
                           As::used(MatrixArrayPointers{ppSrc, srcShift, srcStride0, As::columns(width, height)}),
                           Constant{val}, MatrixArrayPointers{ppDst, dstShift, dstStride0, width}, Size{width},
                           Size{height});
