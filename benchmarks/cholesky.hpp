@@ -58,17 +58,27 @@ template <int n, class T>
     }
 }
 
-// Eigen's code takes long to compile: it is the same for all layouts.
-template <int n, class T, int kept>
-[[gnu::noinline]] void eigenDecomposition(const Array<T>& a, const Array<T>& l, int count, Layout layout)
+// Eigen's code takes long to compile: it stands once for each order, the same for all layouts.
+template <int n, class T, int kept = Eigen::ColMajor>
+using Decomposition = Eigen::LLT<Eigen::Matrix<T, n, n, kept>>;
+template <int n, int kept, class T>
+Decomposition<n, T, kept> eigenDecomposition(const T* a)
 {
-    using Matrix = Eigen::Matrix<T, n, n, kept>;
+    return Decomposition<n, T, kept>(Eigen::Map<const Eigen::Matrix<T, n, n, kept>>(a));
+}
+template <int n, int kept, class T>
+[[gnu::noinline]] void eigenDecompositions(const Array<T>& a, const Array<T>& l, int count, Layout layout)
+{
     for (int object = 0; object < count; ++object)
-        Eigen::Map<Matrix>(l.at(object, layout)) =
-            Eigen::LLT<Matrix>(Eigen::Map<const Matrix>(a.at(object, layout))).matrixLLT();
+        Eigen::Map<Eigen::Matrix<T, n, n, kept>>(l.at(object, layout)) =
+            eigenDecomposition<n, kept>(a.at(object, layout)).matrixLLT();
 }
 template <int n, class T>
-using Decomposition = Eigen::LLT<Eigen::Matrix<T, n, n>>;
+[[gnu::noinline]] void eigenDecompositions(const T* packed, int count, std::vector<Decomposition<n, T>>& to)
+{
+    for (int object = 0; object < count; ++object)
+        to.push_back(eigenDecomposition<n, Eigen::ColMajor>(packed + object * n * n));
+}
 template <int n, class T>
 [[gnu::noinline]] void eigenSolution(const Decomposition<n, T>* llt, int step, const Array<T>& b, const Array<T>& x,
                                      int count, Layout layout)
@@ -116,8 +126,8 @@ Task decomposition(auto members, int count)
             [=, all = arguments(aPacked, lPacked, packed)] { std::apply(members.standard, all); });
         return task;
     }
-    add("Eigen", [=] { eigenDecomposition<n, T, Eigen::ColMajor>(a, l, count, layout); });
-    add("Eigen by rows", [=] { eigenDecomposition<n, T, Eigen::RowMajor>(a, l, count, layout); });
+    add("Eigen", [=] { eigenDecompositions<n, Eigen::ColMajor>(a, l, count, layout); });
+    add("Eigen by rows", [=] { eigenDecompositions<n, Eigen::RowMajor>(a, l, count, layout); });
     add("LAPACK", [=] {
         for (int object = 0; object < count; ++object) {
             std::copy_n(a.at(object, layout), n * n, l.at(object, layout));
@@ -140,10 +150,10 @@ Task solution(auto members, int count)
     const Array<T> packedA(n, n, matrices, Layout::packed, 1), l(n, n, matrices, Layout::packed, 1);
     makeDefinite<n>(packedA, matrices, Layout::packed);
     auto decompositions = std::make_shared<std::vector<Decomposition<n, T>>>();
+    eigenDecompositions<n>(packedA.data, matrices, *decompositions);
     for (int object = 0; object < matrices; ++object) {
         const T* const matrix = packedA.data + object * n * n;
         plainDecomposition<n>(matrix, l.data + object * n * n);
-        decompositions->emplace_back(Eigen::Map<const Eigen::Matrix<T, n, n>>(matrix));
         for (int k = 0; k < n * n; ++k)
             (layout == Layout::planes ? a.table[k][object] : a.at(object, layout)[k]) = l.data[object * n * n + k];
     }

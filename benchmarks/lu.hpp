@@ -128,19 +128,31 @@ template <int n, class T>
     }
 }
 
-// Eigen's code takes long to compile: it is the same for all layouts.
+// Eigen's code takes long to compile: it stands once for each order, the same for all layouts.
 template <int n, class T, int kept>
-[[gnu::noinline]] void eigenDecomposition(const Array<T>& a, const Array<T>& lu, int* rows, int count, Layout layout)
+using Factors = Eigen::PartialPivLU<Eigen::Matrix<T, n, n, kept>>;
+template <int n, class T>
+using Decomposition = Factors<n, T, Eigen::RowMajor>;
+template <int n, int kept, class T>
+Factors<n, T, kept> eigenDecomposition(const T* a)
 {
-    using Matrix = Eigen::Matrix<T, n, n, kept>;
+    return Factors<n, T, kept>(Eigen::Map<const Eigen::Matrix<T, n, n, kept>>(a));
+}
+template <int n, int kept, class T>
+[[gnu::noinline]] void eigenDecompositions(const Array<T>& a, const Array<T>& lu, int* rows, int count, Layout layout)
+{
     for (int object = 0; object < count; ++object) {
-        const Eigen::PartialPivLU<Matrix> result(Eigen::Map<const Matrix>(a.at(object, layout)));
-        Eigen::Map<Matrix>(lu.at(object, layout)) = result.matrixLU();
+        const auto result = eigenDecomposition<n, kept>(a.at(object, layout));
+        Eigen::Map<Eigen::Matrix<T, n, n, kept>>(lu.at(object, layout)) = result.matrixLU();
         Eigen::Map<Eigen::Vector<int, n>>(rows + object * n) = result.permutationP().indices();
     }
 }
 template <int n, class T>
-using Decomposition = Eigen::PartialPivLU<Eigen::Matrix<T, n, n, Eigen::RowMajor>>;
+[[gnu::noinline]] void eigenDecompositions(const T* packed, int count, std::vector<Decomposition<n, T>>& to)
+{
+    for (int object = 0; object < count; ++object)
+        to.push_back(eigenDecomposition<n, Eigen::RowMajor>(packed + object * n * n));
+}
 template <int n, class T>
 [[gnu::noinline]] void eigenSolution(const Decomposition<n, T>* lu, int step, const Array<T>& b, const Array<T>& x,
                                      int count, Layout layout)
@@ -185,8 +197,8 @@ Task decomposition(auto members, int count)
             [=, all = arguments(aPacked, luPacked, packed)] { std::apply(members.standard, all); });
         return task;
     }
-    add("Eigen", [=] { eigenDecomposition<n, T, Eigen::ColMajor>(a, lu, rows, count, layout); });
-    add("Eigen by rows", [=] { eigenDecomposition<n, T, Eigen::RowMajor>(a, lu, rows, count, layout); });
+    add("Eigen", [=] { eigenDecompositions<n, Eigen::ColMajor>(a, lu, rows, count, layout); });
+    add("Eigen by rows", [=] { eigenDecompositions<n, Eigen::RowMajor>(a, lu, rows, count, layout); });
     add("LAPACK", [=] {
         for (int object = 0; object < count; ++object) {
             std::copy_n(a.at(object, layout), n * n, lu.at(object, layout));
@@ -209,10 +221,9 @@ Task solution(auto members, int count)
     const Array<T> lu(n, n, matrices, Layout::packed, 1);
     int* const rows = Memory::region<int>(std::ptrdiff_t{matrices} * n);
     auto decompositions = std::make_shared<std::vector<Decomposition<n, T>>>();
+    eigenDecompositions<n>(a.data, matrices, *decompositions);
     for (int object = 0; object < matrices; ++object) {
         plainDecomposition<n>(a.data + object * n * n, lu.data + object * n * n, rows + object * n);
-        decompositions->emplace_back(
-            Eigen::Map<const Eigen::Matrix<T, n, n, Eigen::RowMajor>>(a.data + object * n * n));
     }
     // Ours keep their rows where the source had them.
     for (int object = 0; object < matrices; ++object)

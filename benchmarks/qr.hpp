@@ -30,26 +30,38 @@ inline void solveByLapack(int m, int n, int many, const double* a, const double*
     LAPACKE_dtrtrs_work(LAPACK_COL_MAJOR, 'U', 'N', 'N', n, many, a, m, b, m);
 }
 
-// Eigen's code takes long to compile: it is the same for all layouts.
-template <int rows, int columns, class T, int kept>
-[[gnu::noinline]] void eigenDecomposition(const Array<T>& a, const Array<T>& qr, T* scales, int count, Layout layout)
+// Eigen's code takes long to compile: it stands once for each shape, the same for all layouts.
+template <int rows, int columns, class T>
+using Decomposition = Eigen::HouseholderQR<Eigen::Matrix<T, rows, columns>>;
+template <int rows, int columns, class T>
+[[gnu::noinline]] Decomposition<rows, columns, T> eigenDecomposition(const T* a)
 {
-    using Matrix = Eigen::Matrix<T, rows, columns, kept>;
+    return Decomposition<rows, columns, T>(Eigen::Map<const Eigen::Matrix<T, rows, columns>>(a));
+}
+template <int rows, int columns, class T>
+[[gnu::noinline]] void eigenDecompositions(const Array<T>& a, const Array<T>& qr, T* scales, int count, Layout layout)
+{
     for (int object = 0; object < count; ++object) {
-        const Eigen::HouseholderQR<Matrix> result(Eigen::Map<const Matrix>(a.at(object, layout)));
-        Eigen::Map<Matrix>(qr.at(object, layout)) = result.matrixQR();
+        const auto result = eigenDecomposition<rows, columns>(a.at(object, layout));
+        Eigen::Map<Eigen::Matrix<T, rows, columns>>(qr.at(object, layout)) = result.matrixQR();
         Eigen::Map<Eigen::Vector<T, columns>>(scales + object * columns) = result.hCoeffs();
     }
 }
 template <int rows, int columns, class T>
-using Decomposition = Eigen::HouseholderQR<Eigen::Matrix<T, rows, columns>>;
-template <int rows, int columns, class T>
-[[gnu::noinline]] void eigenSolution(const Decomposition<rows, columns, T>* qr, int step, const Array<T>& b,
-                                     const Array<T>& x, int count, Layout layout)
+[[gnu::noinline]] void eigenSolutions(const Decomposition<rows, columns, T>* qr, int step, const Array<T>& b,
+                                      const Array<T>& x, int count, Layout layout)
 {
     for (int object = 0; object < count; ++object, qr += step)
         Eigen::Map<Eigen::Vector<T, columns>>(x.at(object, layout)) =
             qr->solve(Eigen::Map<const Eigen::Vector<T, rows>>(b.at(object, layout)));
+}
+// Of many columns at once it does not count whether the sizes are known.
+template <class T>
+using AnyMatrix = Eigen::Matrix<T, Eigen::Dynamic, Eigen::Dynamic>;
+template <class T>
+[[gnu::noinline]] void eigenSolutionAtOnce(const Eigen::HouseholderQR<AnyMatrix<T>>& qr, const T* b, T* x, int count)
+{
+    Eigen::Map<AnyMatrix<T>>(x, qr.cols(), count) = qr.solve(Eigen::Map<const AnyMatrix<T>>(b, qr.rows(), count));
 }
 
 template <int rows, int columns, class T, Layout layout>
@@ -78,8 +90,7 @@ Task decomposition(auto members, int count)
             [=, all = arguments(aPacked, qrPacked, packed)] { std::apply(members.standard, all); });
         return task;
     }
-    add("Eigen", [=] { eigenDecomposition<rows, columns, T, Eigen::ColMajor>(a, qr, scales, count, layout); });
-    add("Eigen by rows", [=] { eigenDecomposition<rows, columns, T, Eigen::RowMajor>(a, qr, scales, count, layout); });
+    add("Eigen", [=] { eigenDecompositions<rows, columns>(a, qr, scales, count, layout); });
     add("LAPACK", [=] {
         for (int object = 0; object < count; ++object) {
             std::copy_n(a.at(object, layout), rows * columns, qr.at(object, layout));
@@ -102,13 +113,15 @@ Task solution(auto members, auto decompose, int count)
     std::apply(decompose.standard,
                std::tuple_cat(lu::matrixArguments(packedA, packed), std::tuple(buffer), lu::matrixArguments(qr, packed),
                               std::tuple(columns, rows, matrices)));
-    auto decompositions = std::make_shared<std::vector<Decomposition<rows, columns, T>>>();
+    const auto theirs = std::make_shared<std::vector<T>>();  // by columns
+    const auto decompositions = std::make_shared<std::vector<Decomposition<rows, columns, T>>>();
     for (int object = 0; object < matrices; ++object) {
-        const T* const factors = qr.data + std::ptrdiff_t{object} * rows * columns;
-        decompositions->emplace_back(Eigen::Map<const Eigen::Matrix<T, rows, columns, Eigen::RowMajor>>(
-            packedA.data + std::ptrdiff_t{object} * rows * columns));
+        const std::ptrdiff_t first = std::ptrdiff_t{object} * rows * columns;
+        for (int c = 0; c < columns; ++c)
+            for (int r = 0; r < rows; ++r) theirs->push_back(packedA.data[first + r * columns + c]);
+        decompositions->push_back(eigenDecomposition<rows, columns>(theirs->data() + first));
         for (int e = 0; e < rows * columns; ++e)
-            (layout == Layout::planes ? a.table[e][object] : a.at(object, layout)[e]) = factors[e];
+            (layout == Layout::planes ? a.table[e][object] : a.at(object, layout)[e]) = qr.data[first + e];
     }
 
     Task task;
@@ -133,17 +146,13 @@ Task solution(auto members, auto decompose, int count)
             [=, all = arguments(qr, bPacked, xPacked, packed)] { std::apply(members.standard, all); });
         return task;
     }
-    add("Eigen", [=] { eigenSolution<rows, columns, T>(decompositions->data(), ownMatrices, b, x, count, layout); });
-    auto theirs = std::make_shared<std::vector<T>>();
-    auto scales = std::make_shared<std::vector<T>>(std::size_t(matrices * columns));
-    auto work = std::make_shared<std::vector<T>>(std::size_t(65536 + rows * count));
-    for (int object = 0; object < matrices; ++object) {
-        for (int c = 0; c < columns; ++c)
-            for (int r = 0; r < rows; ++r)
-                theirs->push_back(packedA.data[(std::ptrdiff_t{object} * rows + r) * columns + c]);
-        geqrf(rows, columns, &(*theirs)[std::size_t(object * rows * columns)],
-              &(*scales)[std::size_t(object * columns)], work->data());
-    }
+    add("Eigen", [=] { eigenSolutions<rows, columns>(decompositions->data(), ownMatrices, b, x, count, layout); });
+    const Eigen::HouseholderQR<AnyMatrix<T>> common(Eigen::Map<const AnyMatrix<T>>(theirs->data(), rows, columns));
+    const auto scales = std::make_shared<std::vector<T>>(std::size_t(matrices * columns));
+    const auto work = std::make_shared<std::vector<T>>(std::size_t(65536 + rows * count));
+    for (int object = 0; object < matrices; ++object)
+        geqrf(rows, columns, theirs->data() + std::ptrdiff_t{object} * rows * columns,
+              scales->data() + object * columns, work->data());
     add("LAPACK", [=] {
         T* const transformed = work->data() + 65536;
         if (!ownMatrices && layout == Layout::packed) {
@@ -162,11 +171,7 @@ Task solution(auto members, auto decompose, int count)
         }
     });
     if constexpr (layout == Layout::packed && !ownMatrices)
-        add("Eigen, all at once", [=] {
-            Eigen::Map<Eigen::Matrix<T, columns, Eigen::Dynamic>>(x.data, columns, count) =
-                decompositions->front().solve(
-                    Eigen::Map<const Eigen::Matrix<T, rows, Eigen::Dynamic>>(b.data, rows, count));
-        });
+        add("Eigen, all at once", [=] { eigenSolutionAtOnce(common, b.data, x.data, count); });
     return task;
 }
 
@@ -209,13 +214,19 @@ void addShapes(Sections& s, auto... members)
     addShape<4, 4, T>(s, members...);
     addShape<5, 5, T>(s, members...);
     addShape<6, 6, T>(s, members...);
+}
+template <class T>
+void addLargerShapes(Sections& s, auto... members)
+{
     addShape<8, 8, T>(s, members...);
     addShape<12, 12, T>(s, members...);
     addShape<10, 4, T>(s, members...);
 }
 
-// Each element type in its own file.
+// Each element type and group of shapes in its own file.
 void addAll32f(Sections& s);
+void addLarger32f(Sections& s);
 void addAll64f(Sections& s);
+void addLarger64f(Sections& s);
 
 }  // namespace bench::qr

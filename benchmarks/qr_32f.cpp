@@ -1,4 +1,4 @@
-// QR decomposition and solving in single precision.
+// QR decomposition and solving of the orders 3 to 6 in single precision.
 
 #include "qr.hpp"
 
@@ -23,7 +23,9 @@ void addQr(Sections& sections)
         section("QR as structure of arrays, resident", resident + ", a pointer table and one plane per element."),
     };
     qr::addAll32f(s);
+    qr::addLarger32f(s);
     qr::addAll64f(s);
+    qr::addLarger64f(s);
 }
 
 }  // namespace bench

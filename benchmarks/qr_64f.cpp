@@ -1,4 +1,4 @@
-// QR decomposition and solving in double precision.
+// QR decomposition and solving of the orders 3 to 6 in double precision.
 
 #include "qr.hpp"
 
