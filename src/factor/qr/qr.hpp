@@ -53,18 +53,6 @@ VORM_HIDDEN bool qrFactorise(Number* a);
 template <class Number>
 VORM_HIDDEN bool qrFactorise(Number* a, int width, int height);
 
-// As many objects of the square orders 3 to 6 as a register holds.
-template <int n, class Number, class Src, class Dst>
-VORM_INLINE VormStatus qrObjects(const Src& src, const Dst& dst, int first)
-{
-    Number a[n * n];
-    loadObjects(src, first, a, constant<n>, constant<n>);
-    constexpr bool here = n <= 4 && (isAdjacent<Src> || isInPlanes<Src>);
-    if (!(here ? qrFactoriseHere(a, constant<n>, constant<n>) : qrFactorise<n>(a))) return StatusDivisionByZero;
-    storeObjects(dst, first, a, constant<n>, constant<n>);
-    return StatusOk;
-}
-
 // One object of the arrays' views; objects of arrays and single ones share the code.
 template <class T, class Src, class Dst>
 VORM_INLINE VormStatus qrSingle(const Src& src, const Dst& dst, int object, int width, int height, T* buffer)
@@ -76,32 +64,38 @@ VORM_INLINE VormStatus qrSingle(const Src& src, const Dst& dst, int object, int 
 }
 
 template <class T, class Src>
-using QrNumber = std::conditional_t<isAdjacent<Src> || isInPlanes<Src>, Wide<T>, Lanes<T>>;
+using QrNumber = std::conditional_t<inWhole<Src>, Wide<T>, Lanes<T>>;
 // From order 5 on so many registers at once, as a step mostly waits for its root and divisions; smaller objects follow
 // each other closely enough.
 template <class T, class Src>
 using QrNumbers = Several<QrNumber<T, Src>, 2>;
 
-// Arrays. Each order in a function of its own, with views of its own: in one for all of them most of what the loops
-// need would lie in memory.
+// Arrays of the orders 3 and 4, each in a function of its own, with views of its own: in one for both most of what the
+// loops need would lie in memory.
 template <int n, class T, class Src, class Dst>
 VORM_SHARED VormStatus qrArray(const Src src, const Dst dst, T* buffer, int count)
 {
-    using Most = std::conditional_t<(n > 4), QrNumbers<T, Src>, QrNumber<T, Src>>;
-    return inBlocks<Most>(dst, n, n, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
-        if constexpr (inLanes<Number>)
-            return qrObjects<n, Number>(src, dst, first);
-        else
+    return inBlocks<QrNumber<T, Src>>(dst, n, n, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
+        if constexpr (inLanes<Number>) {
+            Number a[n * n];
+            loadObjects(src, first, a, constant<n>, constant<n>);
+            if (!qrFactoriseHere(a, constant<n>, constant<n>)) return StatusDivisionByZero;
+            storeObjects(dst, first, a, constant<n>, constant<n>);
+            return StatusOk;
+        } else {
             return qrSingle<T>(src, dst, first, n, n, buffer);
+        }
     });
 }
 
+// Of any shape.
 template <class T, class Src, class Dst>
 VORM_SHARED VormStatus qrArray(const Src src, const Dst dst, T* buffer, int width, int height, int count)
 {
-    const bool fits = fitsBlock(width, height);
-    const auto buffered = [&]<class Number>(int first)
-                              VORM_INLINE_LAMBDA { return fits && registersApart<Number>(dst, first, height, width); };
+    const bool fits = fitsBlock(width, height), isSmallest = width == height && (width == 3 || width == 4);
+    const auto buffered = [&]<class Number>(int first) VORM_INLINE_LAMBDA {
+        return fits && !(registersIn < Number >> 1 && isSmallest) && registersApart<Number>(dst, first, height, width);
+    };
     return inBlocks<QrNumbers<T, Src>>(count, buffered, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
         if constexpr (inLanes<Number>) {
             Number a[blockElements];

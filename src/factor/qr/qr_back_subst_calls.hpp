@@ -16,18 +16,19 @@ VORM_INLINE VormStatus qrSolveArray(const M& matrix, const B& b, const X& dst, T
             qrSolveVectors<n, T>(matrix, b, dst, count);
         else
             qrSolvePairs<n, T>(matrix, b, dst, buffer, count);
+        return VormStatus{StatusOk};
     };
-    switch (width == height ? width : 0) {
-    case 3: small(constant<3>); break;
-    case 4: small(constant<4>); break;
-    case 5: small(constant<5>); break;
-    case 6: small(constant<6>); break;
-    default:
-        if constexpr (M::isCommon)
-            qrSolveVectors<T>(matrix, b, dst, buffer, width, height, count);
-        else
-            qrSolvePairs<T>(matrix, b, dst, buffer, width, height, count);
-    }
+    if constexpr (inWhole<B>) switch (width == height ? width : 0) {
+        case 3: return small(constant<3>);
+        case 4: return small(constant<4>);
+        case 5: return small(constant<5>);
+        case 6: return small(constant<6>);
+        default: break;
+        }
+    if constexpr (M::isCommon)
+        qrSolveVectors<T>(matrix, b, dst, buffer, width, height, count);
+    else
+        qrSolvePairs<T>(matrix, b, dst, buffer, width, height, count);
     return StatusOk;
 }
 

@@ -13,6 +13,22 @@ bool qrFactorise(Number* a)
 template <class Number>
 bool qrFactorise(Number* a, int width, int height)
 {
+    // Of the orders 5 and 6 single registers are but a rest.
+    if (width == height) switch (width) {
+        case 3:
+            if constexpr (registersIn<Number> == 1) return qrFactorise<3>(a);
+            break;
+        case 4:
+            if constexpr (registersIn<Number> == 1) return qrFactorise<4>(a);
+            break;
+        case 5:
+            if constexpr (registersIn < Number >> 1) return qrFactorise<5>(a);
+            break;
+        case 6:
+            if constexpr (registersIn < Number >> 1) return qrFactorise<6>(a);
+            break;
+        default: break;
+        }
     return qrFactoriseHere(a, width, height);
 }
 
@@ -26,6 +42,33 @@ void qrSolve(const Factor* a, const Factor* scales, Number* x)
 {
     qrSolveSmall<n>([&](int i, int j) VORM_INLINE_LAMBDA { return narrowed<Number>(a[i * n + j]); }, x,
                     [&](int k) VORM_INLINE_LAMBDA { return narrowed<Number>(scales[k]); });
+}
+
+// Addresses of their own, which no store to a register in memory can change.
+template <int step, class L>
+void loadRowsApart(const Element<L>* const (&from)[L::width], L* to, int n)
+{
+    const Element<L>* rows[L::width];
+    for (int l = 0; l < L::width; ++l) rows[l] = from[l];
+    loadRows(
+        rows, [&](int c) VORM_INLINE_LAMBDA -> L& { return to[std::ptrdiff_t{c} * step]; }, n);
+}
+template <int step, class L>
+void storeRowsApart(Element<L>* const (&to)[L::width], const L* from, int n)
+{
+    Element<L>* rows[L::width];
+    for (int l = 0; l < L::width; ++l) rows[l] = to[l];
+    storeRows(
+        rows, [&](int c) VORM_INLINE_LAMBDA -> const L& { return from[std::ptrdiff_t{c} * step]; }, n);
+}
+
+template <class L>
+void qrSpread(const Element<L>* from, L* a, L* scales, int width, int height)
+{
+    for (int e = 0; e < width * height; ++e) a[e] = from[e];
+    for (int k = 0; k < width; ++k)
+        scales[k] =
+            scaleOf<Element<L>>([&](int i, int j) VORM_INLINE_LAMBDA { return from[i * width + j]; }, k, height);
 }
 
 namespace {
@@ -52,6 +95,20 @@ VORM_INLINE Number sumOf(const Row& row, const Number* x, int terms)
 template <class Factor, class Number>
 void qrSolve(const Factor* a, const Factor* scales, Number* x, int width, int height)
 {
+    if constexpr (registersIn<Number> == 1)
+        if (isSmallSquare(width, height)) {
+            const auto solve = [&](auto n) VORM_INLINE_LAMBDA {
+                if constexpr (std::is_same_v<Factor, Number>)
+                    if (scales == nullptr) return qrSolve<n>(a, x);
+                qrSolve<n>(a, scales, x);
+            };
+            switch (width) {
+            case 3: return solve(constant<3>);
+            case 4: return solve(constant<4>);
+            case 5: return solve(constant<5>);
+            default: return solve(constant<6>);
+            }
+        }
     const auto factor = [&](int i, int j) VORM_INLINE_LAMBDA -> Number { return narrowed<Number>(a[i * width + j]); };
     const auto element = [&](int i) VORM_INLINE_LAMBDA -> Number& { return x[i]; };
     for (int k = 0; k < reflectors(width, height); ++k)
@@ -66,17 +123,20 @@ void qrSolve(const Factor* a, const Factor* scales, Number* x, int width, int he
     }
 }
 
-#define QR_SMALL_BLOCKS(n, Number)            \
-    template bool qrFactorise<n>(Number * a); \
-    template void qrSolve<n>(const Number* a, Number* x);
-#define QR_BLOCKS(Number)      \
-    QR_SMALL_BLOCKS(3, Number) \
-    QR_SMALL_BLOCKS(4, Number) \
-    QR_SMALL_BLOCKS(5, Number) \
-    QR_SMALL_BLOCKS(6, Number)
-#define QR_ANY_BLOCKS(Number) \
-    QR_BLOCKS(Number)         \
-    template bool qrFactorise(Number* a, int width, int height);
+#define QR_FACTORISE(n, Number) template bool qrFactorise<n>(Number * a);
+#define QR_SOLVE_OWN(Number)                              \
+    template void qrSolve<3>(const Number* a, Number* x); \
+    template void qrSolve<4>(const Number* a, Number* x); \
+    template void qrSolve<5>(const Number* a, Number* x); \
+    template void qrSolve<6>(const Number* a, Number* x);
+#define QR_REGISTER(L)                                      \
+    QR_FACTORISE(3, L)                                      \
+    QR_FACTORISE(4, L)                                      \
+    template bool qrFactorise(L* a, int width, int height); \
+    QR_SOLVE_OWN(L)                                         \
+    template bool qrFactorise<5>(Several<L, 2> * a);        \
+    template bool qrFactorise<6>(Several<L, 2> * a);        \
+    template bool qrFactorise(Several<L, 2>* a, int width, int height);
 #define QR_SOLVE(Factor, Number)                                                \
     template void qrSolve<3>(const Factor* a, const Factor* scales, Number* x); \
     template void qrSolve<4>(const Factor* a, const Factor* scales, Number* x); \
@@ -85,13 +145,24 @@ void qrSolve(const Factor* a, const Factor* scales, Number* x, int width, int he
     QR_SOLVE_ANY(Factor, Number)
 #define QR_SOLVE_ANY(Factor, Number) \
     template void qrSolve(const Factor* a, const Factor* scales, Number* x, int width, int height);
+#define QR_ROWS_APART(step, L)                                                                    \
+    template void loadRowsApart<step, L>(const Element<L>* const(&from)[L::width], L* to, int n); \
+    template void storeRowsApart<step, L>(Element<L>* const(&to)[L::width], const L* from, int n);
+#define QR_ROWS(L)      \
+    QR_ROWS_APART(1, L) \
+    QR_ROWS_APART(2, L) \
+    QR_ROWS_APART(4, L) \
+    template void qrSpread<L>(const Element<L>* from, L* a, L* scales, int width, int height);
 #define QR_SOLVES(T)                                 \
+    QR_ROWS(Lanes<T>)                                \
     QR_SOLVE(Lanes<T>, Lanes<T>)                     \
     QR_SOLVE_ANY(Lanes<T>, QrOneMatrix<Lanes<T>>)    \
     QR_SOLVE_ANY(QrOwnMatrices<T>, QrOwnMatrices<T>) \
     QR_WIDE_SOLVES(T)
 #ifdef VORM_WIDER_REGISTERS
 #define QR_WIDE_SOLVES(T)                       \
+    QR_ROWS(Wide<T>)                            \
+    QR_REGISTER(Wide<T>)                        \
     QR_SOLVE_ANY(Wide<T>, QrOneMatrix<Wide<T>>) \
     QR_SOLVE(Wide<T>, Wide<T>)                  \
     QR_SOLVE(Wide<T>, Lanes<T>)
@@ -99,26 +170,16 @@ void qrSolve(const Factor* a, const Factor* scales, Number* x, int width, int he
 #define QR_WIDE_SOLVES(T)
 #endif
 
-#define QR_FACTORISE(T)         \
-    QR_BLOCKS(T)                \
-    QR_ANY_BLOCKS(Lanes<T>)     \
-    QR_MANY_BLOCKS(Lanes<T>, 2) \
-    QR_WIDE_BLOCKS(T)
-#define QR_MANY_BLOCKS(L, registers)                         \
-    template bool qrFactorise<5>(Several<L, registers> * a); \
-    template bool qrFactorise<6>(Several<L, registers> * a); \
-    template bool qrFactorise(Several<L, registers>* a, int width, int height);
-#ifdef VORM_WIDER_REGISTERS
-#define QR_WIDE_BLOCKS(T)  \
-    QR_ANY_BLOCKS(Wide<T>) \
-    QR_MANY_BLOCKS(Wide<T>, 2)
-#else
-#define QR_WIDE_BLOCKS(T)
-#endif
+#define QR_OF(T)          \
+    QR_FACTORISE(3, T)    \
+    QR_FACTORISE(4, T)    \
+    QR_FACTORISE(5, T)    \
+    QR_FACTORISE(6, T)    \
+    QR_SOLVE_OWN(T)       \
+    QR_REGISTER(Lanes<T>) \
+    QR_SOLVES(T)
 
-QR_FACTORISE(float)
-QR_FACTORISE(double)
-QR_SOLVES(float)
-QR_SOLVES(double)
+QR_OF(float)
+QR_OF(double)
 
 }  // namespace vorm::factor

@@ -10,13 +10,12 @@ namespace vorm::factor {
 template <class T, class Src, class Dst>
 VORM_INLINE VormStatus qrDecompArray(const Src& src, const Dst& dst, T* buffer, int width, int height, int count)
 {
-    switch (width == height ? width : 0) {
-    case 3: return qrArray<3, T>(src, dst, buffer, count);
-    case 4: return qrArray<4, T>(src, dst, buffer, count);
-    case 5: return qrArray<5, T>(src, dst, buffer, count);
-    case 6: return qrArray<6, T>(src, dst, buffer, count);
-    default: return qrArray<T>(src, dst, buffer, width, height, count);
-    }
+    if constexpr (inWhole<Src>) switch (width == height ? width : 0) {
+        case 3: return qrArray<3, T>(src, dst, buffer, count);
+        case 4: return qrArray<4, T>(src, dst, buffer, count);
+        default: break;
+        }
+    return qrArray<T>(src, dst, buffer, width, height, count);
 }
 
 // One matrix.

@@ -40,6 +40,18 @@ template <class T, class View>
             for (int c = 0; c < width; ++c) view(first + l, r, c) = from[(r * width + c) * objects + l];
 }
 
+// Layouts that fill whole registers, from adjacent elements or from objects side by side: of these small orders are
+// written out with their loads and stores. All else shares the code for any shape.
+template <class View>
+constexpr bool inWhole = isAdjacent<View> || isInPlanes<View>;
+constexpr bool isSmallSquare(int width, int height) { return width == height && width >= 3 && width <= 6; }
+
+// n elements from an address for each lane to to[0], to[step], ...; and back. Compiled once, in qr_blocks.cpp.
+template <int step, class L>
+VORM_HIDDEN void loadRowsApart(const Element<L>* const (&from)[L::width], L* to, int n);
+template <int step, class L>
+VORM_HIDDEN void storeRowsApart(Element<L>* const (&to)[L::width], const L* from, int n);
+
 // As many objects as a number holds. Objects without gaps are one long row each.
 template <class Number, class View, class H, class W>
 VORM_INLINE void loadObjects(const View& view, int first, Number* a, H height, W width)
@@ -49,6 +61,13 @@ VORM_INLINE void loadObjects(const View& view, int first, Number* a, H height, W
     if constexpr (inLanes<Number> && (isAdjacent<View> || isInPlanes<View>))
         eachRegister<Number>(height, first, [&](auto k, int object) VORM_INLINE_LAMBDA {
             const auto element = [&](int e) VORM_INLINE_LAMBDA -> auto& { return registerOf(a[e], k); };
+            [[maybe_unused]] const auto loadElements = [&](const auto& from, int e, auto n) VORM_INLINE_LAMBDA {
+                if constexpr (isFixed<decltype(n)>)
+                    loadRows(
+                        from, [&](int c) VORM_INLINE_LAMBDA -> auto& { return element(e + c); }, n);
+                else
+                    loadRowsApart<registersIn<Number>>(from, &element(e), n);
+            };
             if constexpr (isInPlanes<View>) {
                 repeat(height, [&](auto r) VORM_INLINE_LAMBDA {
                     for (int c = 0; c < width; ++c) element(r * width + c) = One::load(view.element(r, c) + object);
@@ -57,14 +76,13 @@ VORM_INLINE void loadObjects(const View& view, int first, Number* a, H height, W
             } else if (view.stride1 == width * int{sizeof(T)}) {
                 const T* from[One::width];
                 objectsAt(view, object, from);
-                loadRows(from, element, elementsOf(height, width));
+                loadElements(from, 0, elementsOf(height, width));
             } else {
                 repeat(height, [&](auto r) VORM_INLINE_LAMBDA {
                     const T* from[One::width];
                     rowsAt(
                         view, object, [&](int) VORM_INLINE_LAMBDA { return int{r}; }, from);
-                    loadRows(
-                        from, [&](int c) VORM_INLINE_LAMBDA -> auto& { return element(r * width + c); }, width);
+                    loadElements(from, r * width, width);
                 });
             }
         });
@@ -78,7 +96,14 @@ VORM_INLINE void storeObjects(const View& view, int first, const Number* a, H he
     using One = RegisterIn<Number>;
     if constexpr (inLanes<Number> && (isAdjacent<View> || isInPlanes<View>))
         eachRegister<Number>(height, first, [&](auto k, int object) VORM_INLINE_LAMBDA {
-            const auto element = [&](int e) VORM_INLINE_LAMBDA { return registerOf(a[e], k); };
+            const auto element = [&](int e) VORM_INLINE_LAMBDA -> const auto& { return registerOf(a[e], k); };
+            [[maybe_unused]] const auto storeElements = [&](const auto& to, int e, auto n) VORM_INLINE_LAMBDA {
+                if constexpr (isFixed<decltype(n)>)
+                    storeRows(
+                        to, [&](int c) VORM_INLINE_LAMBDA { return element(e + c); }, n);
+                else
+                    storeRowsApart<registersIn<Number>>(to, &element(e), n);
+            };
             if constexpr (isInPlanes<View>) {
                 repeat(height, [&](auto r) VORM_INLINE_LAMBDA {
                     for (int c = 0; c < width; ++c) element(r * width + c).store(view.element(r, c) + object);
@@ -87,19 +112,46 @@ VORM_INLINE void storeObjects(const View& view, int first, const Number* a, H he
             } else if (view.stride1 == width * int{sizeof(T)}) {
                 T* to[One::width];
                 objectsAt(view, object, to);
-                storeRows(to, element, elementsOf(height, width));
+                storeElements(to, 0, elementsOf(height, width));
             } else {
                 repeat(height, [&](auto r) VORM_INLINE_LAMBDA {
                     T* to[One::width];
                     rowsAt(
                         view, object, [&](int) VORM_INLINE_LAMBDA { return int{r}; }, to);
-                    storeRows(
-                        to, [&](int c) VORM_INLINE_LAMBDA { return element(r * width + c); }, width);
+                    storeElements(to, r * width, width);
                 });
             }
         });
     else
         scatterObjects(view, first, objectsIn<Number>, height, width, reinterpret_cast<const T*>(a));
+}
+
+// Vectors of a length that the program's run knows.
+template <class Number, class View>
+VORM_INLINE void loadLongVectors(const View& view, int first, Number* x, int n)
+{
+    using One = RegisterIn<Number>;
+    if constexpr (isAdjacent<View>)
+        for (int k = 0; k < registersIn<Number>; ++k) {
+            const Element<Number>* from[One::width];
+            objectsAt(view, first + k * One::width, from);
+            loadRowsApart<registersIn<Number>>(from, &registerOf(x[0], k), n);
+        }
+    else
+        loadVectors(view, first, x, n);
+}
+template <class Number, class View>
+VORM_INLINE void storeLongVectors(const View& view, int first, const Number* x, int n)
+{
+    using One = RegisterIn<Number>;
+    if constexpr (isAdjacent<View>)
+        for (int k = 0; k < registersIn<Number>; ++k) {
+            Element<Number>* to[One::width];
+            objectsAt(view, first + k * One::width, to);
+            storeRowsApart<registersIn<Number>>(to, &registerOf(x[0], k), n);
+        }
+    else
+        storeVectors(view, first, x, n);
 }
 
 // Some adjacent elements of a row as one number, the last ones of a row where they are fewer than a register has.

@@ -66,6 +66,7 @@ template <int n, class Number>
 VORM_HIDDEN void qrSolve(const Number* a, Number* x);
 template <int n, class Factor, class Number>
 VORM_HIDDEN void qrSolve(const Factor* a, const Factor* scales, Number* x);
+// Several registers of the orders 3 to 6 are not among the shapes of this one.
 template <class Factor, class Number>
 VORM_HIDDEN void qrSolve(const Factor* a, const Factor* scales, Number* x, int width, int height);
 
@@ -121,26 +122,25 @@ VORM_INLINE void qrSolveSingle(const M& matrix, const B& b, const X& dst, int ob
 template <int n, class T, class M, class B, class X>
 VORM_SHARED void qrSolvePairs(const M matrix, const B b, const X dst, T* buffer, int count)
 {
-    constexpr bool whole = isAdjacent<M> || isInPlanes<M>;
-    inBlocks<std::conditional_t<whole, Wide<T>, Lanes<T>>>(
-        dst, 1, n, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
-            if constexpr (inLanes<Number>) {
-                Number a[n * n], x[n];
-                loadObjects(matrix, first, a, constant<n>, constant<n>);
-                loadVectors(b, first, x, constant<n>);
-                if constexpr (whole && n <= 4)
-                    qrSolveSmall<n>([&](int i, int j) VORM_INLINE_LAMBDA { return a[i * n + j]; }, x, Unknown{});
-                else
-                    qrSolve<n>(a, x);
-                storeVectors(dst, first, x, constant<n>);
-            } else {
-                qrSolveSingle<T>(matrix, b, dst, first, n, n, buffer);
-            }
-            return StatusOk;
-        });
+    inBlocks<Wide<T>>(dst, 1, n, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
+        if constexpr (inLanes<Number>) {
+            Number a[n * n], x[n];
+            loadObjects(matrix, first, a, constant<n>, constant<n>);
+            loadVectors(b, first, x, constant<n>);
+            if constexpr (n <= 4)
+                qrSolveSmall<n>([&](int i, int j) VORM_INLINE_LAMBDA { return a[i * n + j]; }, x, Unknown{});
+            else
+                qrSolve<n>(a, x);
+            storeVectors(dst, first, x, constant<n>);
+        } else {
+            qrSolveSingle<T>(matrix, b, dst, first, n, n, buffer);
+        }
+        return StatusOk;
+    });
 }
 
-// Other shapes run so many registers of objects at once, as every sum waits for its last unknown.
+// Shapes without a straight-line body run so many registers of objects at once, as every sum waits for its last
+// unknown.
 template <class T>
 using QrOwnMatrices = Several<Wide<T>, 2>;
 template <class L>
@@ -149,16 +149,17 @@ using QrOneMatrix = Several<L, 4>;
 template <class T, class M, class B, class X>
 VORM_SHARED void qrSolvePairs(const M& matrix, const B& b, const X& dst, T* buffer, int width, int height, int count)
 {
-    const bool fits = fitsBlock(width, height);
-    const auto buffered = [&]<class Number>(int first)
-                              VORM_INLINE_LAMBDA { return fits && registersApart<Number>(dst, first, 1, width); };
+    const bool fits = fitsBlock(width, height), isSmall = isSmallSquare(width, height);
+    const auto buffered = [&]<class Number>(int first) VORM_INLINE_LAMBDA {
+        return fits && !(registersIn < Number >> 1 && isSmall) && registersApart<Number>(dst, first, 1, width);
+    };
     inBlocks<QrOwnMatrices<T>>(count, buffered, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
         if constexpr (inLanes<Number>) {
             Number a[blockElements], x[blockElements];
             loadObjects(matrix, first, a, height, width);
-            loadVectors(b, first, x, height);
+            loadLongVectors(b, first, x, height);
             qrSolve(a, static_cast<const Number*>(nullptr), x, width, height);
-            storeVectors(dst, first, x, width);
+            storeLongVectors(dst, first, x, width);
         } else {
             qrSolveSingle<T>(matrix, b, dst, first, width, height, buffer);
         }
@@ -168,21 +169,22 @@ VORM_SHARED void qrSolvePairs(const M& matrix, const B& b, const X& dst, T* buff
 
 // All vectors with one matrix, whose elements and scales are loaded and formed once per call. ------------------------
 
+// a[i] = from[i] in every lane, and the scales of all columns; compiled once, in qr_blocks.cpp.
+template <class L>
+VORM_HIDDEN void qrSpread(const Element<L>* from, L* a, L* scales, int width, int height);
+
 template <int n, class L, class M, class B, class X>
 VORM_SHARED void qrSolveVectorsIn(const M matrix, const B b, const X dst, int count)
 {
     using T = Element<L>;
-    constexpr bool whole = isAdjacent<B> || isInPlanes<B>;
-    L a[n * n], scales[n - 1];
-    for (int i = 0; i < n; ++i)
-        for (int j = 0; j < n; ++j) a[i * n + j] = T(matrix(0, i, j));
-    for (int k = 0; k < n - 1; ++k)
-        scales[k] = scaleOf<T>([&](int i, int j) VORM_INLINE_LAMBDA { return T(matrix(0, i, j)); }, k, n);
+    T loaded[n * n];
+    gatherObjects(matrix, 0, 1, n, n, loaded);
+    L a[n * n], scales[n];
+    qrSpread(loaded, a, scales, n, n);
     // In registers all coefficients would be too many, and the unknowns evicted for them: the compiler is to take
     // these for memory that a store might change.
     const L *const factors = opaque(a), *const betas = opaque(scales);
-    using Widest = std::conditional_t<whole, Several<L, 2>, L>;
-    inBlocks<Widest>(dst, 1, n, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
+    inBlocks<Several<L, 2>>(dst, 1, n, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
         constexpr bool isSingle = !inLanes<Number>;
         using Some = std::conditional_t<isSingle, Lanes<T>, Number>;
         Some x[n];
@@ -203,26 +205,33 @@ VORM_SHARED void qrSolveVectorsIn(const M matrix, const B b, const X dst, int co
     });
 }
 
+// Of any shape; of elements anywhere the orders 3 to 6 too.
 template <class L, class M, class B, class X, class T>
 VORM_SHARED void qrSolveVectorsIn(const M& matrix, const B& b, const X& dst, T* buffer, int width, int height,
                                   int count)
 {
-    const bool fits = fitsBlock(width, height) && count >= narrow<T>;
+    const bool isSmall = isSmallSquare(width, height),
+               fits = isSmall || (fitsBlock(width, height) && count >= narrow<T>);
     L a[blockElements], scales[blockElements];
     if (fits) {
-        for (int i = 0; i < height; ++i)
-            for (int j = 0; j < width; ++j) a[i * width + j] = T(matrix(0, i, j));
-        for (int k = 0; k < width; ++k)
-            scales[k] = scaleOf<T>([&](int i, int j) VORM_INLINE_LAMBDA { return T(matrix(0, i, j)); }, k, height);
+        T loaded[blockElements];
+        gatherObjects(matrix, 0, 1, height, width, loaded);
+        qrSpread(loaded, a, scales, width, height);
     }
-    const auto buffered = [&]<class Number>(int first)
-                              VORM_INLINE_LAMBDA { return fits && registersApart<Number>(dst, first, 1, width); };
+    const auto buffered = [&]<class Number>(int first) VORM_INLINE_LAMBDA {
+        return fits && !(registersIn < Number >> 1 && isSmall) && registersApart<Number>(dst, first, 1, width);
+    };
     inBlocks<QrOneMatrix<L>>(count, buffered, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
         if constexpr (inLanes<Number>) {
             Number x[blockElements];
-            loadVectors(b, first, x, height);
-            qrSolve(static_cast<const L*>(a), static_cast<const L*>(scales), x, width, height);
-            storeVectors(dst, first, x, width);
+            loadLongVectors(b, first, x, height);
+            qrSolve(a, scales, x, width, height);
+            storeLongVectors(dst, first, x, width);
+        } else if (isSmall) {
+            Lanes<T> x[6];
+            for (int i = 0; i < height; ++i) x[i] = T(b(first, i));
+            qrSolve(a, scales, x, width, height);
+            for (int i = 0; i < width; ++i) dst(first, i) = firstLane(x[i]);
         } else {
             qrSolveSingle<T>(matrix, b, dst, first, width, height, buffer);
         }
@@ -236,7 +245,7 @@ constexpr int manyQrVectors = 4 * Wide<T>::width;
 template <int n, class T, class M, class B, class X>
 VORM_INLINE void qrSolveVectors(const M& matrix, const B& b, const X& dst, int count)
 {
-    if constexpr (Wide<T>::parts > 1 && (isAdjacent<B> || isInPlanes<B>))
+    if constexpr (Wide<T>::parts > 1)
         if (count >= manyQrVectors<T>) return qrSolveVectorsIn<n, Wide<T>>(matrix, b, dst, count);
     qrSolveVectorsIn<n, Lanes<T>>(matrix, b, dst, count);
 }
