@@ -186,10 +186,11 @@ void addShape(Sections& s, auto decompose, auto solveVectors, auto solvePairs)
     constexpr double wantedOfPlanes = !isSmall ? 1 : isFloat ? 1.3 : 1.1;
     constexpr bool isAimed = rows == 3 || rows == 4 || rows == 6 || columns == 4;
     const int streaming = static_cast<int>(streamingBytes() / (rows * columns * sizeof(T)) / 16 * 16);
-    const std::string size = " " + std::to_string(rows) + "x" + std::to_string(columns);
+    const std::string size = std::to_string(rows) + "x" + std::to_string(columns);
     const auto addMember = [&](auto members, double wanted, auto taskOf) {
         const auto add = [&](Section& section, int count, double atLeast, auto as) {
-            section.rows.push_back({members.name + size, count, [=] { return taskOf(as, count); }, atLeast});
+            section.rows.push_back(
+                {std::string(members.name) + " " + size, count, [=] { return taskOf(as, count); }, atLeast});
         };
         add(s.resident, residentObjects, wanted, LayoutOf<Layout::packed>{});
         if constexpr (isSmall) add(s.streaming, streaming, 1, LayoutOf<Layout::packed>{});
