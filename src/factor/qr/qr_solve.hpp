@@ -127,7 +127,7 @@ VORM_SHARED void qrSolvePairs(const M matrix, const B b, const X dst, T* buffer,
             Number a[n * n], x[n];
             loadObjects(matrix, first, a, constant<n>, constant<n>);
             loadVectors(b, first, x, constant<n>);
-            if constexpr (n <= 4)
+            if constexpr (n <= 4 || isInPlanes<M>)
                 qrSolveSmall<n>([&](int i, int j) VORM_INLINE_LAMBDA { return a[i * n + j]; }, x, Unknown{});
             else
                 qrSolve<n>(a, x);
