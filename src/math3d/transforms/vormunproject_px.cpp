@@ -84,7 +84,7 @@ VormStatus n8_vormUnproject_m4v3_32f(const float* pProjection, const float* pVie
     float inverse[16];
     const VormStatus status = inverseOf(pProjection, pView, pWorld, inverse);
     if (status != StatusOk) return status;
-    return onePoint<3, Coord>(Elements<float>(inverse), v, pDst);
+    return oneCoord<3>(inverse, v, pDst);
 }
 
 VormStatus n8_vormUnproject_m4v3a_32f(const float* pProjection, const float* pView, const float* pWorld,
