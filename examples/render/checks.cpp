@@ -87,7 +87,7 @@ double besides(const Hit& hit, const float* pixel, const Camera& camera, const C
     float away[2], distance;
     vormSub_v2_32f(point.data(), pixel, away);
     vormLen_v2_32f(away, &distance);
-    double result = static_cast<double>(distance);
+    double result = larger(0, static_cast<double>(distance));
 
     Point corners[3];
     for (int i = 0; i < 3; ++i) {

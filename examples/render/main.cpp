@@ -75,10 +75,9 @@ std::vector<float> gridOver(const Canvas& canvas)
 
 // The rays through a grid of pixels and the z-buffer find the nearest surface in ways of their own. Where a ray
 // passes an edge within rounding, they may differ.
-void compareWithBuffer(Checks& checks, std::span<const Body> bodies, const Camera& camera, const Canvas& canvas)
+void compareWithBuffer(Checks& checks, const std::vector<float>& grid, const std::vector<Hit>& hits,
+                       std::span<const Body> bodies, const Camera& camera, const Canvas& canvas)
 {
-    const std::vector<float> grid = gridOver(canvas);
-    const std::vector<Hit> hits = picked(bodies, camera, canvas, grid, timed);
     int surfaces = 0, others = 0;
     double outside = 0;
     for (std::size_t n = 0; n < hits.size(); ++n) {
@@ -111,28 +110,42 @@ Picture pictureFrom(const Camera& camera, std::span<const Body> bodies, int pict
     return canvas.picture(camera.towardsViewer());
 }
 
-Camera frameCamera(int frame) { return onPath(path, static_cast<float>(frame) / (frames - 1), aspect); }
+std::vector<Camera> flight()
+{
+    std::vector<Camera> cameras;
+    for (int n = 0; n < frames; ++n) cameras.push_back(onPath(path, static_cast<float>(n) / (frames - 1), aspect));
+    return cameras;
+}
+
+void printFlight(std::span<const Camera> cameras, std::span<const Body> bodies)
+{
+    std::printf("Frame  eye                    vertices in view, of %d and %d\n", bodies[0].vertexCount(),
+                bodies[1].vertexCount());
+    int frame = 0;
+    for (const Camera& camera : cameras)
+        std::printf("%5d %6.3f %6.3f %6.3f   %d and %d\n", ++frame, camera.eye[0], camera.eye[1], camera.eye[2],
+                    inView(camera, bodies[0]), inView(camera, bodies[1]));
+}
 
 void run(const std::string& input, const std::string& output)
 {
     printVersion();
     std::vector<Body> bodies = scene(input);
     const Camera camera = onPath(path, mainPart, aspect);
+    const std::vector<Camera> cameras = flight();
     Canvas canvas(width, height);
     projected(camera, canvas, bodies[0], timed);
     drawBodies(camera, bodies, canvas);
+    const std::vector<float> grid = gridOver(canvas);
+    const std::vector<Hit> hits = picked(bodies, camera, canvas, grid, timed);
+    printFlight(cameras, bodies);
 
     Checks checks;
-    compareWithBuffer(checks, bodies, camera, canvas);
+    compareWithBuffer(checks, grid, hits, bodies, camera, canvas);
     double astray = 0, crooked = 0;
-    for (const Body& body : bodies) crooked = std::max(crooked, askew(body));
-    std::printf("Frame  eye                    vertices in view, of %d and %d\n", bodies[0].vertexCount(),
-                bodies[1].vertexCount());
-    for (int n = 0; n < frames; ++n) {
-        const Camera there = frameCamera(n);
-        for (const Body& body : bodies) astray = std::max(astray, wayBack(there, canvas, body));
-        std::printf("%5d %6.3f %6.3f %6.3f   %d and %d\n", n + 1, there.eye[0], there.eye[1], there.eye[2],
-                    inView(there, bodies[0]), inView(there, bodies[1]));
+    for (const Body& body : bodies) {
+        crooked = std::max(crooked, askew(body));
+        for (const Camera& there : cameras) astray = std::max(astray, wayBack(there, canvas, body));
     }
     checks.atMost("vertices to the viewport and back, by epsilons of depth", astray, 16);
     checks.atMost("normals and edges of the turned meshes, by epsilons", crooked, 64);
@@ -143,8 +156,8 @@ void run(const std::string& input, const std::string& output)
     Picture sheet = blackSheet(width, height + frames / columns * frameHeight);
     paste(pictureFrom(camera, bodies, width, height), sheet, 0, 0);
     for (int n = 0; n < frames; ++n)
-        paste(pictureFrom(frameCamera(n), bodies, frameWidth, frameHeight), sheet, n % columns * frameWidth,
-              height + n / columns * frameHeight);
+        paste(pictureFrom(cameras[static_cast<std::size_t>(n)], bodies, frameWidth, frameHeight), sheet,
+              n % columns * frameWidth, height + n / columns * frameHeight);
     writePng(sheet, output);
     std::printf("%s: %d x %d pixels\n", output.c_str(), sheet.width, sheet.height);
 }

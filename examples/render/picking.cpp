@@ -2,6 +2,8 @@
 // is tested against its triangles.
 #include "render/picking.hpp"
 
+#include <cmath>
+#include <limits>
 #include <optional>
 
 #include "common/surface.hpp"
@@ -33,7 +35,7 @@ std::vector<float> unprojected(const Body& body, const Camera& camera, const Can
 std::optional<Hit> intersection(const float* from, const float* direction, const float* corner, const float* edge1,
                                 const float* edge2)
 {
-    float h[3], s[3], q[3], volume, f, g, along;
+    float h[3], s[3], q[3], volume, f, g, along, length, width;
     vormCrossProduct_v3_32f(direction, edge2, h);
     vormDotProduct_v3_32f(edge1, h, &volume);
     if (volume == 0) return {};
@@ -45,6 +47,10 @@ std::optional<Hit> intersection(const float* from, const float* direction, const
     vormDotProduct_v3_32f(direction, q, &g);
     g /= volume;
     if (!(g >= 0 && f + g <= 1)) return {};
+    // A triangle without area, or seen from its edge: the volume is a few roundings.
+    vormLen_v3_32f(edge1, &length);
+    vormLen_v3_32f(h, &width);
+    if (std::abs(volume) <= 8 * std::numeric_limits<float>::epsilon() * length * width) return {};
     vormDotProduct_v3_32f(edge2, q, &along);
     return Hit{-1, -1, along / volume, f, g};
 }

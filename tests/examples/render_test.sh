@@ -30,6 +30,7 @@ seen triangle 3
     cat "$data/teapot.obj"
     echo 'f 1 1 1'
     echo 'f 1 2 1'
+    echo 'f 3 8 8'
 } > degenerate.obj
 draws degenerate.obj degenerate.png
 cmp -s degenerate.png teapot.png || fail "degenerate: another picture"
