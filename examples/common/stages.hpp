@@ -15,6 +15,9 @@ void expectOk(VormStatus status, const char* function);
 // Prints the version of the library.
 void printVersion();
 
+// The most threads a call may use. Each of them wants a part of the buffer that some functions take.
+int threads();
+
 // How a stage of a program is run, so that one program can time what another one only uses: work may
 // be called more than once and has to give the same each time. threads are the numbers of threads worth
 // trying, 0 is the library's default. The result are nanoseconds per object with the last of them, or 0.
