@@ -3,7 +3,6 @@
 
 #include <vorm/vorm.h>
 
-#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -48,7 +47,6 @@ Doubles distances(const Doubles& a, const Doubles& b, const std::vector<std::siz
         const double epsilons = difference / size / std::numeric_limits<double>::epsilon();
         result.push_back(difference == 0 ? 0 : std::isnan(epsilons) ? INFINITY : epsilons);
     }
-    std::sort(result.begin(), result.end());
     return result;
 }
 

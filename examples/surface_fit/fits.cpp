@@ -81,7 +81,7 @@ void solve(const Factors& factors, const Doubles& sides, Doubles& solutions)
 Fits byLU(const Systems& systems, Factors& factors)
 {
     const int count = static_cast<int>(systems.sides.size()) / order;
-    Fits fits{"LU", Doubles(systems.sides.size()), {}, systems.nanoseconds};
+    Fits fits{"LU", true, Doubles(systems.sides.size()), {}, systems.nanoseconds};
     factors = {Doubles(systems.matrices.size()), std::vector<int>(systems.sides.size())};
     fits.nanoseconds += timed("decomposition      vormLUDecomp_ma_64f 6x6", count, {1, 0}, [&] {
         std::fill(factors.pivots.begin(), factors.pivots.end(), -1);
@@ -106,7 +106,7 @@ Fits byLU(const Systems& systems, Factors& factors)
 Fits byCholesky(const Systems& systems)
 {
     const int count = static_cast<int>(systems.sides.size()) / order;
-    Fits fits{"Cholesky", Doubles(systems.sides.size()), {}, systems.nanoseconds};
+    Fits fits{"Cholesky", true, Doubles(systems.sides.size()), {}, systems.nanoseconds};
     Doubles factors(systems.matrices.size());
     const auto diagonal = [&](std::size_t v, std::size_t k) -> double& {
         return factors[v * elements + k * order + k];
@@ -138,7 +138,7 @@ Fits byCholesky(const Systems& systems)
 Fits byQR(const Designs& designs)
 {
     const int count = designs.count();
-    Fits fits{"QR", Doubles(index(count) * order), {}, 0};
+    Fits fits{"QR", false, Doubles(index(count) * order), {}, 0};
     Doubles factors(designs.x.size()), buffer(rows * index(examples::threads()));
     constexpr std::size_t size = rows * order;
     const auto pivot = [&](std::size_t v, std::size_t k) {

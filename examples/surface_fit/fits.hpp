@@ -8,6 +8,7 @@ namespace surface_fit {
 // What a method makes of all vertices.
 struct Fits {
     const char* name;
+    bool normalEquations;
     Doubles quadrics;    // order elements each
     Doubles pivots;      // the least one over the largest one, 0 where the decomposition failed
     double nanoseconds;  // for a vertex, from the rows on

@@ -34,8 +34,17 @@ curvatureWithin()
                                   END { exit !good }' out || fail "not within $1 to $2: $(grep 'Mean' out)"
 }
 
+# So many decompositions failed: by LU, by Cholesky, by QR. The fits that remain are the same, but for rounding.
+fitsFailed()
+{
+    awk -v expected="$1" '
+        /^  (LU|Cholesky|QR) / { ++lines; counts = counts $7 " "; same += lines == 1 || $6 == residual; residual = $6 }
+        END { exit !(lines == 3 && same == 3 && counts == expected " ") }' out || fail "fits: $(grep -A3 '^Fits' out)"
+}
+
 for mesh in bunny teapot; do
     draws "$data/$mesh.obj" $mesh.png
+    fitsFailed '0 0 0'
     grep -q 'left out' out && fail "$mesh: $(cat out)"
 done
 
