@@ -131,15 +131,27 @@ Doubles step(Doubles& motions, const Surface& fixed, const Samples& samples, dou
     return rows.misfits;
 }
 
-// The best of the motions, the very best first.
+// The best of the motions, the very best first. Of those that came to the same place only one is taken: otherwise a
+// place that attracts many starts would leave no room for the others.
 Doubles best(const Doubles& motions, const Doubles& misfits, int count)
 {
+    constexpr Difference samePlace{5, 0.05};
     std::vector<std::size_t> order(misfits.size());
     std::iota(order.begin(), order.end(), 0);
     std::sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) { return misfits[a] < misfits[b]; });
+    std::vector<Motion> chosen;
+    for (const std::size_t k : order) {
+        Motion motion;
+        std::copy_n(&motions[16 * k], 16, motion.data());
+        const bool known = std::any_of(chosen.begin(), chosen.end(), [&](const Motion& other) {
+            const Difference from = difference(motion, other);
+            return from.degrees < samePlace.degrees && from.distance < samePlace.distance;
+        });
+        if (!known) chosen.push_back(motion);
+        if (chosen.size() == index(count)) break;
+    }
     Doubles result;
-    for (std::size_t k = 0; k < std::min(index(count), order.size()); ++k)
-        result.insert(result.end(), &motions[16 * order[k]], &motions[16 * order[k]] + 16);
+    for (const Motion& motion : chosen) result.insert(result.end(), motion.begin(), motion.end());
     return result;
 }
 
@@ -171,7 +183,7 @@ Motion searched(const Surface& fixed, const Surface& moving, std::mt19937_64& ra
         int starts, samples;
         double reach;
     };
-    constexpr Round rounds[] = {{512, 64, 0.4}, {64, 128, 0.2}, {8, 1024, 0.1}};
+    constexpr Round rounds[] = {{512, 64, 0.4}, {48, 128, 0.2}, {8, 1024, 0.1}};
     constexpr int steps = 8;
     Doubles motions = starts(rounds[0].starts, centroid(moving), centroid(fixed), random), misfits;
     for (const Round& round : rounds) {

@@ -106,7 +106,7 @@ Surface::Surface(const Scan& scan, Stage stage) : points(scan.points), tree(poin
 {
     const Doubles offsets = offsetsOf(points, tree), means = meansOf(offsets, count());
     covariances = covariancesOf(offsets, means, count(), stage);
-    const Doubles inverses = inverted(covariances, stage);
+    const Doubles inverses = inverted(covariances);
     normals = normalsOf(inverses, scan.towards);
     atBorder = bordersOf(means, inverses, normals);
 }
