@@ -83,7 +83,7 @@ Doubles solved(const Correspondences& all, const Doubles& weights, Stage stage)
     constexpr int jacobian = 3 * row6;
     const int count = all.count();
     Doubles weighted(18 * index(count)), systems(36 * index(count)), sides(6 * index(count)), factor(36), result(6);
-    stage("W J            vormMul_mama_64f 3x3 3x6", count, {1, 0}, [&] {
+    stage("W J            vormMul_mama_64f 3x3 3x6", count, {1}, [&] {
         expectOk(vormMul_mama_64f(weights.data(), matrix3, row3, element, 3, 3, all.jacobians.data(), jacobian, row6,
                                   element, 6, 3, weighted.data(), jacobian, row6, element, count),
                  "vormMul_mama_64f");
@@ -93,13 +93,13 @@ Doubles solved(const Correspondences& all, const Doubles& weights, Stage stage)
                                   element, 6, 3, systems.data(), matrix6, row6, element, count),
                  "vormMul_tama_64f");
     });
-    stage("J^T W (q - p)  vormMul_tava_64f 3x6", count, {1, 0}, [&] {
+    stage("J^T W (q - p)  vormMul_tava_64f 3x6", count, {1}, [&] {
         expectOk(vormMul_tava_64f(weighted.data(), jacobian, row6, element, 6, 3, all.differences.data(), row3, element,
                                   3, sides.data(), row6, element, count),
                  "vormMul_tava_64f");
     });
     Doubles system, side;
-    stage("sum            vormAdd_vava_64f", count, {1, 0}, [&] {
+    stage("sum            vormAdd_vava_64f", count, {1}, [&] {
         system = sumOf(systems, 36);
         side = sumOf(sides, 6);
     });

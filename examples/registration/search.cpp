@@ -49,7 +49,7 @@ Doubles movedByEach(const Doubles& points, int width, const Doubles& motions, St
     const int starts = static_cast<int>(motions.size() / 16), count = static_cast<int>(points.size()) / width;
     Doubles result(index(starts) * index(count) * 3);
     const std::string what = "samples moved  vormMul_mta_64f " + std::to_string(count) + "x4";
-    stage(what.c_str(), starts, {1, 0}, [&] {
+    stage(what.c_str(), starts, {1}, [&] {
         expectOk(vormMul_mta_64f(points.data(), width * element, element, width, count, motions.data(), matrix4, row4,
                                  element, width, 3, result.data(), count * row3, row3, element, starts),
                  "vormMul_mta_64f");
@@ -100,7 +100,7 @@ Doubles solved(const Rows& rows, int count, Stage stage)
                                   row6, element, 6, count, systems.data(), matrix6, row6, element, starts),
                  "vormMul_tama_64f");
     });
-    stage(("J^T d          vormMul_tava_64f " + shape).c_str(), starts, {1, 0}, [&] {
+    stage(("J^T d          vormMul_tava_64f " + shape).c_str(), starts, {1}, [&] {
         expectOk(vormMul_tava_64f(rows.j.data(), count * row6, row6, element, 6, count, rows.d.data(), count * element,
                                   element, count, sides.data(), row6, element, starts),
                  "vormMul_tava_64f");
@@ -108,12 +108,12 @@ Doubles solved(const Rows& rows, int count, Stage stage)
     expectOk(vormAdd_mam_64f(systems.data(), matrix6, row6, element, damping.data(), row6, element, damped.data(),
                              matrix6, row6, element, 6, 6, starts),
              "vormAdd_mam_64f");
-    stage("decomposition  vormCholeskyDecomp_ma_64f", starts, {1, 0}, [&] {
+    stage("decomposition  vormCholeskyDecomp_ma_64f", starts, {1}, [&] {
         expectOk(vormCholeskyDecomp_ma_64f(damped.data(), matrix6, row6, element, factors.data(), matrix6, row6,
                                            element, 6, starts),
                  "vormCholeskyDecomp_ma_64f");
     });
-    stage("solution       vormCholeskyBackSubst_mava_64f", starts, {1, 0}, [&] {
+    stage("solution       vormCholeskyBackSubst_mava_64f", starts, {1}, [&] {
         expectOk(vormCholeskyBackSubst_mava_64f(factors.data(), matrix6, row6, element, sides.data(), row6, element,
                                                 steps.data(), row6, element, 6, starts),
                  "vormCholeskyBackSubst_mava_64f");

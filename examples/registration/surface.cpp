@@ -46,7 +46,7 @@ Doubles covariancesOf(const Doubles& offsets, const Doubles& means, int count, S
     constexpr double floor = acrossSd * acrossSd;
     const double smallest[9] = {floor, 0, 0, 0, floor, 0, 0, 0, floor};
     Doubles squares(9 * index(count)), shifts(squares.size()), about(squares.size()), result(squares.size());
-    stage("X^T X          vormMul_tama_64f 16x3", count, {1, 0}, [&] {
+    stage("X^T X          vormMul_tama_64f 16x3", count, {1}, [&] {
         expectOk(vormMul_tama_64f(offsets.data(), near * row3, row3, element, 3, near, offsets.data(), near * row3,
                                   row3, element, 3, near, squares.data(), matrix3, row3, element, count),
                  "vormMul_tama_64f");
