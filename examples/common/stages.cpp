@@ -11,8 +11,6 @@
 #include <filesystem>
 #include <stdexcept>
 
-#include "common/obj_reader.hpp"
-
 namespace examples {
 namespace {
 
@@ -49,6 +47,17 @@ int threads()
     std::int32_t number = 0;
     vorGetNumThreads(&number);
     return number;
+}
+
+// Its line is none of the input's.
+Mesh readData(const std::string& name)
+{
+    const std::string path = VORM_EXAMPLE_DATA "/" + name;
+    try {
+        return readObj(path);
+    } catch (const BadMesh& bad) {
+        throw std::runtime_error(path + ": " + bad.what());
+    }
 }
 
 double once(const char*, int, std::initializer_list<int>, const std::function<void()>& work)

@@ -1,11 +1,11 @@
 // Each point of a scan is drawn as a disc across its normal.
 #include "registration/picture.hpp"
 
-#include <algorithm>
 #include <cmath>
 #include <numbers>
 
 #include "common/rasteriser.hpp"
+#include "common/sheet.hpp"
 
 namespace registration {
 namespace {
@@ -60,14 +60,9 @@ examples::Picture drawScans(const Surface& fixed, const Doubles& points, const D
 
 examples::Picture drawBeforeAndAfter(const Surface& fixed, const Surface& moving, const Motion& motion)
 {
-    const examples::Picture before = drawScans(fixed, moving.points, moving.normals),
-                            after = drawScans(fixed, moved(moving.points, motion), turned(moving.normals, motion));
-    examples::Picture both{2 * width, height, {}};
-    for (int y = 0; y < height; ++y)
-        for (const auto* picture : {&before, &after}) {
-            const auto row = picture->rgb.begin() + 3 * width * y;
-            both.rgb.insert(both.rgb.end(), row, row + 3 * width);
-        }
+    examples::Picture both = examples::blackSheet(2 * width, height);
+    examples::paste(drawScans(fixed, moving.points, moving.normals), both, 0, 0);
+    examples::paste(drawScans(fixed, moved(moving.points, motion), turned(moving.normals, motion)), both, width, 0);
     return both;
 }
 
