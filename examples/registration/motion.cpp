@@ -20,22 +20,12 @@ Motion motionOf(const Vec& w, const Vec& shift)
 {
     const double angle = std::hypot(w[0], w[1], w[2]), s = std::sin(angle), c = 1 - std::cos(angle);
     const double x = angle > 0 ? w[0] / angle : 0, y = angle > 0 ? w[1] / angle : 0, z = angle > 0 ? w[2] / angle : 0;
-    return {1 - c * (y * y + z * z),
-            c * x * y - s * z,
-            c * x * z + s * y,
-            shift[0],
-            c * x * y + s * z,
-            1 - c * (x * x + z * z),
-            c * y * z - s * x,
-            shift[1],
-            c * x * z - s * y,
-            c * y * z + s * x,
-            1 - c * (x * x + y * y),
-            shift[2],
-            0,
-            0,
-            0,
-            1};
+    // clang-format off
+    return {1 - c * (y * y + z * z), c * x * y - s * z,       c * x * z + s * y,       shift[0],
+            c * x * y + s * z,       1 - c * (x * x + z * z), c * y * z - s * x,       shift[1],
+            c * x * z - s * y,       c * y * z + s * x,       1 - c * (x * x + y * y), shift[2],
+            0,                       0,                       0,                       1};
+    // clang-format on
 }
 
 // A point on the sphere of unit quaternions, which four normal numbers give without a preferred direction.

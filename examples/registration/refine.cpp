@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <stdexcept>
 #include <utility>
 
 using examples::expectOk;
@@ -17,7 +16,7 @@ using examples::Stage;
 namespace registration {
 namespace {
 
-// Neighbours in this distance correspond; it is a few times that of neighbouring points.
+// The nearest points correspond where they are nearer than this, a few times the distance of neighbours within a scan.
 constexpr double reach = 0.08, sameSide = 0.8;
 
 // Arrays with one object for each correspondence.
@@ -47,7 +46,7 @@ Correspondences correspondences(const Surface& fixed, const Surface& moving, con
     }
 
     const int count = result.count();
-    if (count < 6) throw std::runtime_error("the scans do not overlap");
+    if (count < 6) throw examples::BadMesh(0, "its scans do not overlap");
     Doubles half(ofMoving.size()), turnedOnes(ofMoving.size());
     result.covariances.resize(ofMoving.size());
     expectOk(vormMul_mma_64f(motion.data(), row4, element, 3, 3, ofMoving.data(), matrix3, row3, element, 3, 3,
