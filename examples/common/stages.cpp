@@ -42,6 +42,13 @@ void printVersion()
     std::printf("%s %s, built %s\n", version.libraryLabel, version.versionLabel, version.buildDateLabel);
 }
 
+int threads()
+{
+    std::int32_t number = 0;
+    vorGetNumThreads(&number);
+    return number;
+}
+
 // Its line is none of the input's.
 Mesh readData(const std::string& name)
 {
@@ -64,9 +71,8 @@ double timed(const char* what, int objects, std::initializer_list<int> threads, 
     std::printf("  %-46s %6d objects", what, objects);
     double result = 0;
     for (const int number : threads) {
-        std::int32_t used = 0;
         vorSetNumThreads(number);
-        vorGetNumThreads(&used);
+        const int used = examples::threads();
         if (number != 1 && used == 1) continue;  // what 1 has told already
         result = nanosecondsPerObject(objects, work);
         std::printf(", %6.1f (%d)", result, used);

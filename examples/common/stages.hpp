@@ -20,6 +20,9 @@ void printVersion();
 // A mesh of the folder data that comes with the examples.
 Mesh readData(const std::string& name);
 
+// The most threads a call may use. Each of them wants a part of the buffer that some functions take.
+int threads();
+
 // How a stage of a program is run, so that one program can time what another one only uses: work may
 // be called more than once and has to give the same each time. threads are the numbers of threads worth
 // trying, 0 is the library's default. The result are nanoseconds per object with the last of them, or 0.
