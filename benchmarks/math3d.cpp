@@ -255,6 +255,13 @@ Task single(const Ours& ours, const std::pair<const char*, Peer>&... peers)
     return {{o.each("vorm", ours), o.each(peers.first, peers.second)...}};
 }
 
+// The members for single points, called for each point of an array.
+template <VormStatus (*call)(const float*, const float*, float*)>
+void eachPoint(const float* m, const float* src, int srcBytes, float* dst, int dstBytes, int points)
+{
+    for (int n = 0; n < points; ++n) call(m, src + n * (srcBytes / 4), dst + n * (dstBytes / 4));
+}
+
 mat4& asCglm(const float* p) { return *reinterpret_cast<mat4*>(const_cast<float*>(p)); }
 float* writable(const float* p) { return const_cast<float*>(p); }
 
@@ -349,6 +356,11 @@ void addSingle(Section& s)
                                               Eigen::Map<const Eigen::Vector3f>(p).normalized();
                                       }});
     });
+    add("vormAffineTransform_m4v4", 0, [] { return affine<4, 4, 4>(eachPoint<vormAffineTransform_m4v4_32f>); });
+    add("vormAffineTransformCoord_m4v3", 0,
+        [] { return coord<3, 3, 3>(eachPoint<vormAffineTransformCoord_m4v3_32f>); });
+    add("vormAffineTransformNormal_m4v3", 0,
+        [] { return normal<3, 3, 3>(eachPoint<vormAffineTransformNormal_m4v3_32f>); });
     add("vormPerspectiveLH_m4", 0, [] {
         return single<4, 16>(
             [](In p, Out q) { vormPerspectiveLH_m4_32f(q, p[0], p[1], p[2], p[3] + 20); },

@@ -1,4 +1,4 @@
-// Destinations that overlap a source in part, where that is promised.
+// Destinations that overlap a source in part, or themselves, where that is promised.
 
 #include <gtest/gtest.h>
 
@@ -63,6 +63,52 @@ TEST(Overlap, SingleVectors)
         for (std::size_t k = 0; k + 1 < f.operands.size() && isLoop(f); ++k)
             if (f.operands[k].kind == 'v')
                 f.type == "32f" ? checkOverlaps<float>(f, k, random) : checkOverlaps<double>(f, k, random);
+}
+
+// Rows of a destination that share memory: the last one wins, as in a loop over ascending rows and columns.
+template <class T>
+void checkRows(const Function& f, int height, int width, int stride1, int stride2, Random& random)
+{
+    constexpr int pitch = 9;
+    std::vector<T> sources[2], dst(200), model;
+    for (auto& source : sources)
+        for (int i = 0; i < pitch * pitch; ++i) source.push_back(T(uniform(random, -1, 1)));
+    model = dst;
+    const auto from = [&](std::size_t source, int r, int c) {
+        const char kind = f.operands[source].kind;
+        return kind == 'c' ? T(0.5) : sources[source][std::size_t(kind == 't' ? c * pitch + r : r * pitch + c)];
+    };
+    for (int r = 0; r < height; ++r)
+        for (int c = 0; c < width; ++c)
+            model[std::size_t(r * stride1 + c * stride2)] = combined(f, from(0, r, c), from(1, r, c));
+    std::vector<Argument> arguments;
+    for (const Parameter& p : f.parameters) {
+        T* const place = p.operand == "dst" ? dst.data() : sources[p.operand == "src2"].data();
+        const int elements = p.operand == "dst"     ? (p.name.back() == '1' ? stride1 : stride2)
+                             : p.name.back() == '1' ? pitch
+                                                    : 1;
+        arguments.push_back(p.role == Role::pointer  ? Argument{reinterpret_cast<std::intptr_t>(place)}
+                            : p.role == Role::value  ? Argument{0, 0.5}
+                            : p.role == Role::stride ? Argument{elements * int(sizeof(T))}
+                                                     : Argument{p.name == "width" ? width : height});
+    }
+    ASSERT_EQ(f.call(arguments), StatusOk);
+    ASSERT_EQ(dst, model) << f.name << " " << height << "x" << width << ", strides " << stride1 << " " << stride2;
+}
+
+TEST(Overlap, RowsOfMatrices)
+{
+    Random random(20120924);
+    for (const Function& f : catalogue()) {
+        const bool isScaling = f.family == "Mul" && f.shape.find('c') != f.shape.npos;
+        const bool isOfMatrices = !f.isArray() && !f.isFixed() && f.shape.find('v') == f.shape.npos;
+        if (!isOfMatrices || !f.layout.empty() || !(f.family == "Add" || f.family == "Sub" || isScaling)) continue;
+        for (int height = 1; height <= 9; ++height)
+            for (int width = 1; width <= 9; ++width)
+                for (const auto& [stride1, stride2] : {std::pair{1, 1}, {2, 1}, {5, 1}, {1, 2}, {1, 5}, {2, 3}})
+                    f.type == "32f" ? checkRows<float>(f, height, width, stride1, stride2, random)
+                                    : checkRows<double>(f, height, width, stride1, stride2, random);
+    }
 }
 
 TEST(Overlap, FixedProduct)

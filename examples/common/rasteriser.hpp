@@ -3,6 +3,7 @@
 
 #include <span>
 
+#include "common/matrix.hpp"
 #include "common/png_writer.hpp"
 
 namespace examples {
@@ -11,6 +12,9 @@ namespace examples {
 struct View {
     float turn = 0, tilt = 0;
 };
+
+// Into the frame of the viewer, who looks along -z.
+Matrix turnOf(View view);
 
 // The mesh lies about the origin with a radius of about 1, y upwards; normals has one unit vector per
 // vertex (zero where there is none), colours nothing or red, green and blue of linear light for each vertex.

@@ -11,8 +11,6 @@
 #include <filesystem>
 #include <stdexcept>
 
-#include "common/obj_reader.hpp"
-
 namespace examples {
 namespace {
 
@@ -44,6 +42,24 @@ void printVersion()
     std::printf("%s %s, built %s\n", version.libraryLabel, version.versionLabel, version.buildDateLabel);
 }
 
+int threads()
+{
+    std::int32_t number = 0;
+    vorGetNumThreads(&number);
+    return number;
+}
+
+// Its line is none of the input's.
+Mesh readData(const std::string& name)
+{
+    const std::string path = VORM_EXAMPLE_DATA "/" + name;
+    try {
+        return readObj(path);
+    } catch (const BadMesh& bad) {
+        throw std::runtime_error(path + ": " + bad.what());
+    }
+}
+
 double once(const char*, int, std::initializer_list<int>, const std::function<void()>& work)
 {
     work();
@@ -55,9 +71,8 @@ double timed(const char* what, int objects, std::initializer_list<int> threads, 
     std::printf("  %-46s %6d objects", what, objects);
     double result = 0;
     for (const int number : threads) {
-        std::int32_t used = 0;
         vorSetNumThreads(number);
-        vorGetNumThreads(&used);
+        const int used = examples::threads();
         if (number != 1 && used == 1) continue;  // what 1 has told already
         result = nanosecondsPerObject(objects, work);
         std::printf(", %6.1f (%d)", result, used);

@@ -7,6 +7,8 @@
 #include <initializer_list>
 #include <string>
 
+#include "common/obj_reader.hpp"
+
 namespace examples {
 
 // Throws std::runtime_error that names the function, unless the status is StatusOk.
@@ -14,6 +16,12 @@ void expectOk(VormStatus status, const char* function);
 
 // Prints the version of the library.
 void printVersion();
+
+// A mesh of the folder data that comes with the examples.
+Mesh readData(const std::string& name);
+
+// The most threads a call may use. Each of them wants a part of the buffer that some functions take.
+int threads();
 
 // How a stage of a program is run, so that one program can time what another one only uses: work may
 // be called more than once and has to give the same each time. threads are the numbers of threads worth

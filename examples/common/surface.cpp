@@ -29,13 +29,16 @@ std::vector<float> centredAndScaled(const std::vector<float>& vertices, Stage st
     const float scale = 1 / std::max({size[0], size[1], size[2]});
     if (!std::isfinite(scale)) throw BadMesh(0, "the vertices are too close together");
 
-    std::vector<float> placed(vertices.size());
+    std::vector<float> moved(vertices.size()), placed(vertices.size());
     stage("centre  vormSub_vav_32f", count, {1, 0}, [&] {
-        expectOk(vormSub_vav_32f(vertices.data(), vector3, element, centre, element, placed.data(), vector3, element, 3,
+        expectOk(vormSub_vav_32f(vertices.data(), vector3, element, centre, element, moved.data(), vector3, element, 3,
                                  count),
                  "vormSub_vav_32f");
     });
-    for (std::size_t n = 0; n < placed.size(); n += 3) vormMulC_v3_32f(&placed[n], &placed[n], scale);
+    stage("scale   vormMul_vac_32f", count, {1, 0}, [&] {
+        expectOk(vormMul_vac_32f(moved.data(), vector3, element, scale, placed.data(), vector3, element, 3, count),
+                 "vormMul_vac_32f");
+    });
     return placed;
 }
 

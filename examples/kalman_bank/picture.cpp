@@ -9,6 +9,7 @@
 #include <limits>
 #include <numbers>
 
+#include "common/matrix.hpp"
 #include "common/rasteriser.hpp"
 
 namespace kalman {
@@ -41,25 +42,21 @@ struct Scene {
 
     void rod(const Point& from, const Point& to, float radius, const Point& colour)
     {
-        Point along, side, up;
+        Point along, outward;
         vormSub_v3_32f(to.data(), from.data(), along.data());
         const bool alongX = std::abs(along[0]) > std::max(std::abs(along[1]), std::abs(along[2]));
         const Point axis{alongX ? 0.0f : 1.0f, alongX ? 1.0f : 0.0f, 0};
-        vormCrossProduct_v3_32f(along.data(), axis.data(), side.data());
-        vormNormalize_v3_32f(side.data(), side.data());
-        vormCrossProduct_v3_32f(along.data(), side.data(), up.data());
-        vormNormalize_v3_32f(up.data(), up.data());
-        if (!std::isfinite(up[0])) return;  // no length
+        vormCrossProduct_v3_32f(along.data(), axis.data(), outward.data());
+        vormNormalize_v3_32f(outward.data(), outward.data());
+        if (!std::isfinite(outward[0])) return;  // no length
         constexpr int sides = 6;
+        examples::Matrix onward;
+        vormRotationAxis_v3m4_32f(along.data(), onward.data(), 2 * std::numbers::pi_v<float> / sides);
         const int first = static_cast<int>(vertices.size() / 3);
         for (int k = 0; k < sides; ++k) {
-            const float angle = 2 * std::numbers::pi_v<float> * static_cast<float>(k) / sides;
-            Point outward, part;
-            vormMulC_v3_32f(side.data(), outward.data(), std::cos(angle));
-            vormMulC_v3_32f(up.data(), part.data(), std::sin(angle));
-            vormAdd_v3_32f(outward.data(), part.data(), outward.data());
             add(from, outward, radius, colour);
             add(to, outward, radius, colour);
+            vormAffineTransformNormal_m4v3_32f(onward.data(), outward.data(), outward.data());
         }
         for (int k = 0; k < 2 * sides; k += 2) {
             const int a = first + k, b = first + (k + 2) % (2 * sides);
@@ -84,12 +81,11 @@ struct Scene {
 // Flyers that stay on the side that the viewer sees, each as far from those chosen before as can be.
 std::vector<int> chosen(const std::vector<float>& normals, const Paths& paths, const Flight& flight)
 {
-    constexpr float degree = std::numbers::pi_v<float> / 180;
-    const float turn = view.turn * degree, tilt = view.tilt * degree;
-    const Point towards{-std::cos(tilt) * std::sin(turn), std::sin(tilt), std::cos(tilt) * std::cos(turn)};
+    const examples::Matrix turn = examples::turnOf(view);
     const auto faces = [&](int vertex) {
-        const float* const normal = &normals[3 * static_cast<std::size_t>(vertex)];
-        return normal[0] * towards[0] + normal[1] * towards[1] + normal[2] * towards[2] > 0.2f;
+        Point turned;
+        vormAffineTransformNormal_m4v3_32f(turn.data(), &normals[3 * static_cast<std::size_t>(vertex)], turned.data());
+        return turned[2] > 0.2f;
     };
     std::vector<float> distances(static_cast<std::size_t>(flight.count()), std::numeric_limits<float>::max());
     for (const auto& vertices : paths.vertices)
@@ -104,9 +100,12 @@ std::vector<int> chosen(const std::vector<float>& normals, const Paths& paths, c
         result.push_back(best);
         const Point from = pointAt(middle, best, states);
         for (int n = 0; n < flight.count(); ++n) {
-            const Point to = pointAt(middle, n, states);
+            Point way;
+            vormSub_v3_32f(pointAt(middle, n, states).data(), from.data(), way.data());
+            float length;
+            vormLen_v3_32f(way.data(), &length);
             float& distance = distances[static_cast<std::size_t>(n)];
-            distance = std::min(distance, std::hypot(to[0] - from[0], to[1] - from[1], to[2] - from[2]));
+            distance = std::min(distance, length);
         }
     }
     return result;

@@ -4,9 +4,7 @@
 // Points are columns: a rotation R (3x3) takes p to R p, a transform (4x4) takes (p, 1) to (R p + t, 1),
 // and the inverse of R is R read transposed, for which the products have shapes of their own.
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <cstdint>
 #include <cstdio>
 #include <limits>
 #include <numbers>
@@ -15,8 +13,10 @@
 #include <string>
 #include <vector>
 
+#include "common/matrix.hpp"
 #include "common/png_writer.hpp"
 #include "common/rasteriser.hpp"
+#include "common/sheet.hpp"
 #include "common/stages.hpp"
 #include "common/surface.hpp"
 
@@ -27,22 +27,26 @@ namespace {
 using Floats = std::vector<float>;
 
 constexpr int element = sizeof(float), row3 = 3 * element, row4 = 4 * element;
-constexpr int matrix3 = 3 * row3, slot = row4;  // a slot holds a point and its 1
+constexpr int matrix3 = 3 * row3, matrix4 = 4 * row4, slot = row4;  // a slot holds a point and its 1
 constexpr int frames = 12;
-constexpr double turnPerFrame = 2 * std::numbers::pi / frames;
+constexpr float turnPerFrame = 2 * std::numbers::pi_v<float> / frames;
 
 std::size_t index(int n) { return static_cast<std::size_t>(n); }
 
-std::array<float, 9> aboutX(double angle)
+// The library makes rotations for points that are rows; for columns they are those by the opposite angle. They
+// come as the upper left part of a 4x4 matrix, where the strides find them.
+Matrix aboutX(float angle)
 {
-    const auto c = static_cast<float>(std::cos(angle)), s = static_cast<float>(std::sin(angle));
-    return {1, 0, 0, 0, c, -s, 0, s, c};
+    Matrix rotation;
+    vormRotationX_m4_32f(rotation.data(), -angle);
+    return rotation;
 }
 
-std::array<float, 9> aboutY(double angle)
+Matrix aboutY(float angle)
 {
-    const auto c = static_cast<float>(std::cos(angle)), s = static_cast<float>(std::sin(angle));
-    return {c, 0, s, 0, 1, 0, -s, 0, c};
+    Matrix rotation;
+    vormRotationY_m4_32f(rotation.data(), -angle);
+    return rotation;
 }
 
 // The step that leads to each frame: the table turns on, then rocks.
@@ -50,11 +54,11 @@ Floats rotationSteps()
 {
     Floats rock, steps(index(frames * 9));
     for (int n = 0; n < frames; ++n) {
-        const auto matrix = aboutX(0.15 * std::sin(2 * turnPerFrame * n));
+        const Matrix matrix = aboutX(0.15f * std::sin(2 * turnPerFrame * static_cast<float>(n)));
         rock.insert(rock.end(), matrix.begin(), matrix.end());
     }
-    const auto turn = aboutY(turnPerFrame);
-    expectOk(vormMul_mam_32f(rock.data(), matrix3, row3, element, 3, 3, turn.data(), row3, element, 3, 3, steps.data(),
+    const Matrix turn = aboutY(turnPerFrame);
+    expectOk(vormMul_mam_32f(rock.data(), matrix4, row4, element, 3, 3, turn.data(), row4, element, 3, 3, steps.data(),
                              matrix3, row3, element, frames),
              "vormMul_mam_32f");
     return steps;
@@ -183,13 +187,13 @@ Floats posesOfPoints(const Floats& points, const Floats& pose)
 {
     Floats late;
     for (std::size_t n = 0; n < points.size(); n += 3) {
-        const auto matrix = aboutY(turnPerFrame / 4 * (points[n + 1] + 1) / 2);
+        const Matrix matrix = aboutY(turnPerFrame / 4 * (points[n + 1] + 1) / 2);
         late.insert(late.end(), matrix.begin(), matrix.end());
     }
     const int count = static_cast<int>(points.size() / 3);
-    Floats poses(late.size());
+    Floats poses(points.size() * 3);
     timed("a pose for each point   vormMul_mam_32f", count, {1, 0}, [&] {
-        expectOk(vormMul_mam_32f(late.data(), matrix3, row3, element, 3, 3, pose.data(), row3, element, 3, 3,
+        expectOk(vormMul_mam_32f(late.data(), matrix4, row4, element, 3, 3, pose.data(), row3, element, 3, 3,
                                  poses.data(), matrix3, row3, element, count),
                  "vormMul_mam_32f");
     });
@@ -266,16 +270,12 @@ void printViews(const Floats& views, int count)
 Picture contactSheet(const Floats& views, const Floats& normals, const std::vector<int>& corners)
 {
     constexpr int columns = 4, rows = frames / columns, width = 240, height = 200;
-    Picture sheet{columns * width, rows * height,
-                  std::vector<std::uint8_t>(index(3 * columns * width * rows * height))};
+    Picture sheet = blackSheet(columns * width, rows * height);
     const std::size_t size = views.size() / index(frames);
     for (int n = 0; n < frames; ++n) {
         const std::span view(&views[index(n) * size], size), ups(&normals[index(n) * size], size);
         const Picture picture = drawMesh(view, ups, corners, View{0, 14}, width, height);
-        const int left = n % columns * width, top = n / columns * height;
-        for (int y = 0; y < height; ++y)
-            std::copy_n(&picture.rgb[index(3 * y * width)], 3 * width,
-                        &sheet.rgb[index(3 * ((top + y) * columns * width + left))]);
+        paste(picture, sheet, n % columns * width, n / columns * height);
     }
     return sheet;
 }

@@ -127,11 +127,33 @@ VORM_INLINE void mediumObjects(const Op& op, const Objects<const T, inList>& a, 
     }
 }
 
+// Objects of 16 elements in a list, beside a vector that all of them share and that stays in registers.
+template <bool commonFirst, class Op, class T>
+VORM_INLINE void heldObjects(const Op& op, const T* common, const Objects<const T, true>& array,
+                             const Objects<T, true>& dst, int count)
+{
+    constexpr int width = Lanes<T>::width, registers = 16 / width;
+    Lanes<T> held[registers];
+    for (int k = 0; k < registers; ++k) held[k] = Lanes<T>::load(common + k * width);
+    for (int n = 0; n < count; ++n) {
+        const T* const other = array(n);
+        T* const p = dst(n);
+        unrolled<registers>([&](auto k) VORM_INLINE_LAMBDA {
+            const auto x = Lanes<T>::load(other + k * width);
+            (commonFirst ? op.apply(held[k], x) : op.apply(x, held[k])).store(p + k * width);
+        });
+    }
+}
+
 // All lengths but the small ones; b is an array of constants, or of vectors.
 template <bool isVal, class Op, class T, bool inList>
 VORM_SHARED void longObjects(Op op, Objects<const T, inList> a, Objects<const T, inList> b, Objects<T, inList> dst,
                              int len, int count)
 {
+    if constexpr (inList && !isVal) {
+        if (len == 16 && b.step == 0) return heldObjects<false>(op, b(0), a, dst, count);
+        if (len == 16 && a.step == 0) return heldObjects<true>(op, a(0), b, dst, count);
+    }
     switch (len / Lanes<T>::width) {
     case 1: return mediumObjects<1, isVal>(op, a, b, dst, len, count);
     case 2: return mediumObjects<2, isVal>(op, a, b, dst, len, count);

@@ -65,6 +65,7 @@ VORM_INLINE VormStatus byRowsOrColumns(const Op& op, const A& a, const B& b, con
     if (!hasAdjacentRows<T>(d)) return anywhere<T>(op, a, b, d, width, height, count);
     const bool rowsA = hasAdjacentRows<T>(a), rowsB = hasAdjacentRows<T>(b);
     if (rowsA && rowsB) return rowsOfAll(op, a, b, d, width, height, count);
+    if (d.row < width * sizeOf<T>) return anywhere<T>(op, a, b, d, width, height, count);  // rows that share memory
     if (!(rowsA || hasAdjacentColumns<T>(a)) || !(rowsB || hasAdjacentColumns<T>(b)))
         return anywhere<T>(op, a, b, d, width, height, count);
     const bool straightens = count > 3 && std::int64_t{width} * height <= Straightened<T>::most;
@@ -159,8 +160,9 @@ VormStatus matrixObjects(const A& a, const B& b, const D& d, int width, int heig
         return tabled(Op(), a, b, d, width, height, count);
     } else {
         using T = std::remove_pointer_t<decltype(d.at(0))>;
-        // Where columns of the destination lie side by side the same is done with all matrices transposed.
-        const bool byColumns = !hasAdjacentRows<T>(d) && hasAdjacentColumns<T>(d);
+        // Where columns of the destination lie side by side, and share no memory, the same is done with all matrices
+        // transposed.
+        const bool byColumns = !hasAdjacentRows<T>(d) && hasAdjacentColumns<T>(d) && d.column >= height * sizeOf<T>;
         const A usedA = byColumns ? transposed(a) : a;
         const B usedB = byColumns ? transposed(b) : b;
         const D usedD = byColumns ? transposed(d) : d;

@@ -56,7 +56,7 @@ struct PairedDifference {
         return terms % 2 == 0 ? sum : sum - last();
     }
 };
-// value - term(first) - ... - term(end - 1)
+// value - term(0) - ... - term(terms - 1)
 template <class Number, class Term>
 VORM_INLINE Number less(const Number& value, int terms, const Term& term)
 {

@@ -63,6 +63,19 @@ VORM_INLINE Elements transposed(Elements elements)
     return elements;
 }
 
+// Those of rows and columns in the strides of a view.
+struct Distances {
+    std::ptrdiff_t row, column;
+};
+template <class T, class View>
+VORM_INLINE Distances distancesOf(const View& view)
+{
+    if constexpr (requires { view.stride1; })
+        return {view.stride1, bytes<T>(view.stride2)};
+    else
+        return {bytes<T>(view.stride2), 0};
+}
+
 template <class View>
 VORM_INLINE auto elementsOf(const View& view)
 {
@@ -78,11 +91,8 @@ VORM_INLINE auto elementsOf(const View& view)
             return TabledElements<T>{view.pp, view.shift, object, 1, 0};
     } else {
         using T = std::remove_pointer_t<decltype(view.p)>;
-        const std::ptrdiff_t stride2 = bytes<T>(view.stride2);
-        if constexpr (requires { view.stride1; })
-            return StridedElements<T>{view.p, object, view.stride1, stride2};
-        else
-            return StridedElements<T>{view.p, object, stride2, 0};
+        const auto [row, column] = distancesOf<T>(view);
+        return StridedElements<T>{view.p, object, row, column};
     }
 }
 
@@ -94,10 +104,12 @@ VORM_INLINE auto listedElementsOf(const View& view)
         return transposed(listedElementsOf(view.stored));
     } else if constexpr (View::isCommon) {
         using T = std::remove_pointer_t<decltype(view.p)>;
-        return ListedElements<T>{&view.p, 0, 0, view.stride1, bytes<T>(view.stride2)};
+        const auto [row, column] = distancesOf<T>(view);
+        return ListedElements<T>{&view.p, 0, 0, row, column};
     } else {
         using T = std::remove_pointer_t<std::remove_cvref_t<decltype(*view.pp)>>;
-        return ListedElements<T>{view.pp, 1, view.shift, view.stride1, bytes<T>(view.stride2)};
+        const auto [row, column] = distancesOf<T>(view);
+        return ListedElements<T>{view.pp, 1, view.shift, row, column};
     }
 }
 

@@ -90,9 +90,9 @@ VORM_INLINE void squareVectorsHere(const A a, const X x, const Added added, cons
     }
 }
 
-template <class T, int n, bool commonA, bool commonX, class Added>
-[[gnu::noinline]] void squareVectors(const StridedElements<const T>& a, const StridedElements<const T>& x,
-                                     const Added& added, const StridedElements<T>& y, int first, int end)
+template <class T, int n, bool commonA, bool commonX, template <class> class Elements, class Added>
+[[gnu::noinline]] void squareVectors(const Elements<const T>& a, const Elements<const T>& x, const Added& added,
+                                     const Elements<T>& y, int first, int end)
 {
     squareVectorsHere<T, n, commonA, commonX>(a, x, added, y, first, end);
 }
@@ -201,6 +201,8 @@ VORM_PRODUCTS_ANYWHERE(vectors, float, TabledElements);
 VORM_PRODUCTS_ANYWHERE(vectors, double, TabledElements);
 VORM_SUMS_ANYWHERE(vectors, float, StridedElements, StridedElements<const float>);
 VORM_SUMS_ANYWHERE(vectors, double, StridedElements, StridedElements<const double>);
+VORM_SUMS_ANYWHERE(vectors, float, ListedElements, ListedElements<const float>);
+VORM_SUMS_ANYWHERE(vectors, double, ListedElements, ListedElements<const double>);
 VORM_SUMS_ANYWHERE(vectors, float, TabledElements, TabledElements<const float>);
 VORM_SUMS_ANYWHERE(vectors, double, TabledElements, TabledElements<const double>);
 

@@ -46,6 +46,18 @@ VORM_INLINE VormStatus gaxpyAnyStride(const ArrayCall<T, TheTests, Parts>& call)
         return StatusOk;
     });
 }
+// The matrix and the vectors that all objects share are lists as well, so that the matrix is loaded once here too.
+template <class T, class TheTests, class Parts>
+VORM_INLINE VormStatus gaxpyAnyStrideList(const ArrayCall<T, TheTests, Parts>& call)
+{
+    return call.parts.with([](const auto& a, Size width, Size height, const auto& x, Size, const auto& added, Size,
+                              const auto& y, Fit, Fit, Count count) VORM_INLINE_LAMBDA {
+        productsAnywhere<Second::vectors>(listedElementsOf(a), listedElementsOf(x), listedElementsOf(added),
+                                          listedElementsOf(y), {height.value, 1, width.value}, Outermost::rows, 0,
+                                          count.value);
+        return StatusOk;
+    });
+}
 template <class T, class TheTests, class Parts>
 VORM_INLINE VormStatus gaxpyPointers(const ArrayCall<T, TheTests, Parts>& call)
 {

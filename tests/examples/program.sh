@@ -38,8 +38,10 @@ refused()
     cmp -s before after || fail "$*: left a file"
 }
 
+# Its argument is a mesh the program takes, where that is not the teapot.
 refusesBadFiles()
 {
+    good=${1-$data/teapot.obj}
     touch before after err
     printf 'v 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 9\n' > range.obj
     printf 'v 5 5 5\nv 5 5 5\nv 5 5 5\nf 1 2 3\n' > point.obj
@@ -48,9 +50,9 @@ refusesBadFiles()
     refused 'control character' "$program" bad.png
     refused 'directory' . bad.png
     refused 'No such file' missing.obj bad.png
-    refused 'No such file' "$data/teapot.obj" no/such/folder/bad.png
+    refused 'No such file' "$good" no/such/folder/bad.png
     mkdir folder
-    refused 'directory' "$data/teapot.obj" folder
+    refused 'directory' "$good" folder
     refused 'is the input' range.obj ./range.obj
     refused 'usage' a b c
 }

@@ -81,7 +81,8 @@ inline std::vector<int> allColumns(int n)
     return columns;
 }
 
-// Rows of a diagonal matrix, turned; one of its elements is about the threshold.
+// Rows of a diagonal matrix, turned; one of its elements is about the threshold, and now and then so is all that
+// should be zero: minors then stop at a pivot that is not zero, and rows go on changing places behind it.
 template <class T>
 void putNearThreshold(const Call& call, int n, Random& random)
 {
@@ -89,10 +90,13 @@ void putNearThreshold(const Call& call, int n, Random& random)
     const int order = src.columns, turned = pick(random, 0, order - 1), small = pick(random, 0, order - 1);
     const T limit = thresholdOf<T>(order) * T(pick(random, 1, 2)), up = std::numeric_limits<T>::infinity();
     const T mark[] = {limit, std::nextafter(limit, up), std::nextafter(limit, T(0)), -limit};
-    const T value = mark[pick(random, 0, 3)];
+    const T value = mark[pick(random, 0, 3)], dust = chance(random, 50) ? limit : T(0);
     for (int r = 0; r < order; ++r)
         for (int c = 0; c < order; ++c)
-            src.put(n, (r + turned) % order * order + c, r != c ? T(0) : c == small ? value : T(1));
+            src.put(n, (r + turned) % order * order + c,
+                    r != c       ? dust * T(uniform(random, -1, 1))
+                    : c == small ? value
+                                 : T(1));
 }
 template <class T>
 void putZeroColumn(const Call& call, int n, Random& random)

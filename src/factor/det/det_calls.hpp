@@ -89,26 +89,26 @@ VORM_INLINE VormStatus detSingle(const Src& src, int order, T* buffer, T* dst)
 
 // One matrix.
 template <class T, class TheTests, class Parts>
-VORM_INLINE VormStatus detAnyStride(const Call<T, TheTests, Parts>& call)
+VORM_INLINE VormStatus anyStrideKernel(const Call<T, TheTests, Parts>& call)
 {
     return call.parts.with([](const auto& src, Size order, const auto& buffer, const auto& dst)
                                VORM_INLINE_LAMBDA { return detSingle<T>(src, order.value, buffer.p, dst.p); });
 }
 // Arrays of matrices.
 template <class T, class TheTests, class Parts>
-VORM_INLINE VormStatus detAnyStride(const ArrayCall<T, TheTests, Parts>& call)
+VORM_INLINE VormStatus anyStrideKernel(const ArrayCall<T, TheTests, Parts>& call)
 {
     return call.parts.with(
         [](const auto& src, Size order, const auto& buffer, const auto& dst, Count count)
             VORM_INLINE_LAMBDA { return detKernel<T>(src, order.value, buffer.p, dst.p, count.value); });
 }
 template <class TheCall>
-VORM_INLINE VormStatus detContiguous(const TheCall& call)
+VORM_INLINE VormStatus contiguousKernel(const TheCall& call)
 {
-    return detAnyStride(withAdjacent(call));
+    return anyStrideKernel(withAdjacent(call));
 }
 template <class T, class TheTests, class Parts>
-VORM_INLINE VormStatus detPointers(const ArrayCall<T, TheTests, Parts>& call)
+VORM_INLINE VormStatus pointerKernel(const ArrayCall<T, TheTests, Parts>& call)
 {
     return call.parts.with([](const auto& src, Size order, const auto& buffer, const auto& dst, Count count)
                                VORM_INLINE_LAMBDA {

@@ -7,5 +7,5 @@ using namespace vorm::factor;
 
 extern "C" {
 
-VormStatus n8_ownvormDet_m_32f(DET_M_PARAMS(float)) { return detContiguous(detM(DET_M_ARGS)); }
+VormStatus n8_ownvormDet_m_32f(DET_M_PARAMS(float)) { return contiguousKernel(detM(DET_M_ARGS)); }
 }

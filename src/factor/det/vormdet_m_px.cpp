@@ -24,8 +24,8 @@ VormStatus n8_vormDet_m_64f_P(DET_M_PARAMS_P(double))
     return checked(detMP(DET_M_ARGS_P), n8_ownvormDet_m_64f_P, DET_M_ARGS_P);
 }
 
-VormStatus n8_ownvormDet_m_32f_S2(DET_M_PARAMS(float)) { return detAnyStride(detM(DET_M_ARGS)); }
-VormStatus n8_ownvormDet_m_64f_S2(DET_M_PARAMS(double)) { return detAnyStride(detM(DET_M_ARGS)); }
-VormStatus n8_ownvormDet_m_32f_P(DET_M_PARAMS_P(float)) { return detAnyStride(detMP(DET_M_ARGS_P)); }
-VormStatus n8_ownvormDet_m_64f_P(DET_M_PARAMS_P(double)) { return detAnyStride(detMP(DET_M_ARGS_P)); }
+VormStatus n8_ownvormDet_m_32f_S2(DET_M_PARAMS(float)) { return anyStrideKernel(detM(DET_M_ARGS)); }
+VormStatus n8_ownvormDet_m_64f_S2(DET_M_PARAMS(double)) { return anyStrideKernel(detM(DET_M_ARGS)); }
+VormStatus n8_ownvormDet_m_32f_P(DET_M_PARAMS_P(float)) { return anyStrideKernel(detMP(DET_M_ARGS_P)); }
+VormStatus n8_ownvormDet_m_64f_P(DET_M_PARAMS_P(double)) { return anyStrideKernel(detMP(DET_M_ARGS_P)); }
 }

@@ -7,5 +7,5 @@ using namespace vorm::factor;
 
 extern "C" {
 
-VormStatus n8_ownvormDet_m_64f(DET_M_PARAMS(double)) { return detContiguous(detM(DET_M_ARGS)); }
+VormStatus n8_ownvormDet_m_64f(DET_M_PARAMS(double)) { return contiguousKernel(detM(DET_M_ARGS)); }
 }

@@ -7,6 +7,6 @@ using namespace vorm::factor;
 
 extern "C" {
 
-VormStatus n8_ownvormDet_ma_32f(DET_MA_PARAMS(float)) { return detContiguous(detMa(DET_MA_ARGS)); }
-VormStatus n8_ownvormDet_ma_32f_L(DET_MA_PARAMS_L(float)) { return detContiguous(detMaL(DET_MA_ARGS_L)); }
+VormStatus n8_ownvormDet_ma_32f(DET_MA_PARAMS(float)) { return contiguousKernel(detMa(DET_MA_ARGS)); }
+VormStatus n8_ownvormDet_ma_32f_L(DET_MA_PARAMS_L(float)) { return contiguousKernel(detMaL(DET_MA_ARGS_L)); }
 }

@@ -7,6 +7,6 @@ using namespace vorm::factor;
 
 extern "C" {
 
-VormStatus n8_ownvormDet_ma_64f(DET_MA_PARAMS(double)) { return detContiguous(detMa(DET_MA_ARGS)); }
-VormStatus n8_ownvormDet_ma_64f_L(DET_MA_PARAMS_L(double)) { return detContiguous(detMaL(DET_MA_ARGS_L)); }
+VormStatus n8_ownvormDet_ma_64f(DET_MA_PARAMS(double)) { return contiguousKernel(detMa(DET_MA_ARGS)); }
+VormStatus n8_ownvormDet_ma_64f_L(DET_MA_PARAMS_L(double)) { return contiguousKernel(detMaL(DET_MA_ARGS_L)); }
 }

@@ -58,32 +58,32 @@ VORM_INLINE VormStatus invertSingle(const Src& src, T* buffer, const Dst& dst, i
 
 // One matrix.
 template <Kernel kernel = Kernel::other, class T, class TheTests, class Parts>
-VORM_INLINE VormStatus invertAnyStride(const Call<T, TheTests, Parts>& call)
+VORM_INLINE VormStatus anyStrideKernel(const Call<T, TheTests, Parts>& call)
 {
     return call.parts.with([](const auto& src, const auto& buffer, const auto& dst, Size order)
                                VORM_INLINE_LAMBDA { return invertSingle<kernel>(src, buffer.p, dst, order.value); });
 }
 // Arrays of matrices.
 template <Kernel kernel = Kernel::other, class T, class TheTests, class Parts>
-VORM_INLINE VormStatus invertAnyStride(const ArrayCall<T, TheTests, Parts>& call)
+VORM_INLINE VormStatus anyStrideKernel(const ArrayCall<T, TheTests, Parts>& call)
 {
     return call.parts.with(
         [](const auto& src, const auto& buffer, const auto& dst, Size order, Count count)
             VORM_INLINE_LAMBDA { return invertKernel<kernel>(src, buffer.p, dst, order.value, count.value); });
 }
 template <class TheCall>
-VORM_INLINE VormStatus invertContiguous(const TheCall& call)
+VORM_INLINE VormStatus contiguousKernel(const TheCall& call)
 {
-    return invertAnyStride<Kernel::contiguous>(withAdjacent(call));
+    return anyStrideKernel<Kernel::contiguous>(withAdjacent(call));
 }
 // Lists of packed objects too have the thresholds and reciprocals of elements anywhere.
 template <class TheCall>
-VORM_INLINE VormStatus invertList(const TheCall& call)
+VORM_INLINE VormStatus listKernel(const TheCall& call)
 {
-    return invertAnyStride(withAdjacent(call));
+    return anyStrideKernel(withAdjacent(call));
 }
 template <class T, class TheTests, class Parts>
-VORM_INLINE VormStatus invertPointers(const ArrayCall<T, TheTests, Parts>& call)
+VORM_INLINE VormStatus pointerKernel(const ArrayCall<T, TheTests, Parts>& call)
 {
     return call.parts.with(
         [](const auto& src, const auto& buffer, const auto& dst, Size order, Count count) VORM_INLINE_LAMBDA {

@@ -103,7 +103,7 @@ VORM_HIDDEN bool reciprocalsOfDeterminants(Lanes<T>* a, int n, Lanes<T>& recipro
 // The inverse of a packed matrix of an order up to bufferedOrder, all its minors times the reciprocal.
 template <class T>
 VORM_HIDDEN void invertByMinors(const T* a, int n, T reciprocal, T* inverse);
-// The minor of n - 1 rows and columns that lies in a buffer for order n, times factor.
+// The minor of n - 1 rows and columns that lies in a buffer for order n, times reciprocal and sign.
 template <class T>
 VORM_HIDDEN T scaledMinor(T* buffer, int n, T reciprocal, T sign);
 

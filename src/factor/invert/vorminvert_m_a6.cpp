@@ -7,5 +7,5 @@ using namespace vorm::factor;
 
 extern "C" {
 
-VormStatus n8_ownvormInvert_m_32f(INVERT_M_PARAMS(float)) { return invertContiguous(invertM(INVERT_M_ARGS)); }
+VormStatus n8_ownvormInvert_m_32f(INVERT_M_PARAMS(float)) { return contiguousKernel(invertM(INVERT_M_ARGS)); }
 }

@@ -25,8 +25,8 @@ VormStatus n8_vormInvert_m_64f_P(INVERT_M_PARAMS_P(double))
     return checkedInverse(invertMP(INVERT_M_ARGS_P), n8_ownvormInvert_m_64f_P, INVERT_M_ARGS_P);
 }
 
-VormStatus n8_ownvormInvert_m_32f_S2(INVERT_M_PARAMS(float)) { return invertAnyStride(invertM(INVERT_M_ARGS)); }
-VormStatus n8_ownvormInvert_m_64f_S2(INVERT_M_PARAMS(double)) { return invertAnyStride(invertM(INVERT_M_ARGS)); }
-VormStatus n8_ownvormInvert_m_32f_P(INVERT_M_PARAMS_P(float)) { return invertAnyStride(invertMP(INVERT_M_ARGS_P)); }
-VormStatus n8_ownvormInvert_m_64f_P(INVERT_M_PARAMS_P(double)) { return invertAnyStride(invertMP(INVERT_M_ARGS_P)); }
+VormStatus n8_ownvormInvert_m_32f_S2(INVERT_M_PARAMS(float)) { return anyStrideKernel(invertM(INVERT_M_ARGS)); }
+VormStatus n8_ownvormInvert_m_64f_S2(INVERT_M_PARAMS(double)) { return anyStrideKernel(invertM(INVERT_M_ARGS)); }
+VormStatus n8_ownvormInvert_m_32f_P(INVERT_M_PARAMS_P(float)) { return anyStrideKernel(invertMP(INVERT_M_ARGS_P)); }
+VormStatus n8_ownvormInvert_m_64f_P(INVERT_M_PARAMS_P(double)) { return anyStrideKernel(invertMP(INVERT_M_ARGS_P)); }
 }

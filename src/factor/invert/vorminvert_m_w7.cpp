@@ -7,5 +7,5 @@ using namespace vorm::factor;
 
 extern "C" {
 
-VormStatus n8_ownvormInvert_m_64f(INVERT_M_PARAMS(double)) { return invertContiguous(invertM(INVERT_M_ARGS)); }
+VormStatus n8_ownvormInvert_m_64f(INVERT_M_PARAMS(double)) { return contiguousKernel(invertM(INVERT_M_ARGS)); }
 }

@@ -7,6 +7,6 @@ using namespace vorm::factor;
 
 extern "C" {
 
-VormStatus n8_ownvormInvert_ma_32f(INVERT_MA_PARAMS(float)) { return invertContiguous(invertMa(INVERT_MA_ARGS)); }
-VormStatus n8_ownvormInvert_ma_32f_L(INVERT_MA_PARAMS_L(float)) { return invertList(invertMaL(INVERT_MA_ARGS_L)); }
+VormStatus n8_ownvormInvert_ma_32f(INVERT_MA_PARAMS(float)) { return contiguousKernel(invertMa(INVERT_MA_ARGS)); }
+VormStatus n8_ownvormInvert_ma_32f_L(INVERT_MA_PARAMS_L(float)) { return listKernel(invertMaL(INVERT_MA_ARGS_L)); }
 }

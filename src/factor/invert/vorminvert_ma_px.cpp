@@ -39,16 +39,16 @@ VormStatus n8_vormInvert_ma_64f_P(INVERT_MA_PARAMS_P(double))
                                 INVERT_MA_ARGS_P);
 }
 
-VormStatus n8_ownvormInvert_ma_32f_S2(INVERT_MA_PARAMS(float)) { return invertAnyStride(invertMa(INVERT_MA_ARGS)); }
-VormStatus n8_ownvormInvert_ma_64f_S2(INVERT_MA_PARAMS(double)) { return invertAnyStride(invertMa(INVERT_MA_ARGS)); }
+VormStatus n8_ownvormInvert_ma_32f_S2(INVERT_MA_PARAMS(float)) { return anyStrideKernel(invertMa(INVERT_MA_ARGS)); }
+VormStatus n8_ownvormInvert_ma_64f_S2(INVERT_MA_PARAMS(double)) { return anyStrideKernel(invertMa(INVERT_MA_ARGS)); }
 VormStatus n8_ownvormInvert_ma_32f_LS2(INVERT_MA_PARAMS_L(float))
 {
-    return invertAnyStride(invertMaL(INVERT_MA_ARGS_L));
+    return anyStrideKernel(invertMaL(INVERT_MA_ARGS_L));
 }
 VormStatus n8_ownvormInvert_ma_64f_LS2(INVERT_MA_PARAMS_L(double))
 {
-    return invertAnyStride(invertMaL(INVERT_MA_ARGS_L));
+    return anyStrideKernel(invertMaL(INVERT_MA_ARGS_L));
 }
-VormStatus n8_ownvormInvert_ma_32f_P(INVERT_MA_PARAMS_P(float)) { return invertPointers(invertMaP(INVERT_MA_ARGS_P)); }
-VormStatus n8_ownvormInvert_ma_64f_P(INVERT_MA_PARAMS_P(double)) { return invertPointers(invertMaP(INVERT_MA_ARGS_P)); }
+VormStatus n8_ownvormInvert_ma_32f_P(INVERT_MA_PARAMS_P(float)) { return pointerKernel(invertMaP(INVERT_MA_ARGS_P)); }
+VormStatus n8_ownvormInvert_ma_64f_P(INVERT_MA_PARAMS_P(double)) { return pointerKernel(invertMaP(INVERT_MA_ARGS_P)); }
 }

@@ -7,6 +7,6 @@ using namespace vorm::factor;
 
 extern "C" {
 
-VormStatus n8_ownvormInvert_ma_64f(INVERT_MA_PARAMS(double)) { return invertContiguous(invertMa(INVERT_MA_ARGS)); }
-VormStatus n8_ownvormInvert_ma_64f_L(INVERT_MA_PARAMS_L(double)) { return invertList(invertMaL(INVERT_MA_ARGS_L)); }
+VormStatus n8_ownvormInvert_ma_64f(INVERT_MA_PARAMS(double)) { return contiguousKernel(invertMa(INVERT_MA_ARGS)); }
+VormStatus n8_ownvormInvert_ma_64f_L(INVERT_MA_PARAMS_L(double)) { return listKernel(invertMaL(INVERT_MA_ARGS_L)); }
 }

@@ -5,18 +5,22 @@
 
 namespace vorm::math3d {
 
+// A lane where it is, zero elsewhere.
+template <int k>
+VORM_INLINE Lanes<float> only(Lanes<float> a)
+{
+    const __m128i bits = _mm_setr_epi32(-(k == 0), -(k == 1), -(k == 2), -(k == 3));
+    return where(LaneMask<float>{_mm_castsi128_ps(bits)}, a);
+}
 // Rows 0 and 1 are the same in all of them.
 VORM_INLINE Matrix4 projection(Lanes<float> quotients, Lanes<float> row2, Lanes<float> row3)
 {
-    const Lanes<float> zero = 0.0f, scales = interleaveLow(zero, quotients);  // 0 x 0 y
-    return {{shuffle<1, 0, 0, 0>(scales, zero), shuffle<0, 3, 0, 0>(scales, zero), row2, row3}};
+    return {{only<0>(quotients), only<1>(quotients), row2, row3}};
 }
-// Moved by x and y.
-VORM_INLINE Matrix4 parallel(Lanes<float> quotients, Lanes<float> xy = 0.0f)
+VORM_INLINE Matrix4 parallel(Lanes<float> quotients)
 {
     const Lanes<float> zero = 0.0f, one = 1.0f;
-    return projection(quotients, shuffle<0, 0, 0, 1>(zero, interleaveHigh(quotients, zero)),
-                      shuffle<0, 1, 2, 3>(xy, interleaveHigh(quotients, one)));
+    return projection(quotients, only<2>(quotients), shuffle<0, 0, 2, 3>(zero, interleaveHigh(quotients, one)));
 }
 // w becomes z, or -z: side is 1 or -1. x and y are moved by so much of it.
 VORM_INLINE Matrix4 central(Lanes<float> quotients, float side, Lanes<float> xy = 0.0f)

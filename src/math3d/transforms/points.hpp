@@ -1,12 +1,10 @@
 // Arrays of points, one point in each lane, and what is done to them.
 //
-// A transform is a template over a number, which may be one point's or a register of many: it is made of the call's
-// constants and changes a point (x, y, ...) in place, in the same order of operations whatever the number is. It
-// returns a status.
+// A transform is a template over a register of numbers: it is made of the call's constants and changes points
+// (x, y, ...) in place, in the same order of operations however wide the register is. It returns a status.
 #pragma once
 
-#include "frame/shuffles.hpp"
-#include "math3d/layers.hpp"
+#include "math3d/matrices/matrix4.hpp"
 #include "math3d/vectors.hpp"
 
 namespace vorm::math3d {
@@ -174,14 +172,15 @@ VORM_INLINE VormStatus eachPoint(const Constants& constants, const float* pSrc, 
                                      VectorArray{pDst, dstStride0, adjacent}, count);
 }
 
-template <int Len, template <class> class Transform, class Constants>
-VORM_INLINE VormStatus onePoint(const Constants& constants, const float* pSrc, float* pDst)
+// A single point: each coordinate in all lanes, so that rows of a matrix make a row of results.
+template <int Len, class RowOf>
+VORM_INLINE VormStatus onePoint(const float* pMatrix, const float* pSrc, float* pDst, const RowOf& rowOf)
 {
-    float v[Len];
+    const Matrix4 m = Matrix4::load(pMatrix);
+    Lanes<float> v[Len];
     for (int i = 0; i < Len; ++i) v[i] = at(pSrc, i);
-    const VormStatus status = Transform<float>(constants)(v);
-    for (int i = 0; i < Len; ++i) at(pDst, i) = v[i];
-    return status;
+    storeFirst(pDst, rowOf(v, m.rows), Len);
+    return StatusOk;
 }
 
 }  // namespace vorm::math3d

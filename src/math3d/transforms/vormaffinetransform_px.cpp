@@ -121,7 +121,8 @@ VormStatus n8_vormAffineTransform_m4v3_32f(const float* pMatrix, const float* pS
 }
 VormStatus n8_vormAffineTransform_m4v4_32f(const float* pMatrix, const float* pSrc, float* pDst)
 {
-    return transform<4>(pMatrix, pSrc, pDst);
+    through(Matrix4::load(pMatrix), Lanes<float>::load(pSrc)).store(pDst);  // rearranged rows pay in arrays
+    return StatusOk;
 }
 VormStatus n8_vormAffineTransform_m4v2a_32f(ARRAY_PARAMS) { return transformArray<2>(ARRAY_ARGS); }
 VormStatus n8_vormAffineTransform_m4v3a_32f(ARRAY_PARAMS) { return transformArray<3>(ARRAY_ARGS); }

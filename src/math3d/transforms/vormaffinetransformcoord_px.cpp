@@ -9,11 +9,11 @@ extern "C" {
 
 VormStatus n8_vormAffineTransformCoord_m4v2_32f(const float* pMatrix, const float* pSrc, float* pDst)
 {
-    return onePoint<2, Coord>(Elements<float>(pMatrix), pSrc, pDst);
+    return oneCoord<2>(pMatrix, pSrc, pDst);
 }
 VormStatus n8_vormAffineTransformCoord_m4v3_32f(const float* pMatrix, const float* pSrc, float* pDst)
 {
-    return onePoint<3, Coord>(Elements<float>(pMatrix), pSrc, pDst);
+    return oneCoord<3>(pMatrix, pSrc, pDst);
 }
 VormStatus n8_vormAffineTransformCoord_m4v2a_32f(const float* pMatrix, const float* pSrc, int srcStride0, float* pDst,
                                                  int dstStride0, int count)

@@ -40,11 +40,6 @@ struct Projecting {
     }
 };
 
-VORM_INLINE Lanes<float> through(const Matrix4& m, Lanes<float> v)
-{
-    return (splat<0>(v) * m.rows[0] + splat<1>(v) * m.rows[1]) + (splat<2>(v) * m.rows[2] + splat<3>(v) * m.rows[3]);
-}
-
 }  // namespace
 
 extern "C" {

@@ -25,7 +25,7 @@ struct Viewport {
     float width, height, minZ, depth;
 };
 
-// What is left of a point in the viewport is in the unit cube of the projection.
+// From the viewport to the range of the projection: x and y in -1 to 1 with y upward, z in 0 to 1.
 template <class Number>
 VORM_INLINE void normalise(Number (&v)[3], Number width, Number height, Number minZ, Number depth)
 {
@@ -84,7 +84,7 @@ VormStatus n8_vormUnproject_m4v3_32f(const float* pProjection, const float* pVie
     float inverse[16];
     const VormStatus status = inverseOf(pProjection, pView, pWorld, inverse);
     if (status != StatusOk) return status;
-    return onePoint<3, Coord>(Elements<float>(inverse), v, pDst);
+    return oneCoord<3>(inverse, v, pDst);
 }
 
 VormStatus n8_vormUnproject_m4v3a_32f(const float* pProjection, const float* pView, const float* pWorld,

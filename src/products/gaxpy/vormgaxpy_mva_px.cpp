@@ -43,11 +43,11 @@ VormStatus n8_ownvormGaxpy_mva_32f_S2(GAXPY_MVA_PARAMS(float)) { return gaxpyAny
 VormStatus n8_ownvormGaxpy_mva_64f_S2(GAXPY_MVA_PARAMS(double)) { return gaxpyAnyStride(gaxpyMva(GAXPY_MVA_ARGS)); }
 VormStatus n8_ownvormGaxpy_mva_32f_LS2(GAXPY_MVA_PARAMS_L(float))
 {
-    return eachSingle(gaxpyMvaL(GAXPY_MVA_ARGS_L), n8_ownvormGaxpy_mv_32f_S2);
+    return gaxpyAnyStrideList(gaxpyMvaL(GAXPY_MVA_ARGS_L));
 }
 VormStatus n8_ownvormGaxpy_mva_64f_LS2(GAXPY_MVA_PARAMS_L(double))
 {
-    return eachSingle(gaxpyMvaL(GAXPY_MVA_ARGS_L), n8_ownvormGaxpy_mv_64f_S2);
+    return gaxpyAnyStrideList(gaxpyMvaL(GAXPY_MVA_ARGS_L));
 }
 VormStatus n8_ownvormGaxpy_mva_32f_P(GAXPY_MVA_PARAMS_P(float)) { return gaxpyPointers(gaxpyMvaP(GAXPY_MVA_ARGS_P)); }
 VormStatus n8_ownvormGaxpy_mva_64f_P(GAXPY_MVA_PARAMS_P(double)) { return gaxpyPointers(gaxpyMvaP(GAXPY_MVA_ARGS_P)); }

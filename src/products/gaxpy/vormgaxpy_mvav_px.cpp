@@ -43,11 +43,11 @@ VormStatus n8_ownvormGaxpy_mvav_32f_S2(GAXPY_MVAV_PARAMS(float)) { return gaxpyA
 VormStatus n8_ownvormGaxpy_mvav_64f_S2(GAXPY_MVAV_PARAMS(double)) { return gaxpyAnyStride(gaxpyMvav(GAXPY_MVAV_ARGS)); }
 VormStatus n8_ownvormGaxpy_mvav_32f_LS2(GAXPY_MVAV_PARAMS_L(float))
 {
-    return eachSingle(gaxpyMvavL(GAXPY_MVAV_ARGS_L), n8_ownvormGaxpy_mv_32f_S2);
+    return gaxpyAnyStrideList(gaxpyMvavL(GAXPY_MVAV_ARGS_L));
 }
 VormStatus n8_ownvormGaxpy_mvav_64f_LS2(GAXPY_MVAV_PARAMS_L(double))
 {
-    return eachSingle(gaxpyMvavL(GAXPY_MVAV_ARGS_L), n8_ownvormGaxpy_mv_64f_S2);
+    return gaxpyAnyStrideList(gaxpyMvavL(GAXPY_MVAV_ARGS_L));
 }
 VormStatus n8_ownvormGaxpy_mvav_32f_P(GAXPY_MVAV_PARAMS_P(float))
 {
