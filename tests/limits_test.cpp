@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 namespace {
 
 class Limits : public testing::Test {
@@ -116,6 +118,36 @@ TEST_F(Limits, OthersNeverAsk)
         const int size = sizeUpTo(60, f);
         EXPECT_TRUE(drives || askedBy(f, {size, size, size}, f.isArray() ? 50 : 1, 4) == 0) << f.name;
     }
+}
+
+// Every chunk has its own stretch of a caller's buffer, as long as one call alone needs: the last one is used to its
+// end.
+TEST_F(Limits, EveryChunkHasItsOwnBuffer)
+{
+    constexpr int threads = 3, order = 17, height = 20, determinants = 900, inverses = 80, decompositions = 4;
+    constexpr double unused = 1e300;
+    std::mt19937 numbers{7};
+    std::vector<double> src(height * height + determinants);  // objects begin one element apart
+    for (double& element : src) element = std::uniform_real_distribution<double>(-1, 1)(numbers);
+    std::vector<double> dst(std::max(inverses * order * order, decompositions * height * height));
+    constexpr int e = sizeof(double);
+    const auto expectUsed = [&](const char* name, int stretch, int used, const auto& call) {
+        std::vector<double> buffer(std::size_t(threads * stretch), unused);
+        EXPECT_EQ(askedDuring(threads, [&] { EXPECT_EQ(call(buffer.data()), StatusOk) << name; }), 2) << name;
+        for (int t = 0; t < threads; ++t)
+            EXPECT_NE(buffer[std::size_t(t * stretch + used - 1)], unused) << name << ", chunk " << t;
+    };
+    expectUsed("vormDet_ma_64f", order * (order + 1), order * order, [&](double* buffer) {
+        return vormDet_ma_64f(src.data(), e, order * e, e, order, buffer, dst.data(), determinants);
+    });
+    expectUsed("vormInvert_ma_64f", order * (order + 1), order * order, [&](double* buffer) {
+        return vormInvert_ma_64f(src.data(), e, order * e, e, buffer, dst.data(), order * order * e, order * e, e,
+                                 order, inverses);
+    });
+    expectUsed("vormQRDecomp_ma_64f", height, height, [&](double* buffer) {
+        return vormQRDecomp_ma_64f(src.data(), e, height * e, e, buffer, dst.data(), height * height * e, height * e, e,
+                                   height, height, decompositions);
+    });
 }
 
 // A measure that wraps to a negative number stays serial. The objects lie over each other.
