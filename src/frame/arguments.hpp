@@ -5,6 +5,7 @@
 #pragma once
 
 #include <climits>
+#include <cstddef>
 
 #include "frame/memory.hpp"
 #include "frame/pin.hpp"
@@ -145,5 +146,48 @@ struct Buffer {
 };
 template <class T>
 Buffer(T*, int) -> Buffer<T>;
+
+// A caller's work space of which a forked call uses nothing: each of its workers has one of its own for the time of
+// the call.
+template <class T>
+struct WorkSpace {
+    T* p;
+    std::size_t elements;
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return body(Pointer<T>{p});
+    }
+    VORM_INLINE WorkSpace chunk(const Chunk& chunk) const
+    {
+        return {chunk.scratch ? static_cast<T*>(static_cast<void*>(chunk.scratch)) : p, elements};
+    }
+    VORM_INLINE constexpr WorkSpace single(int) const { return *this; }
+    VORM_INLINE constexpr WorkSpace withAdjacent() const { return *this; }
+};
+template <class T>
+WorkSpace(T*, std::size_t) -> WorkSpace<T>;
+
+// Two operands that are tested as one, where operands are tested one by one.
+template <class First, class Second>
+struct Together {
+    First first;
+    Second second;
+    template <class Body>
+    VORM_INLINE constexpr auto arguments(const Body& body) const
+    {
+        return first.arguments([&](auto... own) VORM_INLINE_LAMBDA {
+            return second.arguments([&](auto... others) VORM_INLINE_LAMBDA { return body(own..., others...); });
+        });
+    }
+    VORM_INLINE constexpr Together chunk(const Chunk& chunk) const { return {first.chunk(chunk), second.chunk(chunk)}; }
+    VORM_INLINE constexpr auto single(int n) const { return vorm::Together{first.single(n), second.single(n)}; }
+    VORM_INLINE constexpr auto withAdjacent() const
+    {
+        return vorm::Together{first.withAdjacent(), second.withAdjacent()};
+    }
+};
+template <class First, class Second>
+Together(First, Second) -> Together<First, Second>;
 
 }  // namespace vorm

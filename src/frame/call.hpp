@@ -53,6 +53,9 @@ enum class Test { null, count, size, fit, stride, shift };
 template <Test... tests>
 struct Tests {
 };
+// Some tests of the whole call, then others of its parts, one part after the other.
+template <class OfTheCall, class OfEachPart>
+struct PartByPart;
 using UsualTests = Tests<Test::null, Test::count, Test::size, Test::fit, Test::stride, Test::shift>;
 
 // The call of a function that works on a single object, and that of one that works on an array.
@@ -74,11 +77,23 @@ VORM_INLINE constexpr Call<T, TheTests, PartsOf<Part...>> callOf(Part... part)
 {
     return {{{part}...}};
 }
-// The count is the last part of every array call.
+// The count is the last part of an array call, or one of the parts given.
 template <class T, class TheTests = UsualTests, class... Part>
 VORM_INLINE constexpr ArrayCall<T, TheTests, PartsOf<Part..., Count>> arrayCallOf(Work work, int count, Part... part)
 {
     return {{{{part}..., {Count{count}}}}, work, count};
+}
+template <class T, class TheTests = UsualTests, class... Part>
+requires(... || std::is_same_v<Part, Count>) VORM_INLINE
+    constexpr ArrayCall<T, TheTests, PartsOf<Part...>> arrayCallOf(Work work, Part... part)
+{
+    const auto objects = [](const auto& one) VORM_INLINE_LAMBDA {
+        if constexpr (std::is_same_v<decltype(one), const Count&>)
+            return one.value;
+        else
+            return 0;
+    };
+    return {{{{part}...}}, work, (... + objects(part))};
 }
 
 // Public layers. -------------------------------------------------------------------------------------------------
@@ -138,17 +153,30 @@ VORM_INLINE auto withTested(const Body& body, const First& first, const Rest&...
     });
 }
 
+template <class T, Test... tests, class... Part>
+VORM_INLINE VormStatus testedParts(Tests<tests...>, const Part&... part)
+{
+    return withTested(
+        [](auto... argument) VORM_INLINE_LAMBDA {
+            VormStatus status = StatusOk;
+            static_cast<void>((... && ((status = outcome<tests, T>(argument...)) == StatusOk)));
+            return status;
+        },
+        part...);
+}
 template <class T, Test... tests, class Parts>
 VORM_INLINE VormStatus tested(const Call<T, Tests<tests...>, Parts>& call)
 {
+    return call.parts.with([](const auto&... part)
+                               VORM_INLINE_LAMBDA { return testedParts<T>(Tests<tests...>{}, part...); });
+}
+template <class T, class OfTheCall, class OfEachPart, class Parts>
+VORM_INLINE VormStatus tested(const Call<T, PartByPart<OfTheCall, OfEachPart>, Parts>& call)
+{
     return call.parts.with([](const auto&... part) VORM_INLINE_LAMBDA {
-        return withTested(
-            [](auto... argument) VORM_INLINE_LAMBDA {
-                VormStatus status = StatusOk;
-                static_cast<void>((... && ((status = outcome<tests, T>(argument...)) == StatusOk)));
-                return status;
-            },
-            part...);
+        VormStatus status = testedParts<T>(OfTheCall{}, part...);
+        static_cast<void>((... && (status == StatusOk && ((status = testedParts<T>(OfEachPart{}, part)) == StatusOk))));
+        return status;
     });
 }
 

@@ -14,13 +14,28 @@ VORM_INLINE std::int64_t picosecondsOf(const ArrayCall<T, TheTests, Parts>& call
     return static_cast<std::int64_t>(picoseconds < 1e15 ? picoseconds : 1e15);
 }
 
+// The work space that each worker of a call needs.
+template <class Part>
+VORM_INLINE constexpr std::size_t workSpaceOf(const Part&)
+{
+    return 0;
+}
+template <class T>
+VORM_INLINE constexpr std::size_t workSpaceOf(const WorkSpace<T>& space)
+{
+    return space.elements * sizeof(T);
+}
+
 template <Kernels kernels = Kernels::cannotFail, class T, class TheTests, class Parts, class... Argument>
 VORM_INLINE VormStatus team(const ArrayCall<T, TheTests, Parts>& call, VormStatus (*kernel)(Argument...))
 {
-    return inTeam<kernels>(call.count, picosecondsOf(call), [&call, kernel](const Chunk& chunk) {
+    const std::size_t workSpace =
+        call.parts.with([](const auto&... part) VORM_INLINE_LAMBDA { return (... + workSpaceOf(part)); });
+    const auto work = [&call, kernel](const Chunk& chunk) {
         return call.parts.with([&](const auto&... part)
                                    VORM_INLINE_LAMBDA { return withArguments(kernel, part.chunk(chunk)...); });
-    });
+    };
+    return inTeam<kernels>(call.count, picosecondsOf(call), work, workSpace);
 }
 template <Kernels kernels = Kernels::cannotFail, class T, class TheTests, class Parts, class... Argument>
 VORM_INLINE VormStatus team(const ArrayCall<T, TheTests, Parts>& call, VormStatus (*kernel)(Argument...),
