@@ -1,8 +1,8 @@
 // The kernels of vormLUDecomp over the parts of a call: the source, the row numbers, the destination, the order.
 #pragma once
 
-#include "factor/lu.hpp"
-#include "factor/lu_decomp.hpp"
+#include "factor/lu/lu.hpp"
+#include "factor/lu/lu_decomp.hpp"
 
 // One matrix on the general path. The kernels of single matrices and those of arrays call the same
 // routine, so that an object of an array has the bits of the single one.

@@ -1,8 +1,8 @@
 // The kernels of vormCholeskyBackSubst over the parts of a call: the factor, right-hand side, solution, order.
 #pragma once
 
-#include "factor/cholesky_back_subst.hpp"
-#include "factor/cholesky_solve_general.hpp"
+#include "factor/cholesky/cholesky_back_subst.hpp"
+#include "factor/cholesky/cholesky_solve_general.hpp"
 
 namespace vorm::factor {
 

@@ -1,6 +1,6 @@
 // vormLUBackSubst_mva: team-parallel drivers.
 
-#include "factor/lu_back_subst.hpp"
+#include "factor/lu/lu_back_subst.hpp"
 #include "frame/driver.hpp"
 
 using namespace vorm;

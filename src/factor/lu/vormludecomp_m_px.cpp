@@ -1,6 +1,6 @@
 // vormLUDecomp_m: public layers, the kernels for elements anywhere, and their general routines.
 
-#include "factor/lu_decomp_calls.hpp"
+#include "factor/lu/lu_decomp_calls.hpp"
 
 using namespace vorm;
 using namespace vorm::factor;

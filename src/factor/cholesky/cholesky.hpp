@@ -3,8 +3,8 @@
 // cholesky_general.hpp for all others.
 #pragma once
 
-#include "factor/cholesky_general.hpp"
-#include "factor/cholesky_triangle.hpp"
+#include "factor/cholesky/cholesky_general.hpp"
+#include "factor/cholesky/cholesky_triangle.hpp"
 #include "frame/blocks.hpp"
 
 namespace vorm::factor {

@@ -2,8 +2,8 @@
 // arrays of orders that are not too high several objects at a time in a buffer.
 #pragma once
 
-#include "factor/cholesky_general.hpp"
-#include "factor/cholesky_solve.hpp"
+#include "factor/cholesky/cholesky_general.hpp"
+#include "factor/cholesky/cholesky_solve.hpp"
 
 namespace vorm::factor {
 

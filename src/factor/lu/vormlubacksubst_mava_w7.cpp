@@ -1,6 +1,6 @@
 // vormLUBackSubst_mava: the kernels for contiguous elements, double precision.
 
-#include "factor/lu_back_subst_calls.hpp"
+#include "factor/lu/lu_back_subst_calls.hpp"
 
 using namespace vorm;
 using namespace vorm::factor;

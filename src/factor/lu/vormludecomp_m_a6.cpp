@@ -1,6 +1,6 @@
 // vormLUDecomp_m: the kernel for contiguous elements and its general routine, single precision.
 
-#include "factor/lu_decomp_calls.hpp"
+#include "factor/lu/lu_decomp_calls.hpp"
 
 using namespace vorm;
 using namespace vorm::factor;

@@ -1,6 +1,6 @@
 // vormLUDecomp_ma: public layers, and the kernels for elements anywhere.
 
-#include "factor/lu_decomp_calls.hpp"
+#include "factor/lu/lu_decomp_calls.hpp"
 
 using namespace vorm;
 using namespace vorm::factor;

@@ -1,6 +1,6 @@
 // vormLUDecomp_ma: team-parallel drivers.
 
-#include "factor/lu_decomp.hpp"
+#include "factor/lu/lu_decomp.hpp"
 #include "frame/driver.hpp"
 
 using namespace vorm;

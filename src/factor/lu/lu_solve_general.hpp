@@ -2,8 +2,8 @@
 // for arrays of orders that are not too high several objects at a time in a buffer.
 #pragma once
 
-#include "factor/lu_general.hpp"
-#include "factor/lu_solve.hpp"
+#include "factor/lu/lu_general.hpp"
+#include "factor/lu/lu_solve.hpp"
 
 namespace vorm::factor {
 

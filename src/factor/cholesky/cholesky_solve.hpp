@@ -2,7 +2,7 @@
 // objects or two.
 #pragma once
 
-#include "factor/cholesky_triangle.hpp"
+#include "factor/cholesky/cholesky_triangle.hpp"
 #include "frame/blocks.hpp"
 #include "frame/pin.hpp"
 

@@ -1,6 +1,6 @@
 // vormLUDecomp_ma: the kernels for contiguous elements, double precision.
 
-#include "factor/lu_decomp_calls.hpp"
+#include "factor/lu/lu_decomp_calls.hpp"
 
 using namespace vorm;
 using namespace vorm::factor;

@@ -1,8 +1,8 @@
 // The kernels of vormCholeskyDecomp over the parts of a call: the source, the destination, the order.
 #pragma once
 
-#include "factor/cholesky.hpp"
-#include "factor/cholesky_decomp.hpp"
+#include "factor/cholesky/cholesky.hpp"
+#include "factor/cholesky/cholesky_decomp.hpp"
 
 namespace vorm::factor {
 

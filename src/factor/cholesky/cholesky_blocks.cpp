@@ -1,7 +1,7 @@
 // Cholesky decomposition and substitution of one matrix or of registers of them: each body once, for all layouts.
 
-#include "factor/cholesky.hpp"
-#include "factor/cholesky_solve_general.hpp"
+#include "factor/cholesky/cholesky.hpp"
+#include "factor/cholesky/cholesky_solve_general.hpp"
 
 namespace vorm::factor {
 

@@ -3,8 +3,8 @@
 #include <array>
 #include <cstdint>
 
-#include "factor/lu.hpp"
-#include "factor/lu_solve_general.hpp"
+#include "factor/lu/lu.hpp"
+#include "factor/lu/lu_solve_general.hpp"
 
 namespace vorm::factor {
 namespace {

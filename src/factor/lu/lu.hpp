@@ -6,8 +6,8 @@
 
 #include <cstring>
 
-#include "factor/lu_elimination.hpp"
-#include "factor/lu_general.hpp"
+#include "factor/lu/lu_elimination.hpp"
+#include "factor/lu/lu_general.hpp"
 #include "frame/blocks.hpp"
 #include "frame/object_rows.hpp"
 #include "frame/pin.hpp"

@@ -2,8 +2,8 @@
 // order.
 #pragma once
 
-#include "factor/lu_back_subst.hpp"
-#include "factor/lu_solve_general.hpp"
+#include "factor/lu/lu_back_subst.hpp"
+#include "factor/lu/lu_solve_general.hpp"
 
 namespace vorm::factor {
 

@@ -1,6 +1,6 @@
 // vormLUBackSubst_mva: the kernels for contiguous elements, single precision.
 
-#include "factor/lu_back_subst_calls.hpp"
+#include "factor/lu/lu_back_subst_calls.hpp"
 
 using namespace vorm;
 using namespace vorm::factor;
