@@ -134,5 +134,4 @@ Limit limitOf(const Function& f, const Sizes& s, int count, bool isContiguous)
                                        : by.standardAnyStride;
     const bool drives = from > 0 && f.name != "vormSub_mat_32f_L";
     return {static_cast<std::int32_t>(measure), drives ? from : INT32_MAX};
-    return {static_cast<std::int32_t>(measure), from ? from : INT32_MAX};
 }
