@@ -167,7 +167,9 @@ template <class Op, int n, class T, class Elements>
         }
     }
     if constexpr (n < 3) {
-        measureAnywhere<Op>(src, n, 1, dst, count);
+        Sources<Op, Elements> inRow = src;
+        for (auto& source : inRow.of) source.column = sizeof(T);
+        measureAnywhere<Op>(inRow, 1, n, dst, count);
         return;
     } else if constexpr (Op::sources == 2) {
         if (src.of[1].isCommon()) {
