@@ -37,6 +37,7 @@
 #include "vorm/products.inc"
 #include "vorm/factor.inc"
 #include "vorm/math3d.inc"
+#include "vorm/movement.inc"
 #undef VORM_FUNCTION
 
     .section .note.GNU-stack, "", @progbits

@@ -161,6 +161,7 @@ const std::vector<Function>& catalogue()
 #include "vorm/elementwise.inc"
 #include "vorm/factor.inc"
 #include "vorm/math3d.inc"
+#include "vorm/movement.inc"
 #include "vorm/products.inc"
 #undef VORM_FUNCTION
     };

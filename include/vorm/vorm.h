@@ -15,6 +15,7 @@ extern "C" {
 #include "vorm/elementwise.inc"
 #include "vorm/factor.inc"
 #include "vorm/math3d.inc"
+#include "vorm/movement.inc"
 #include "vorm/products.inc"
 #undef VORM_FUNCTION
 
