@@ -162,6 +162,7 @@ const std::vector<Function>& catalogue()
 #include "vorm/factor.inc"
 #include "vorm/math3d.inc"
 #include "vorm/measures.inc"
+#include "vorm/movement.inc"
 #include "vorm/products.inc"
 #undef VORM_FUNCTION
     };
