@@ -25,6 +25,12 @@ Order orderOf(const Function& f)
         if (f.layout == "L") return {null, size, stride, shift, count};
         return {null, size, stride, count, shift};
     }
+    if (f.family == "CrossProduct" && f.shape == "vav")
+        return f.layout == "L" ? Order{null, stride, shift, count} : Order{null, stride, count, shift};
+    if (f.family == "Extract") {
+        if (!f.isArray() && f.layout == "P") return {size, null, shift};
+        return {null, size, count, shift, stride};
+    }
     if (f.layout.empty() && ((vectorSum && f.shape == "mam") || (f.family == "Sub" && f.shape == "mma")))
         return {null, count, stride, size};
     if (f.family == "CholeskyBackSubst" && f.shape == "mva" && f.layout == "L")
@@ -161,6 +167,8 @@ TEST(Arguments, CatalogueIsRead)
     EXPECT_EQ(members["Saxpy"], 22);
     EXPECT_EQ(members["LComb"], 16);
     EXPECT_EQ(members["Mul"], 22);
+    EXPECT_EQ(members["CrossProduct"], 22);
+    EXPECT_EQ(members["Extract"], 10);
     EXPECT_EQ(members["Normalize fixed"], 3);
     const Function& f = functionNamed("vormAdd_vav_32f_L");
     EXPECT_EQ(f.family + f.shape + f.type + f.layout, "Addvav32fL");

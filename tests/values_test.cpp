@@ -33,7 +33,7 @@ protected:
     static int countOfDriver(const Function& f, const Sizes& s)
     {
         int count = 1;
-        while (count < 5000 && !limitOf(f, s, count, true).isReached()) ++count;
+        while (count < 8000 && !limitOf(f, s, count, true).isReached()) ++count;
         return count;
     }
     void expectModel(const Function& f, const Problem& p)

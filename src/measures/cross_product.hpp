@@ -53,7 +53,7 @@
 namespace vorm::measures {
 
 // The driver runs above these measures (docs/thresholds.md), by layout.
-constexpr int crossLimit = 18000, crossLimitL = 9000, crossLimitP = 27000;
+constexpr int crossLimit = 36000, crossLimitL = 27000, crossLimitP = 45000;
 
 // The elements that are read and written.
 constexpr int commonMeasure(int count) { return wrapMul(3, wrapAdd(wrapMul(2, count), 1)); }
@@ -78,21 +78,21 @@ using CrossVavTestsL = Tests<Test::null, Test::stride, Test::shift, Test::count>
 template <class T>
 VORM_INLINE auto crossVav(CROSS_VAV_PARAMS(T))
 {
-    return arrayCallOf<T, CrossVavTests>(workOf(commonMeasure(count), byType<T>(1000, 2000), count), count,
+    return arrayCallOf<T, CrossVavTests>(workOf(commonMeasure(count), byType<T>(550, 1300), count), count,
                                          VectorArray{pSrc1, src1Stride0, src1Stride2}, Vector{pSrc2, src2Stride2},
                                          VectorArray{pDst, dstStride0, dstStride2});
 }
 template <class T>
 VORM_INLINE auto crossVavL(CROSS_VAV_PARAMS_L(T))
 {
-    return arrayCallOf<T, CrossVavTestsL>(workOf(commonMeasure(count), byType<T>(1000, 2000), count), count,
+    return arrayCallOf<T, CrossVavTestsL>(workOf(commonMeasure(count), byType<T>(1100, 1800), count), count,
                                           VectorList{ppSrc1, src1Shift, src1Stride2}, Vector{pSrc2, src2Stride2},
                                           VectorList{ppDst, dstShift, dstStride2});
 }
 template <class T>
 VORM_INLINE auto crossVavP(CROSS_VAV_PARAMS_P(T))
 {
-    return arrayCallOf<T, CrossVavTests>(workOf(commonMeasure(count), byType<T>(1000, 2000), count), count,
+    return arrayCallOf<T, CrossVavTests>(workOf(commonMeasure(count), byType<T>(450, 1200), count), count,
                                          VectorArrayPointers{ppSrc1, src1Shift, src1Stride0},
                                          VectorPointers{ppSrc2, src2Shift},
                                          VectorArrayPointers{ppDst, dstShift, dstStride0});
@@ -101,19 +101,19 @@ VORM_INLINE auto crossVavP(CROSS_VAV_PARAMS_P(T))
 template <class T>
 VORM_INLINE auto crossVva(CROSS_VVA_PARAMS(T))
 {
-    return arrayCallOf<T>(workOf(commonMeasure(count), byType<T>(1000, 2000), count), count, Vector{pSrc1, src1Stride2},
+    return arrayCallOf<T>(workOf(commonMeasure(count), byType<T>(550, 1300), count), count, Vector{pSrc1, src1Stride2},
                           VectorArray{pSrc2, src2Stride0, src2Stride2}, VectorArray{pDst, dstStride0, dstStride2});
 }
 template <class T>
 VORM_INLINE auto crossVvaL(CROSS_VVA_PARAMS_L(T))
 {
-    return arrayCallOf<T>(workOf(commonMeasure(count), byType<T>(1000, 2000), count), count, Vector{pSrc1, src1Stride2},
+    return arrayCallOf<T>(workOf(commonMeasure(count), byType<T>(1100, 1800), count), count, Vector{pSrc1, src1Stride2},
                           VectorList{ppSrc2, src2Shift, src2Stride2}, VectorList{ppDst, dstShift, dstStride2});
 }
 template <class T>
 VORM_INLINE auto crossVvaP(CROSS_VVA_PARAMS_P(T))
 {
-    return arrayCallOf<T>(workOf(commonMeasure(count), byType<T>(1000, 2000), count), count,
+    return arrayCallOf<T>(workOf(commonMeasure(count), byType<T>(450, 1200), count), count,
                           VectorPointers{ppSrc1, src1Shift}, VectorArrayPointers{ppSrc2, src2Shift, src2Stride0},
                           VectorArrayPointers{ppDst, dstShift, dstStride0});
 }
@@ -121,21 +121,21 @@ VORM_INLINE auto crossVvaP(CROSS_VVA_PARAMS_P(T))
 template <class T>
 VORM_INLINE auto crossVava(CROSS_VAVA_PARAMS(T))
 {
-    return arrayCallOf<T>(workOf(arraysMeasure(count), byType<T>(1000, 2000), count), count,
+    return arrayCallOf<T>(workOf(arraysMeasure(count), byType<T>(950, 1900), count), count,
                           VectorArray{pSrc1, src1Stride0, src1Stride2}, VectorArray{pSrc2, src2Stride0, src2Stride2},
                           VectorArray{pDst, dstStride0, dstStride2});
 }
 template <class T>
 VORM_INLINE auto crossVavaL(CROSS_VAVA_PARAMS_L(T))
 {
-    return arrayCallOf<T>(workOf(arraysMeasure(count), byType<T>(1000, 2000), count), count,
+    return arrayCallOf<T>(workOf(arraysMeasure(count), byType<T>(1600, 2500), count), count,
                           VectorList{ppSrc1, src1Shift, src1Stride2}, VectorList{ppSrc2, src2Shift, src2Stride2},
                           VectorList{ppDst, dstShift, dstStride2});
 }
 template <class T>
 VORM_INLINE auto crossVavaP(CROSS_VAVA_PARAMS_P(T))
 {
-    return arrayCallOf<T>(workOf(arraysMeasure(count), byType<T>(1000, 2000), count), count,
+    return arrayCallOf<T>(workOf(arraysMeasure(count), byType<T>(850, 1900), count), count,
                           VectorArrayPointers{ppSrc1, src1Shift, src1Stride0},
                           VectorArrayPointers{ppSrc2, src2Shift, src2Stride0},
                           VectorArrayPointers{ppDst, dstShift, dstStride0});
