@@ -61,7 +61,8 @@ int someSize(Random& random)
 // Products of matrices and sums of them, of any sizes.
 bool isRectangular(const Function& f)
 {
-    return f.isProduct() || (f.indexOf("height") >= 0 && (f.family == "Add" || f.family == "Sub" || f.family == "Mul"));
+    return f.isProduct() || (f.indexOf("height") >= 0 &&
+                             (f.family == "Add" || f.family == "Sub" || f.family == "Mul" || f.family == "FrobNorm"));
 }
 
 // So many objects that the work of a call pays for a team, some hundred microseconds.

@@ -6,7 +6,7 @@
 extern const Family fixedForms, vectorSums, vectorScaling, matrixSums, vectorProducts, matrixProducts, gaxpyProducts,
     luDecomposition, luSubstitution, choleskyDecomposition, choleskySubstitution, determinants, inverses, curves,
     transformMatrices, matrixOperations, pointTransforms, affineTransform3DH, qrDecomposition, qrSubstitution,
-    crossProducts, extractions;
+    dotProducts, l2Norms, frobeniusNorms, traces, crossProducts, extractions;
 
 const std::vector<const Family*>& families()
 {
@@ -15,6 +15,7 @@ const std::vector<const Family*>& families()
         &matrixProducts,       &gaxpyProducts,   &luDecomposition,    &luSubstitution,  &choleskyDecomposition,
         &choleskySubstitution, &determinants,    &inverses,           &curves,          &transformMatrices,
         &matrixOperations,     &pointTransforms, &affineTransform3DH, &qrDecomposition, &qrSubstitution,
-        &crossProducts, &extractions};
+        &dotProducts,          &l2Norms,         &frobeniusNorms,     &traces,          &crossProducts,
+        &extractions};
     return all;
 }

@@ -105,6 +105,11 @@ constexpr Row table[] = {
     {"QRDecomp", "ma", [](const Work& w) { return 2 * w.n * w.m * w.count; }, reflections},
     {"QRBackSubst", "mva", [](const Work& w) { return w.n * w.m + (w.n + w.m) * w.count; }, reflections},
     {"QRBackSubst", "mava", [](const Work& w) { return (w.n * (w.m + 1) + w.m) * w.count; }, reflections},
+
+    {"DotProduct", "vav", [](const Work& w) { return w.n * (w.count + 1); }, above(10800, 10800, 10800, 10800)},
+    {"DotProduct", "vava", [](const Work& w) { return 2 * w.n * w.count; }, above(10800, 10800, 10800, 10800)},
+    {"L2Norm Trace", "va ma", [](const Work& w) { return w.n * w.count; }, above(10800, 10800, 10800, 10800)},
+    {"FrobNorm", "ma", [](const Work& w) { return w.m * w.n * w.count; }, above(10800, 10800, 10800, 10800)},
 };
 
 bool hasWord(const std::string& text, const std::string& word)
