@@ -7,5 +7,8 @@ using namespace vorm::movement;
 
 extern "C" {
 
-VormStatus n8_ownvormExtract_m_64f(EXTRACT_M_PARAMS(double)) { return extractKernel(withAdjacent(extractM<AsStored>(EXTRACT_M_ARGS))); }
+VormStatus n8_ownvormExtract_m_64f(EXTRACT_M_PARAMS(double))
+{
+    return extractKernel(withAdjacent(extractM<AsStored>(EXTRACT_M_ARGS)));
+}
 }

@@ -7,5 +7,8 @@ using namespace vorm::movement;
 
 extern "C" {
 
-VormStatus n8_ownvormExtract_v_32f(EXTRACT_V_PARAMS(float)) { return extractKernel(withAdjacent(extractV(EXTRACT_V_ARGS))); }
+VormStatus n8_ownvormExtract_v_32f(EXTRACT_V_PARAMS(float))
+{
+    return extractKernel(withAdjacent(extractV(EXTRACT_V_ARGS)));
+}
 }

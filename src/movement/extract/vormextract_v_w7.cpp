@@ -7,5 +7,8 @@ using namespace vorm::movement;
 
 extern "C" {
 
-VormStatus n8_ownvormExtract_v_64f(EXTRACT_V_PARAMS(double)) { return extractKernel(withAdjacent(extractV(EXTRACT_V_ARGS))); }
+VormStatus n8_ownvormExtract_v_64f(EXTRACT_V_PARAMS(double))
+{
+    return extractKernel(withAdjacent(extractV(EXTRACT_V_ARGS)));
+}
 }

@@ -16,12 +16,14 @@ namespace vorm::movement {
 template <class As, class T>
 VORM_INLINE auto extractM(EXTRACT_M_PARAMS(T))
 {
-    return callOf<T, MovementTests>(As::used(Matrix{pSrc, srcStride1, srcStride2}), Dense{pDst}, Size{width}, Size{height});
+    return callOf<T, MovementTests>(As::used(Matrix{pSrc, srcStride1, srcStride2}), Dense{pDst}, Size{width},
+                                    Size{height});
 }
 template <class As, class T>
 VORM_INLINE auto extractMP(EXTRACT_M_PARAMS_P(T))
 {
-    return callOf<T, ExtractOnePTests>(As::used(MatrixPointers{ppSrc, srcShift, As::columns(width, height)}), Dense{pDst}, Size{width}, Size{height});
+    return callOf<T, ExtractOnePTests>(As::used(MatrixPointers{ppSrc, srcShift, As::columns(width, height)}),
+                                       Dense{pDst}, Size{width}, Size{height});
 }
 
 }  // namespace vorm::movement

@@ -27,7 +27,8 @@ VORM_INLINE auto extractVaL(EXTRACT_VA_PARAMS_L(T))
 template <class T>
 VORM_INLINE auto extractVaP(EXTRACT_VA_PARAMS_P(T))
 {
-    return callOf<T, MovementTests>(VectorArrayPointers{ppSrc, srcShift, srcStride0}, Dense{pDst}, Size{len}, Count{count});
+    return callOf<T, MovementTests>(VectorArrayPointers{ppSrc, srcShift, srcStride0}, Dense{pDst}, Size{len},
+                                    Count{count});
 }
 
 }  // namespace vorm::movement
