@@ -50,6 +50,15 @@ struct Function {
     }                                                                                 // of an element
     bool isFixed() const { return shape.find_first_of("234") != std::string::npos; }  // v3, m4 and the like
     bool isArray() const { return shape.find('a') != std::string::npos; }
+    bool hasDriver() const
+    {
+        return isArray() && !isFixed() && !isMovement() && name != "vormSub_mat_32f_L" &&
+               name != "vormCrossProduct_vav_32f_P";
+    }
+    bool isMovement() const
+    {
+        return family == "Copy" || family == "Extract" || family == "LoadIdentity" || family == "Transpose";
+    }
     bool isProduct() const { return indexOf("src1Width") >= 0; }  // with sizes for each source
     int indexOf(std::string_view parameter) const;                // -1 where there is none
     std::size_t operandNamed(std::string_view operand) const;

@@ -133,7 +133,7 @@ const Row& rowOf(const Function& f)
 
 Limit limitOf(const Function& f, const Sizes& s, int count, bool isContiguous)
 {
-    if (f.isFixed() || f.family == "Extract") return {0, INT32_MAX};
+    if (f.isFixed() || f.isMovement()) return {0, INT32_MAX};
     const Row& row = rowOf(f);
     const std::uint32_t measure =
         row.measure({std::uint32_t(s.rows), std::uint32_t(s.columns), std::uint32_t(s.terms), std::uint32_t(count)});
@@ -142,6 +142,6 @@ Limit limitOf(const Function& f, const Sizes& s, int count, bool isContiguous)
                      : f.layout == "L" ? (isContiguous ? by.list : by.listAnyStride)
                      : isContiguous    ? by.standard
                                        : by.standardAnyStride;
-    const bool drives = from > 0 && f.name != "vormSub_mat_32f_L" && f.name != "vormCrossProduct_vav_32f_P";
+    const bool drives = from > 0 && f.hasDriver();
     return {static_cast<std::int32_t>(measure), drives ? from : INT32_MAX};
 }
