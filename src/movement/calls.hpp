@@ -37,7 +37,7 @@ template <class TheCall>
 VORM_INLINE VormStatus identityKernel(const TheCall& call)
 {
     return call.parts.with([](const auto& dst, Size width, Size height, Count count) VORM_INLINE_LAMBDA {
-        return loadIdentities(elementsOf(dst), height.value, width.value, count.value);
+        return loadIdentities(movedElements(dst), height.value, width.value, count.value);
     });
 }
 
@@ -47,8 +47,8 @@ VORM_INLINE VormStatus transposeKernel(const TheCall& call)
 {
     return call.parts.with([](const auto& src, const auto& dst, Size width, Size height, auto... count)
                                VORM_INLINE_LAMBDA {
-                                   return transposeObjects(elementsOf(src), transposed(elementsOf(dst)), height.value,
-                                                           width.value, (1 * ... * count.value));
+                                   return transposeObjects(movedElements(src), transposed(movedElements(dst)),
+                                                           height.value, width.value, (1 * ... * count.value));
                                });
 }
 
