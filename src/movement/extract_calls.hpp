@@ -34,7 +34,7 @@ VORM_INLINE VormStatus extractKernel(const TheCall& call)
 {
     return call.parts.with([](const auto& src, const auto& dst, Size width, auto... rest) VORM_INLINE_LAMBDA {
         const auto move = [&](int rows, int columns, int count) VORM_INLINE_LAMBDA {
-            return moveObjects(elementsOf(src), dst.elements(rows, columns), rows, columns, count);
+            return moveObjects(movedElements(src), dst.elements(rows, columns), rows, columns, count);
         };
         if constexpr ((... || std::is_same_v<decltype(rest), Size>))
             return [&](Size height, auto... count)
