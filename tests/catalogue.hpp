@@ -50,7 +50,7 @@ struct Function {
     }                                                                                 // of an element
     bool isFixed() const { return shape.find_first_of("234") != std::string::npos; }  // v3, m4 and the like
     bool isArray() const { return shape.find('a') != std::string::npos; }
-    bool hasDriver() const
+    bool hasDriver() const  // all arrays but a member of two families, and what computes nothing
     {
         return isArray() && !isFixed() && !isMovement() && name != "vormSub_mat_32f_L" &&
                name != "vormCrossProduct_vav_32f_P";

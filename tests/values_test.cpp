@@ -32,6 +32,7 @@ protected:
     // The smallest count that enters the driver, with elements adjacent or not.
     static int countOfDriver(const Function& f, const Sizes& s)
     {
+        if (!f.hasDriver()) return 40;
         int count = 1;
         while (count < 8000 && !limitOf(f, s, count, true).isReached()) ++count;
         return count;
