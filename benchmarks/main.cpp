@@ -167,6 +167,8 @@ int run(const std::string& filter, const std::string& output)
     addCholesky(sections);
     addDet(sections);
     addMath3d(sections);
+    addCrossProducts(sections);
+    addExtract(sections);
     addQr(sections);
     addCalls(sections);
     addTeam(sections);

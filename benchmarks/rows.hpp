@@ -51,6 +51,8 @@ void addLu(Sections& sections);
 void addCholesky(Sections& sections);
 void addDet(Sections& sections);
 void addMath3d(Sections& sections);
+void addCrossProducts(Sections& sections);
+void addExtract(Sections& sections);
 void addQr(Sections& sections);
 void addCalls(Sections& sections);
 void addTeam(Sections& sections);
