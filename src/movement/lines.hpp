@@ -6,6 +6,15 @@
 
 namespace vorm::movement {
 
+template <class Elements>
+constexpr bool isList = false;
+template <class T>
+constexpr bool isList<ListedElements<T>> = true;
+template <class Elements>
+constexpr bool isTable = false;
+template <class T>
+constexpr bool isTable<TabledElements<T>> = true;
+
 template <class T>
 struct SpacedLines {
     T* p;
