@@ -174,17 +174,10 @@ VORM_INLINE void moveAll(S src, D dst, Extents all)
     moveElements<T>(src, dst, all);
 }
 
-template <class T>
-T elementIn(const StridedElements<T>&);
-template <class T>
-T elementIn(const ListedElements<T>&);
-template <class T>
-T elementIn(const TabledElements<T>&);
-
 template <class S, class D>
 VormStatus moveObjects(const S& src, const D& dst, int rows, int columns, int count)
 {
-    moveAll<decltype(elementIn(dst))>(src, dst, {rows, columns, count});
+    moveAll<ElementIn<D>>(src, dst, {rows, columns, count});
     return StatusOk;
 }
 

@@ -11,8 +11,7 @@ namespace vorm::movement {
 template <int order, class T>
 VORM_INLINE void turnSmall(const elementwise::RowsOfObject<const T>& src, const elementwise::RowsOfObject<T>& dst)
 {
-    const auto number = [&](int r, int c)
-                            VORM_INLINE_LAMBDA { entry(dst.from(c), r) = T{entry(src.from(r), c)}; };
+    const auto number = [&](int r, int c) VORM_INLINE_LAMBDA { entry(dst.from(c), r) = T{entry(src.from(r), c)}; };
     if constexpr (order == 3) {
         unrolled<9>([&](auto i) VORM_INLINE_LAMBDA { number(i / 3, i % 3); });
     } else {
@@ -28,8 +27,7 @@ VORM_INLINE void turnSmall(const elementwise::RowsOfObject<const T>& src, const 
 template <int order, class T, class S, class D>
 [[gnu::noinline]] void turnSmallObjects(const S src, const D dst, int first, int count)
 {
-    for (int n = first; n < count; ++n)
-        turnSmall<order, T>({src.at(n), src.row}, {dst.at(n), dst.column});
+    for (int n = first; n < count; ++n) turnSmall<order, T>({src.at(n), src.row}, {dst.at(n), dst.column});
 }
 
 // Arrays of order 3 without a gap fill registers some at a time.
