@@ -2,6 +2,7 @@
 
 #include "movement/identity.hpp"
 #include "frame/minmax.hpp"
+#include "movement/lines.hpp"
 #include "movement/move.hpp"
 
 namespace vorm::movement {
@@ -19,26 +20,6 @@ struct Window {
 template <class T>
 constexpr Window<T> window;
 
-// The part of a destination that begins with element (r, c).
-template <class T>
-StridedElements<T> partOf(StridedElements<T> e, std::ptrdiff_t r, std::ptrdiff_t c)
-{
-    e.p = advance(e.p, r * e.row + c * e.column);
-    return e;
-}
-template <class T>
-ListedElements<T> partOf(ListedElements<T> e, std::ptrdiff_t r, std::ptrdiff_t c)
-{
-    e.shift += r * e.row + c * e.column;
-    return e;
-}
-template <class T>
-TabledElements<T> partOf(TabledElements<T> e, std::ptrdiff_t r, std::ptrdiff_t c)
-{
-    e.pp += r * e.row + c * e.column;
-    return e;
-}
-
 template <class T, class D>
 VormStatus load(const D& dst, int rows, int columns, int count)
 {
@@ -55,7 +36,7 @@ VormStatus load(const D& dst, int rows, int columns, int count)
             // Beside the diagonal all rows are the zeros before the 1.
             const bool onDiagonal = r == c;
             const StridedElements<const T> part{onDiagonal ? middle : middle - edge, 0, onDiagonal ? -one : 0, one};
-            moveObjects(part, partOf(dst, r, c), min(rows - r, edge), min(columns - c, edge), count);
+            moveObjects(part, partOf(dst, 0, r, c), min(rows - r, edge), min(columns - c, edge), count);
         }
     return StatusOk;
 }

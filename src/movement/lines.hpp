@@ -6,6 +6,24 @@
 
 namespace vorm::movement {
 
+template <class Elements>
+constexpr bool isList = false;
+template <class T>
+constexpr bool isList<ListedElements<T>> = true;
+template <class Elements>
+constexpr bool isTable = false;
+template <class T>
+constexpr bool isTable<TabledElements<T>> = true;
+
+template <class Elements>
+struct ElementInside;
+template <template <class> class Elements, class T>
+struct ElementInside<Elements<T>> {
+    using Type = T;
+};
+template <class Elements>
+using ElementIn = typename ElementInside<Elements>::Type;
+
 template <class T>
 struct SpacedLines {
     T* p;
@@ -54,6 +72,28 @@ template <class T>
 VORM_INLINE ListedLines<T> alongRow(const TabledElements<T>& e, int n, std::ptrdiff_t r)
 {
     return {e.pp + r * e.row, e.column, e.shift + n * e.object};
+}
+
+// The part of an operand that begins with element (r, c) of object n.
+template <class T>
+VORM_INLINE StridedElements<T> partOf(StridedElements<T> e, int n, std::ptrdiff_t r, std::ptrdiff_t c)
+{
+    e.p = advance(e.at(n), r * e.row + c * e.column);
+    return e;
+}
+template <class T>
+VORM_INLINE ListedElements<T> partOf(ListedElements<T> e, int n, std::ptrdiff_t r, std::ptrdiff_t c)
+{
+    e.pp += n * e.step;
+    e.shift += r * e.row + c * e.column;
+    return e;
+}
+template <class T>
+VORM_INLINE TabledElements<T> partOf(TabledElements<T> e, int n, std::ptrdiff_t r, std::ptrdiff_t c)
+{
+    e.pp += r * e.row + c * e.column;
+    e.shift += n * e.object;
+    return e;
 }
 
 // The same as lines of bytes.

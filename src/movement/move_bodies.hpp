@@ -5,6 +5,7 @@
 #include "frame/minmax.hpp"
 #include "movement/lines.hpp"
 #include "movement/move.hpp"
+#include "movement/turn_small.hpp"
 
 namespace vorm::movement {
 
@@ -14,14 +15,6 @@ struct Extents {
 };
 
 // Along which index the elements of an operand lie side by side.
-template <class Elements>
-constexpr bool isList = false;
-template <class T>
-constexpr bool isList<ListedElements<T>> = true;
-template <class Elements>
-constexpr bool isTable = false;
-template <class T>
-constexpr bool isTable<TabledElements<T>> = true;
 template <class T, class Elements>
 VORM_INLINE bool byObjects(const Elements& e)
 {
@@ -100,9 +93,10 @@ VORM_INLINE void moveFromPlanes(const S& src, const D& dst, const Extents& all)
 }
 
 // The source along columns, the destination along rows.
-template <class S, class D>
+template <class T, class S, class D>
 VORM_INLINE void moveTurned(const S& src, const D& dst, const Extents& all)
 {
+    if (all.rows == all.columns && turnSmallSquares<T>(src, dst, all.rows, static_cast<int>(all.count))) return;
     for (int n = 0; n < all.count; ++n)
         turnLines(alongRow(transposed(src), n, 0), alongRow(dst, n, 0), all.columns, all.rows);
 }
@@ -169,8 +163,8 @@ VORM_INLINE void moveAll(S src, D dst, Extents all)
         }
     if (moveByKind<T>(src, dst, all)) return;
     if constexpr (!isTable<S> && !isTable<D>) {
-        if (byColumns<T>(src) && byRows<T>(dst)) return moveTurned(src, dst, all);
-        if (byRows<T>(src) && byColumns<T>(dst)) return exchange(), moveTurned(src, dst, all);
+        if (byColumns<T>(src) && byRows<T>(dst)) return moveTurned<T>(src, dst, all);
+        if (byRows<T>(src) && byColumns<T>(dst)) return exchange(), moveTurned<T>(src, dst, all);
     }
     if (all.rows > 1) {
         exchange();
@@ -180,17 +174,10 @@ VORM_INLINE void moveAll(S src, D dst, Extents all)
     moveElements<T>(src, dst, all);
 }
 
-template <class T>
-T elementIn(const StridedElements<T>&);
-template <class T>
-T elementIn(const ListedElements<T>&);
-template <class T>
-T elementIn(const TabledElements<T>&);
-
 template <class S, class D>
 VormStatus moveObjects(const S& src, const D& dst, int rows, int columns, int count)
 {
-    moveAll<decltype(elementIn(dst))>(src, dst, {rows, columns, count});
+    moveAll<ElementIn<D>>(src, dst, {rows, columns, count});
     return StatusOk;
 }
 
