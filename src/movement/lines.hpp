@@ -114,6 +114,15 @@ VORM_INLINE ListedLines<ByteOf<T>> inBytes(const ListedLines<T>& lines)
 template <class S, class D>
 VORM_HIDDEN void copyLines(const S& src, const D& dst, std::ptrdiff_t bytes, std::ptrdiff_t lines);
 
+// Copies objects of a few rows, of 4 to 48 bytes each, the distances between which are src and dst, one object after
+// the other: a line begins each of them.
+struct ShortRows {
+    std::ptrdiff_t count, bytes, src, dst;
+};
+constexpr std::ptrdiff_t longestShortRow = 48;
+template <class S, class D>
+VORM_HIDDEN void copyShortRows(const S& src, const D& dst, const ShortRows& rows, std::ptrdiff_t objects);
+
 // Element x of each source line to line x of the destination: there lie side by side the elements x of all lines.
 template <class S, class D>
 VORM_HIDDEN void turnLines(const S& src, const D& dst, std::ptrdiff_t length, std::ptrdiff_t lines);

@@ -54,6 +54,9 @@ VORM_INLINE void moveRows(const S& src, const D& dst, const Extents& all)
                       all.rows);
     } else if (all.rows == 1) {
         copyLines(inBytes(alongObjects(src, 0, 0)), inBytes(alongObjects(dst, 0, 0)), bytes, all.count);
+    } else if (all.rows <= 8 && bytes <= longestShortRow) {
+        copyShortRows(inBytes(alongObjects(src, 0, 0)), inBytes(alongObjects(dst, 0, 0)),
+                      {all.rows, bytes, src.row, dst.row}, all.count);
     } else {
         objectByObject(all, [&](std::ptrdiff_t n, std::ptrdiff_t some) VORM_INLINE_LAMBDA {
             for (std::ptrdiff_t r = 0; r < all.rows; ++r)
