@@ -170,6 +170,7 @@ int run(const std::string& filter, const std::string& output)
     addCrossProducts(sections);
     addExtract(sections);
     addQr(sections);
+    addMeasures(sections);
     addCalls(sections);
     addTeam(sections);
 

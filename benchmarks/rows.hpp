@@ -54,6 +54,7 @@ void addMath3d(Sections& sections);
 void addCrossProducts(Sections& sections);
 void addExtract(Sections& sections);
 void addQr(Sections& sections);
+void addMeasures(Sections& sections);
 void addCalls(Sections& sections);
 void addTeam(Sections& sections);
 

@@ -183,16 +183,21 @@ void measureRuns(const Sources<Op, Elements>& src, std::ptrdiff_t n, T* dst, int
     case 4: return runsOfLength<Op, 4>(src, dst, count);
     case 5: return runsOfLength<Op, 5>(src, dst, count);
     case 6: return runsOfLength<Op, 6>(src, dst, count);
+    case 7: return longRunsOfLength<Op, 7>(src, dst, count);
+    case 8: return longRunsOfLength<Op, 8>(src, dst, count);
+    case 9: return longRunsOfLength<Op, 9>(src, dst, count);
+    case 10: return longRunsOfLength<Op, 10>(src, dst, count);
+    case 11: return longRunsOfLength<Op, 11>(src, dst, count);
+    case 12: return longRunsOfLength<Op, 12>(src, dst, count);
+    case 13: return longRunsOfLength<Op, 13>(src, dst, count);
+    case 14: return longRunsOfLength<Op, 14>(src, dst, count);
+    case 15: return longRunsOfLength<Op, 15>(src, dst, count);
+    case 16: return longRunsOfLength<Op, 16>(src, dst, count);
     default: break;
     }
-    if constexpr (Op::sources == 1) {  // square matrices of order 3 to 6
-        switch (n) {
-        case 9: return longRunsOfLength<Op, 9>(src, dst, count);
-        case 16: return longRunsOfLength<Op, 16>(src, dst, count);
-        case 25: return longRunsOfLength<Op, 25>(src, dst, count);
-        case 36: return longRunsOfLength<Op, 36>(src, dst, count);
-        default: break;
-        }
+    if constexpr (Op::sources == 1) {  // matrices of order 5 and 6
+        if (n == 25) return longRunsOfLength<Op, 25>(src, dst, count);
+        if (n == 36) return longRunsOfLength<Op, 36>(src, dst, count);
     }
     longRuns<Op>(src, dst, count, [n](const Runs<Op, T>& runs) VORM_INLINE_LAMBDA { return sumsAlong<Op>(runs, n); });
 }
@@ -214,34 +219,129 @@ void measureAnywhere(const Sources<Op, Elements>& src, int rows, int columns, T*
 
 // Planes. ----------------------------------------------------------------------------------------------------------
 
+// The numbers of objects from the first on.
+template <class Number, class T>
+VORM_INLINE Number loadAlong(const T* plane)
+{
+    if constexpr (registersIn < Number >> 1)
+        return Number::each(
+            [&](auto k) VORM_INLINE_LAMBDA { return RegisterIn<Number>::load(plane + k * RegisterIn<Number>::width); });
+    else if constexpr (inLanes<Number>)
+        return Number::load(plane);
+    else
+        return elementAt(plane, 0);
+}
+
+template <class Op, class T>
+using PlaneSources = Sources<Op, TabledElements<const T>>;
+
+// The k-th element of all objects of a number, of source s: of what all objects share, or along a plane.
+template <class Number, bool secondIsCommon, class Op, class T>
+VORM_INLINE Number planeTerm(const PlaneSources<Op, T>& src, std::ptrdiff_t k, int first)
+{
+    return termOf<Op, Number>([&](auto s) VORM_INLINE_LAMBDA {
+        const T* const plane = advance(src.of[s].pp[k], src.of[s].shift);
+        if constexpr (s == 1 && secondIsCommon)
+            return Number(T(elementAt(plane, 0)));
+        else
+            return loadAlong<Number>(plane + first);
+    });
+}
+
+// Each short length in a function of its own, which finds the planes once.
+template <class Op, int n, bool secondIsCommon, class T>
+[[gnu::noinline]] void planesOfLength(const PlaneSources<Op, T> src, T* dst, int count)
+{
+    const T* plane[Op::sources][n];
+    for (int s = 0; s < Op::sources; ++s)
+        for (int k = 0; k < n; ++k) plane[s][k] = advance(src.of[s].pp[k], src.of[s].shift);
+    T common[n];
+    if constexpr (secondIsCommon)
+        for (int k = 0; k < n; ++k) common[k] = elementAt(plane[1][k], 0);
+    storeResults<Several<Wide<T>, 2>>(dst, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
+        return Op::result(leftToRight(constant<n>, [&](auto k) VORM_INLINE_LAMBDA {
+            return termOf<Op, Number>([&](auto s) VORM_INLINE_LAMBDA {
+                if constexpr (s == 1 && secondIsCommon)
+                    return Number(common[k]);
+                else
+                    return loadAlong<Number>(plane[s][k] + first);
+            });
+        }));
+    });
+}
+template <class Op, int n, class T>
+[[gnu::noinline]] void longPlanesOfLength(const PlaneSources<Op, T> src, T* dst, int count)
+{
+    storeResults<Several<Wide<T>, 2>>(dst, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
+        return Op::result(
+            sumOfNumbers<Op, n>([&](auto k) VORM_INLINE_LAMBDA { return planeTerm<Number, false>(src, k, first); }));
+    });
+}
+template <bool secondIsCommon, class Op, class T>
+VORM_INLINE void planesOfAnyLength(const PlaneSources<Op, T>& src, std::ptrdiff_t n, T* dst, int count)
+{
+    switch (n) {
+    case 1: return planesOfLength<Op, 1, secondIsCommon>(src, dst, count);
+    case 2: return planesOfLength<Op, 2, secondIsCommon>(src, dst, count);
+    case 3: return planesOfLength<Op, 3, secondIsCommon>(src, dst, count);
+    case 4: return planesOfLength<Op, 4, secondIsCommon>(src, dst, count);
+    case 5: return planesOfLength<Op, 5, secondIsCommon>(src, dst, count);
+    case 6: return planesOfLength<Op, 6, secondIsCommon>(src, dst, count);
+    default: break;
+    }
+    storeResults<Several<Wide<T>, 2>>(dst, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
+        return Op::result(sumOfNumbers<Op, Number>(
+            n, [&](std::ptrdiff_t k) VORM_INLINE_LAMBDA { return planeTerm<Number, secondIsCommon>(src, k, first); }));
+    });
+}
+
 template <class Op, class T>
 void measurePlanes(const Sources<Op, TabledElements<const T>>& src, std::ptrdiff_t n, T* dst, int count)
 {
-    storeResults<Several<Wide<T>, 4>>(dst, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
-        const auto term = [&](std::ptrdiff_t k) VORM_INLINE_LAMBDA {
-            return termOf<Op, Number>([&](auto s) VORM_INLINE_LAMBDA {
-                const auto& e = src.of[s];
-                const T* const plane = advance(e.pp[k], e.shift);
-                if (e.isCommon()) return Number(T(elementAt(plane, 0)));
-                if constexpr (registersIn < Number >> 1)
-                    return Number::each([&](auto r) VORM_INLINE_LAMBDA {
-                        return Number::One::load(plane + first + r * Number::One::width);
-                    });
-                else if constexpr (inLanes<Number>)
-                    return Number::load(plane + first);
-                else
-                    return T(elementAt(plane + first, 0));
-            });
-        };
-        return Op::result(n <= shortTerms ? leftToRight(int(n), term) : sumOfNumbers<Op, Number>(n, term));
-    });
+    if constexpr (Op::sources == 2) {
+        if (src.of[1].isCommon()) return planesOfAnyLength<true>(src, n, dst, count);
+    } else {  // matrices of order 3 to 6
+        switch (n) {
+        case 9: return longPlanesOfLength<Op, 9>(src, dst, count);
+        case 16: return longPlanesOfLength<Op, 16>(src, dst, count);
+        case 25: return longPlanesOfLength<Op, 25>(src, dst, count);
+        case 36: return longPlanesOfLength<Op, 36>(src, dst, count);
+        default: break;
+        }
+    }
+    planesOfAnyLength<false>(src, n, dst, count);
 }
 
 // Traces. ----------------------------------------------------------------------------------------------------------
 
+// The diagonals of n elements, so many bytes apart.
+template <int n, class T, class Elements>
+[[gnu::noinline]] void tracesOfOrder(const Elements src, T* dst, int count)
+{
+    const std::ptrdiff_t step = src.row + src.column;
+    const auto trace = [&](const T* p, int object) VORM_INLINE_LAMBDA {
+        entry(dst, object) =
+            leftToRight(constant<n>, [&](auto i) VORM_INLINE_LAMBDA { return T(elementAt(p, i * step)); });
+    };
+    int object = 0;
+    for (; object + 4 <= count; object += 4)
+        unrolled<4>([&](auto l) VORM_INLINE_LAMBDA { trace(src.at(object + l), object + l); });
+    for (; object < count; ++object) trace(src.at(object), object);
+}
+
 template <class T, class Elements>
 void traces(const Elements& src, int n, T* dst, int count)
 {
+    if constexpr (requires { src.at(0); }) {
+        switch (n) {
+        case 2: return tracesOfOrder<2>(src, dst, count);
+        case 3: return tracesOfOrder<3>(src, dst, count);
+        case 4: return tracesOfOrder<4>(src, dst, count);
+        case 5: return tracesOfOrder<5>(src, dst, count);
+        case 6: return tracesOfOrder<6>(src, dst, count);
+        default: break;
+        }
+    }
     constexpr int some = 4;  // sums that do not wait for each other
     int object = 0;
     for (; object + some <= count; object += some) {
@@ -261,16 +361,7 @@ template <class T>
 void tracesOfPlanes(const TabledElements<const T>& src, int n, T* dst, int count)
 {
     storeResults<Several<Wide<T>, 4>>(dst, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
-        return leftToRight(n, [&](int i) VORM_INLINE_LAMBDA {
-            const T* const plane = src.plane(i, i) + first;
-            if constexpr (registersIn < Number >> 1)
-                return Number::each(
-                    [&](auto r) VORM_INLINE_LAMBDA { return Number::One::load(plane + r * Number::One::width); });
-            else if constexpr (inLanes<Number>)
-                return Number::load(plane);
-            else
-                return T(elementAt(plane, 0));
-        });
+        return leftToRight(n, [&](int i) VORM_INLINE_LAMBDA { return loadAlong<Number>(src.plane(i, i) + first); });
     });
 }
 

@@ -41,6 +41,7 @@ VORM_INLINE Lanes<T> sumsAlong(const Runs<Op, T>& runs, std::ptrdiff_t n)
     std::ptrdiff_t i = 0;
     if (n >= sumsOf<T>) addGroups<Op>(runs.p, n, i, sums);
     const int left = int(n - i);
+    if (left == 0) return united(sums);
     unrolled<sumRegisters>([&](auto j) VORM_INLINE_LAMBDA {
         const auto add = [&](const auto& load) VORM_INLINE_LAMBDA {
             sums[j] = sums[j] +
@@ -53,18 +54,20 @@ VORM_INLINE Lanes<T> sumsAlong(const Runs<Op, T>& runs, std::ptrdiff_t n)
     });
     return united(sums);
 }
-// The same of a length that is known: whole registers and at most one element.
+// The same of a length that is known.
 template <class Op, int n, class T>
 VORM_INLINE Lanes<T> sumsAlong(const Runs<Op, T>& runs)
 {
-    constexpr int width = narrow<T>, whole = n / width, rest = n % width, registers = whole + rest;
-    static_assert(rest <= 1 && registers > 2);
+    constexpr int width = narrow<T>, whole = n / width, rest = n % width, registers = whole + (rest != 0);
     const auto term = [&](auto k) VORM_INLINE_LAMBDA {
         return termOf<Op, Lanes<T>>([&](auto s) VORM_INLINE_LAMBDA {
+            const T* const p = runs.p[s] + k * width;
             if constexpr (k < whole)
-                return Lanes<T>::load(runs.p[s] + k * width);
+                return Lanes<T>::load(p);
+            else if constexpr (rest == 3)
+                return loadThree(p);
             else
-                return loadFirst<1>(runs.p[s] + k * width);
+                return loadFirst<rest>(p);
         });
     };
     Lanes<T> sums[sumRegisters];
@@ -75,33 +78,69 @@ VORM_INLINE Lanes<T> sumsAlong(const Runs<Op, T>& runs)
         else
             sum = sum + term(k);
     });
+    if constexpr (registers == 2) return sums[0] + sums[1];
     if constexpr (registers == 3) return (sums[0] + sums[1]) + sums[2];
     return united(sums);
 }
 
-// Of numbers: term(k) of all objects that a number holds. A sum at a time grows, so that any number of them fits.
+// Of numbers: term(k) of all objects that a number holds. A sum at a time grows, so that few are in registers.
 template <class Op, class Number, class Term>
-VORM_INLINE Number sumOfNumbers(std::ptrdiff_t terms, const Term& term)
+VORM_INLINE Number sumOfNumbers(std::ptrdiff_t n, const Term& term)
 {
     using T = Element<Number>;
-    constexpr int count = sumsOf<T>;
-    Number sums[count];
-    for (int l = 0; l < count; ++l) {
-        if (l >= terms) {
-            sums[l] = Number(T(0));
-            continue;
-        }
+    constexpr int count = sumsOf<T>, width = narrow<T>;
+    const auto sumFrom = [&](int l) VORM_INLINE_LAMBDA {
+        if (l >= n) return Number(T(0));
         Number sum = term(l);
-        for (std::ptrdiff_t k = l + count; k < terms; k += count) sum = sum + term(k);
-        sums[l] = sum;
-    }
-    // Pairs of registers lie half of all sums apart at first, then pairs of lanes.
-    constexpr int width = narrow<T>;
+        for (std::ptrdiff_t k = l + count; k < n; k += count) sum = sum + term(k);
+        return sum;
+    };
     Number lane[width];
-    for (int l = 0; l < width; ++l) lane[l] = (sums[l] + sums[l + width]) + (sums[l + 2 * width] + sums[l + 3 * width]);
-    for (int left = width; left > 1; left /= 2)
-        for (int l = 0; l < left / 2; ++l) lane[l] = lane[2 * l] + lane[2 * l + 1];
-    return Op::fromZero(lane[0]);
+    for (int l = 0; l < width; ++l) {
+        const Number first = sumFrom(l) + sumFrom(l + width);
+        lane[l] = first + (sumFrom(l + 2 * width) + sumFrom(l + 3 * width));
+    }
+    if constexpr (width == 2)
+        return Op::fromZero(lane[0] + lane[1]);
+    else
+        return Op::fromZero((lane[0] + lane[1]) + (lane[2] + lane[3]));
+}
+// The same, where n is a constant: the sums without a term are left out.
+template <int n, int l, class Term>
+VORM_INLINE auto sumFrom(const Term& term)
+{
+    using T = Element<decltype(term(constant<0>))>;
+    auto sum = term(constant<l>);
+    unrolled<(n - l + sumsOf<T> - 1) / sumsOf<T>, 1>(
+        [&](auto k) VORM_INLINE_LAMBDA { sum = sum + term(constant<l + k * sumsOf<T>>); });
+    return sum;
+}
+template <int n, int l, int distance, class Term>
+VORM_INLINE auto sumOfPair(const Term& term)
+{
+    if constexpr (l + distance < n)
+        return sumFrom<n, l>(term) + sumFrom<n, l + distance>(term);
+    else
+        return sumFrom<n, l>(term);
+}
+template <int n, int l, class Term>
+VORM_INLINE auto sumOfLane(const Term& term)
+{
+    constexpr int width = narrow<Element<decltype(term(constant<0>))>>;
+    if constexpr (l + 2 * width < n)
+        return sumOfPair<n, l, width>(term) + sumOfPair<n, l + 2 * width, width>(term);
+    else
+        return sumOfPair<n, l, width>(term);
+}
+template <class Op, int n, class Term>
+VORM_INLINE auto sumOfNumbers(const Term& term)
+{
+    using Number = decltype(term(constant<0>));
+    if constexpr (narrow<Element<Number>> == 2)
+        return Op::fromZero(sumOfLane<n, 0>(term) + sumOfLane<n, 1>(term));
+    else
+        return Op::fromZero((sumOfLane<n, 0>(term) + sumOfLane<n, 1>(term)) +
+                            (sumOfLane<n, 2>(term) + sumOfLane<n, 3>(term)));
 }
 
 // The result of one object. ----------------------------------------------------------------------------------------
