@@ -5,14 +5,30 @@
 
 extern const Family fixedForms, vectorSums, vectorScaling, matrixSums, vectorProducts, matrixProducts, gaxpyProducts,
     luDecomposition, luSubstitution, choleskyDecomposition, choleskySubstitution, determinants, inverses, curves,
-    transformMatrices, matrixOperations, pointTransforms, affineTransform3DH, qrDecomposition, qrSubstitution;
+    transformMatrices, matrixOperations, pointTransforms, affineTransform3DH, qrDecomposition, qrSubstitution, movement;
 
 const std::vector<const Family*>& families()
 {
-    static const std::vector<const Family*> all = {
-        &fixedForms,           &vectorSums,      &vectorScaling,      &matrixSums,      &vectorProducts,
-        &matrixProducts,       &gaxpyProducts,   &luDecomposition,    &luSubstitution,  &choleskyDecomposition,
-        &choleskySubstitution, &determinants,    &inverses,           &curves,          &transformMatrices,
-        &matrixOperations,     &pointTransforms, &affineTransform3DH, &qrDecomposition, &qrSubstitution};
+    static const std::vector<const Family*> all = {&fixedForms,
+                                                   &vectorSums,
+                                                   &vectorScaling,
+                                                   &matrixSums,
+                                                   &vectorProducts,
+                                                   &matrixProducts,
+                                                   &gaxpyProducts,
+                                                   &luDecomposition,
+                                                   &luSubstitution,
+                                                   &choleskyDecomposition,
+                                                   &choleskySubstitution,
+                                                   &determinants,
+                                                   &inverses,
+                                                   &curves,
+                                                   &transformMatrices,
+                                                   &matrixOperations,
+                                                   &pointTransforms,
+                                                   &affineTransform3DH,
+                                                   &qrDecomposition,
+                                                   &qrSubstitution,
+                                                   &movement};
     return all;
 }

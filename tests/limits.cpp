@@ -96,6 +96,8 @@ constexpr Row table[] = {
     {"Invert", "ma", [](const Work& w) { return w.n == 1 ? 0 : 2 * w.n * w.count; },
      above(3600, 2500, 2500, 2500, 2500)},
 
+    {"Copy Extract LoadIdentity Transpose", "va ma ta", [](const Work&) { return 0u; }, {}},  // no drivers
+
     {"AffineTransform3DH", "mva", [](const Work& w) { return 6 * w.count; }, from(785)},
     {"QRDecomp", "ma", [](const Work& w) { return 2 * w.n * w.m * w.count; }, reflections},
     {"QRBackSubst", "mva", [](const Work& w) { return w.n * w.m + (w.n + w.m) * w.count; }, reflections},
