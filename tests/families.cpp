@@ -35,6 +35,6 @@ const std::vector<const Family*>& families()
                                                    &frobeniusNorms,
                                                    &traces,
                                                    &crossProducts,
-                                                   &&movement};
+                                                   &movement};
     return all;
 }
