@@ -106,10 +106,11 @@ constexpr Row table[] = {
     {"QRBackSubst", "mva", [](const Work& w) { return w.n * w.m + (w.n + w.m) * w.count; }, reflections},
     {"QRBackSubst", "mava", [](const Work& w) { return (w.n * (w.m + 1) + w.m) * w.count; }, reflections},
 
-    {"DotProduct", "vav", [](const Work& w) { return w.n * (w.count + 1); }, above(10800, 10800, 10800, 10800)},
-    {"DotProduct", "vava", [](const Work& w) { return 2 * w.n * w.count; }, above(10800, 10800, 10800, 10800)},
-    {"L2Norm Trace", "va ma", [](const Work& w) { return w.n * w.count; }, above(10800, 10800, 10800, 10800)},
-    {"FrobNorm", "ma", [](const Work& w) { return w.m * w.n * w.count; }, above(10800, 10800, 10800, 10800)},
+    {"DotProduct", "vav", [](const Work& w) { return w.n * (w.count + 1); }, above(21600, 21600, 14400, 21600)},
+    {"DotProduct", "vava", [](const Work& w) { return 2 * w.n * w.count; }, above(21600, 21600, 14400, 21600)},
+    {"L2Norm", "va", [](const Work& w) { return w.n * w.count; }, above(14400, 14400, 14400, 21600)},
+    {"Trace", "ma", [](const Work& w) { return w.n * w.count; }, above(10800, 10800, 10800, 21600)},
+    {"FrobNorm", "ma", [](const Work& w) { return w.m * w.n * w.count; }, above(21600, 21600, 14400, 21600)},
 };
 
 bool hasWord(const std::string& text, const std::string& word)

@@ -26,12 +26,34 @@ VORM_INLINE void storeResults(T* dst, int count, const Results& results)
         });
 }
 
+// Fewer terms than there are sums, more than are added from left to right. body(whole, hasRest).
+template <class T, class Body>
+VORM_INLINE auto withRegisters(int n, const Body& body)
+{
+    constexpr int width = narrow<T>;
+    const bool hasRest = n % width != 0;
+    if constexpr (width == 2) {
+        return body(constant<3>, std::true_type{});  // 7
+    } else {
+        if (n < 2 * width) return body(constant<1>, std::true_type{});  // 7
+        if (n < 3 * width) return hasRest ? body(constant<2>, std::true_type{}) : body(constant<2>, std::false_type{});
+        return hasRest ? body(constant<3>, std::true_type{}) : body(constant<3>, std::false_type{});
+    }
+}
+template <class Op, class T>
+VORM_INLINE Lanes<T> shortOfAGroup(const Runs<Op, T>& runs, int n)
+{
+    return withRegisters<T>(n, [&](auto whole, auto hasRest)
+                                   VORM_INLINE_LAMBDA { return sumsAlong<Op, whole, hasRest>(runs, n % narrow<T>); });
+}
+
 // Single objects. --------------------------------------------------------------------------------------------------
 
 template <class Op, class T>
 T longMeasure(const Runs<Op, T>& runs, std::ptrdiff_t n)
 {
-    return Op::result(folded(sumsAlong(runs, n)));
+    const Lanes<T> sums = n < sumsOf<T> ? shortOfAGroup(runs, int(n)) : sumsAlong(runs, n);
+    return Op::result(Op::fromZero(folded(sums)));
 }
 
 template <class Op, class T, class Object>
@@ -137,20 +159,25 @@ VORM_INLINE void packedRuns(const Sources<Op, Elements>& src, T* dst, int count)
 template <class Op, int n, class T, class Elements>
 [[gnu::noinline]] void runsOfLength(const Sources<Op, Elements> src, T* dst, int count)
 {
-    if constexpr (turnsPacked<n> && std::is_same_v<Elements, StridedElements<const T>>) {
+    if constexpr (n <= 3 && std::is_same_v<Elements, StridedElements<const T>>) {
         const auto isPacked = [](const auto& e) { return e.isCommon() || e.object == n * int{sizeof(T)}; };
         if (isPacked(src.of[0]) && isPacked(src.of[Op::sources - 1])) {
             packedRuns<Op, n>(src, dst, count);
             return;
         }
     }
-    if constexpr (Op::sources == 2) {
+    if constexpr (n < 3) {
+        Sources<Op, Elements> inRow = src;
+        for (auto& source : inRow.of) source.column = sizeof(T);
+        measureAnywhere<Op>(inRow, 1, n, dst, count);
+        return;
+    } else if constexpr (Op::sources == 2) {
         if (src.of[1].isCommon()) {
             shortRuns<Op, n>(src, CommonRow<T, n>(src.of[1].at(0)), dst, count);
             return;
         }
     }
-    shortRuns<Op, n>(src, nullptr, dst, count);
+    if constexpr (n >= 3) shortRuns<Op, n>(src, nullptr, dst, count);
 }
 
 // More terms: a register of sums for each object, folded together.
@@ -167,10 +194,18 @@ VORM_INLINE void longRuns(const Sources<Op, Elements>& src, T* dst, int count, c
         }
     });
 }
-template <class Op, int n, class T, class Elements>
-[[gnu::noinline]] void longRunsOfLength(const Sources<Op, Elements> src, T* dst, int count)
+template <class Op, int whole, bool hasRest, class Rest, class T, class Elements>
+[[gnu::noinline]] void longRunsOfLength(const Sources<Op, Elements> src, Rest rest, T* dst, int count)
 {
-    longRuns<Op>(src, dst, count, [](const Runs<Op, T>& runs) VORM_INLINE_LAMBDA { return sumsAlong<Op, n>(runs); });
+    longRuns<Op>(src, dst, count, [rest](const Runs<Op, T>& runs) VORM_INLINE_LAMBDA {
+        return sumsAlong<Op, whole, hasRest>(runs, rest);
+    });
+}
+template <int n, class Op, class T, class Elements>
+VORM_INLINE void longRunsOfLength(const Sources<Op, Elements>& src, T* dst, int count)
+{
+    constexpr int width = narrow<T>;
+    longRunsOfLength<Op, n / width, n % width != 0>(src, constant<n % width>, dst, count);
 }
 
 template <class Op, class T, class Elements>
@@ -183,22 +218,21 @@ void measureRuns(const Sources<Op, Elements>& src, std::ptrdiff_t n, T* dst, int
     case 4: return runsOfLength<Op, 4>(src, dst, count);
     case 5: return runsOfLength<Op, 5>(src, dst, count);
     case 6: return runsOfLength<Op, 6>(src, dst, count);
-    case 7: return longRunsOfLength<Op, 7>(src, dst, count);
-    case 8: return longRunsOfLength<Op, 8>(src, dst, count);
-    case 9: return longRunsOfLength<Op, 9>(src, dst, count);
-    case 10: return longRunsOfLength<Op, 10>(src, dst, count);
-    case 11: return longRunsOfLength<Op, 11>(src, dst, count);
-    case 12: return longRunsOfLength<Op, 12>(src, dst, count);
-    case 13: return longRunsOfLength<Op, 13>(src, dst, count);
-    case 14: return longRunsOfLength<Op, 14>(src, dst, count);
-    case 15: return longRunsOfLength<Op, 15>(src, dst, count);
-    case 16: return longRunsOfLength<Op, 16>(src, dst, count);
     default: break;
     }
-    if constexpr (Op::sources == 1) {  // matrices of order 5 and 6
-        if (n == 25) return longRunsOfLength<Op, 25>(src, dst, count);
-        if (n == 36) return longRunsOfLength<Op, 36>(src, dst, count);
+    if constexpr (Op::sources == 1) {  // square matrices of order 3 to 6
+        switch (n) {
+        case 9: return longRunsOfLength<9>(src, dst, count);
+        case 16: return longRunsOfLength<16>(src, dst, count);
+        case 25: return longRunsOfLength<25>(src, dst, count);
+        case 36: return longRunsOfLength<36>(src, dst, count);
+        default: break;
+        }
     }
+    if (n < sumsOf<T>)
+        return withRegisters<T>(int(n), [&](auto whole, auto hasRest) VORM_INLINE_LAMBDA {
+            longRunsOfLength<Op, whole, hasRest>(src, int(n) % narrow<T>, dst, count);
+        });
     longRuns<Op>(src, dst, count, [n](const Runs<Op, T>& runs) VORM_INLINE_LAMBDA { return sumsAlong<Op>(runs, n); });
 }
 
@@ -281,8 +315,6 @@ template <bool secondIsCommon, class Op, class T>
 VORM_INLINE void planesOfAnyLength(const PlaneSources<Op, T>& src, std::ptrdiff_t n, T* dst, int count)
 {
     switch (n) {
-    case 1: return planesOfLength<Op, 1, secondIsCommon>(src, dst, count);
-    case 2: return planesOfLength<Op, 2, secondIsCommon>(src, dst, count);
     case 3: return planesOfLength<Op, 3, secondIsCommon>(src, dst, count);
     case 4: return planesOfLength<Op, 4, secondIsCommon>(src, dst, count);
     case 5: return planesOfLength<Op, 5, secondIsCommon>(src, dst, count);
@@ -290,8 +322,9 @@ VORM_INLINE void planesOfAnyLength(const PlaneSources<Op, T>& src, std::ptrdiff_
     default: break;
     }
     storeResults<Several<Wide<T>, 2>>(dst, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
-        return Op::result(sumOfNumbers<Op, Number>(
-            n, [&](std::ptrdiff_t k) VORM_INLINE_LAMBDA { return planeTerm<Number, secondIsCommon>(src, k, first); }));
+        const auto term = [&](std::ptrdiff_t k)
+                              VORM_INLINE_LAMBDA { return planeTerm<Number, secondIsCommon>(src, k, first); };
+        return Op::result(n <= shortTerms ? leftToRight(int(n), term) : sumOfNumbers<Op, Number>(n, term));
     });
 }
 
@@ -329,6 +362,24 @@ template <int n, class T, class Elements>
     for (; object < count; ++object) trace(src.at(object), object);
 }
 
+// Four sums that do not wait for each other.
+template <class T, class Elements>
+VORM_INLINE void tracesOfAnyOrder(const Elements& src, int n, T* dst, int count)
+{
+    const std::ptrdiff_t step = src.row + src.column;
+    const auto some = [&](auto objects, int object) VORM_INLINE_LAMBDA {
+        const T* p[objects];
+        T sums[objects];
+        for (int l = 0; l < objects; ++l) p[l] = src.at(object + l), sums[l] = elementAt(p[l], 0);
+        for (std::ptrdiff_t i = 1, at = step; i < n; ++i, at += step)
+            for (int l = 0; l < objects; ++l) sums[l] = sums[l] + elementAt(p[l], at);
+        for (int l = 0; l < objects; ++l) entry(dst, object + l) = sums[l];
+    };
+    int object = 0;
+    for (; object + 4 <= count; object += 4) some(constant<4>, object);
+    for (; object < count; ++object) some(constant<1>, object);
+}
+
 template <class T, class Elements>
 void traces(const Elements& src, int n, T* dst, int count)
 {
@@ -339,19 +390,10 @@ void traces(const Elements& src, int n, T* dst, int count)
         case 4: return tracesOfOrder<4>(src, dst, count);
         case 5: return tracesOfOrder<5>(src, dst, count);
         case 6: return tracesOfOrder<6>(src, dst, count);
-        default: break;
+        default: return tracesOfAnyOrder(src, n, dst, count);
         }
     }
-    constexpr int some = 4;  // sums that do not wait for each other
-    int object = 0;
-    for (; object + some <= count; object += some) {
-        T sums[some];
-        for (int l = 0; l < some; ++l) sums[l] = src[object + l](0, 0);
-        for (int i = 1; i < n; ++i)
-            for (int l = 0; l < some; ++l) sums[l] = sums[l] + src[object + l](i, i);
-        for (int l = 0; l < some; ++l) entry(dst, object + l) = sums[l];
-    }
-    for (; object < count; ++object) {
+    for (int object = 0; object < count; ++object) {
         const auto a = src[object];
         entry(dst, object) = leftToRight(n, [&](int i) VORM_INLINE_LAMBDA { return T(a(i, i)); });
     }

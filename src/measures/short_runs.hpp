@@ -80,9 +80,6 @@ VORM_INLINE void turn(const Rows& rows, L (&to)[n])
 
 // Packed objects of up to three elements are turned from as many registers as they have elements. -------------------
 
-template <int n>
-constexpr bool turnsPacked = n <= 3;
-
 template <class L>
 VORM_INLINE void turnPacked(L (&)[1])
 {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "frame/elements.hpp"
+#include "frame/pin.hpp"
 #include "measures/order.hpp"
 
 namespace vorm::measures {
@@ -31,43 +32,49 @@ VORM_INLINE void addGroups(const T* const (&p)[Op::sources], std::ptrdiff_t n, s
         eachPart(wide[j], [&](int q, Lanes<T> part) VORM_INLINE_LAMBDA { sums[j * parts + q] = part; });
 }
 
-// The sums of a run of any length, not yet folded.
+// The sums of a run of at least one group, not yet folded and begun with their first terms.
 template <class Op, class T>
 VORM_INLINE Lanes<T> sumsAlong(const Runs<Op, T>& runs, std::ptrdiff_t n)
 {
     constexpr int width = narrow<T>;
     Lanes<T> sums[sumRegisters];
-    for (auto& sum : sums) sum = T(0);
-    std::ptrdiff_t i = 0;
-    if (n >= sumsOf<T>) addGroups<Op>(runs.p, n, i, sums);
-    const int left = int(n - i);
-    if (left == 0) return united(sums);
-    unrolled<sumRegisters>([&](auto j) VORM_INLINE_LAMBDA {
-        const auto add = [&](const auto& load) VORM_INLINE_LAMBDA {
-            sums[j] = sums[j] +
-                      termOf<Op, Lanes<T>>([&](auto s) VORM_INLINE_LAMBDA { return load(runs.p[s] + i + j * width); });
-        };
-        if (left >= (j + 1) * width)
-            add([](const T* p) VORM_INLINE_LAMBDA { return Lanes<T>::load(p); });
-        else if (left > j * width)  // the lanes without a term are zero
-            add([&](const T* p) VORM_INLINE_LAMBDA { return loadFirst(p, left - j * width); });
-    });
+    for (int j = 0; j < sumRegisters; ++j)
+        sums[j] =
+            termOf<Op, Lanes<T>>([&](auto s) VORM_INLINE_LAMBDA { return Lanes<T>::load(runs.p[s] + j * width); });
+    std::ptrdiff_t i = sumsOf<T>;
+    if (n >= 2 * sumsOf<T>) addGroups<Op>(runs.p, n, i, sums);
+    const int left = int(n - i), rest = left % width;
+    const auto add = [&](auto j, const auto& load) VORM_INLINE_LAMBDA {
+        sums[j] =
+            sums[j] + termOf<Op, Lanes<T>>([&](auto s) VORM_INLINE_LAMBDA { return load(runs.p[s] + i + j * width); });
+    };
+    const auto addWhole = [&](auto j) VORM_INLINE_LAMBDA {
+        add(j, [](const T* p) VORM_INLINE_LAMBDA { return Lanes<T>::load(p); });
+    };
+    const auto addRest = [&](auto j) VORM_INLINE_LAMBDA {  // the lanes without a term are zero
+        if (rest) add(j, [&](const T* p) VORM_INLINE_LAMBDA { return loadFirst(p, rest); });
+    };
+    switch (left / width) {
+    case 0: addRest(constant<0>); break;
+    case 1: addWhole(constant<0>), addRest(constant<1>); break;
+    case 2: addWhole(constant<0>), addWhole(constant<1>), addRest(constant<2>); break;
+    default: addWhole(constant<0>), addWhole(constant<1>), addWhole(constant<2>), addRest(constant<3>); break;
+    }
     return united(sums);
 }
-// The same of a length that is known.
-template <class Op, int n, class T>
-VORM_INLINE Lanes<T> sumsAlong(const Runs<Op, T>& runs)
+// The same of a length that is known: whole registers and a rest of so many elements, of which only hasRest needs to be
+// known.
+template <class Op, int whole, bool hasRest, class T, class Rest>
+VORM_INLINE Lanes<T> sumsAlong(const Runs<Op, T>& runs, Rest rest)
 {
-    constexpr int width = narrow<T>, whole = n / width, rest = n % width, registers = whole + (rest != 0);
+    constexpr int width = narrow<T>, registers = whole + hasRest;
     const auto term = [&](auto k) VORM_INLINE_LAMBDA {
         return termOf<Op, Lanes<T>>([&](auto s) VORM_INLINE_LAMBDA {
             const T* const p = runs.p[s] + k * width;
             if constexpr (k < whole)
                 return Lanes<T>::load(p);
-            else if constexpr (rest == 3)
-                return loadThree(p);
             else
-                return loadFirst<rest>(p);
+                return loadFirst(p, rest);
         });
     };
     Lanes<T> sums[sumRegisters];
@@ -83,6 +90,14 @@ VORM_INLINE Lanes<T> sumsAlong(const Runs<Op, T>& runs)
     return united(sums);
 }
 
+// Keeps sums from being made side by side: they would not fit the registers.
+template <class Number>
+VORM_INLINE Number settled(Number sum)
+{
+    unrolled<registersIn<Number>>([&](auto k) VORM_INLINE_LAMBDA { pin(registerOf(sum, k)); });
+    return sum;
+}
+
 // Of numbers: term(k) of all objects that a number holds. A sum at a time grows, so that few are in registers.
 template <class Op, class Number, class Term>
 VORM_INLINE Number sumOfNumbers(std::ptrdiff_t n, const Term& term)
@@ -93,12 +108,13 @@ VORM_INLINE Number sumOfNumbers(std::ptrdiff_t n, const Term& term)
         if (l >= n) return Number(T(0));
         Number sum = term(l);
         for (std::ptrdiff_t k = l + count; k < n; k += count) sum = sum + term(k);
-        return sum;
+        return settled(sum);
     };
     Number lane[width];
     for (int l = 0; l < width; ++l) {
-        const Number first = sumFrom(l) + sumFrom(l + width);
-        lane[l] = first + (sumFrom(l + 2 * width) + sumFrom(l + 3 * width));
+        const Number s0 = sumFrom(l), s1 = sumFrom(l + width);
+        const Number s2 = sumFrom(l + 2 * width), s3 = sumFrom(l + 3 * width);
+        lane[l] = (s0 + s1) + (s2 + s3);
     }
     if constexpr (width == 2)
         return Op::fromZero(lane[0] + lane[1]);
@@ -118,29 +134,36 @@ VORM_INLINE auto sumFrom(const Term& term)
 template <int n, int l, int distance, class Term>
 VORM_INLINE auto sumOfPair(const Term& term)
 {
-    if constexpr (l + distance < n)
-        return sumFrom<n, l>(term) + sumFrom<n, l + distance>(term);
-    else
+    if constexpr (l + distance < n) {
+        const auto first = sumFrom<n, l>(term);
+        return settled(first + sumFrom<n, l + distance>(term));
+    } else {
         return sumFrom<n, l>(term);
+    }
 }
 template <int n, int l, class Term>
 VORM_INLINE auto sumOfLane(const Term& term)
 {
     constexpr int width = narrow<Element<decltype(term(constant<0>))>>;
-    if constexpr (l + 2 * width < n)
-        return sumOfPair<n, l, width>(term) + sumOfPair<n, l + 2 * width, width>(term);
-    else
+    if constexpr (l + 2 * width < n) {
+        const auto first = sumOfPair<n, l, width>(term);
+        return settled(first + sumOfPair<n, l + 2 * width, width>(term));
+    } else {
         return sumOfPair<n, l, width>(term);
+    }
 }
 template <class Op, int n, class Term>
 VORM_INLINE auto sumOfNumbers(const Term& term)
 {
-    using Number = decltype(term(constant<0>));
-    if constexpr (narrow<Element<Number>> == 2)
-        return Op::fromZero(sumOfLane<n, 0>(term) + sumOfLane<n, 1>(term));
+    const auto pair = [&](auto l) VORM_INLINE_LAMBDA {
+        const auto first = sumOfLane<n, l>(term);
+        return settled(first + sumOfLane<n, l + 1>(term));
+    };
+    const auto first = pair(constant<0>);
+    if constexpr (narrow<Element<decltype(term(constant<0>))>> == 2)
+        return Op::fromZero(first);
     else
-        return Op::fromZero((sumOfLane<n, 0>(term) + sumOfLane<n, 1>(term)) +
-                            (sumOfLane<n, 2>(term) + sumOfLane<n, 3>(term)));
+        return Op::fromZero(first + pair(constant<2>));
 }
 
 // The result of one object. ----------------------------------------------------------------------------------------

@@ -41,12 +41,12 @@ namespace vorm::measures {
 template <class T>
 VORM_INLINE constexpr Work dotVavWork(int len, int count)
 {
-    return workOf(wrapMul(len, wrapAdd(count, 1)), byType<T>(200, 400), len, count);
+    return workOf(wrapMul(len, wrapAdd(count, 1)), byType<T>(150, 220), len, count);
 }
 template <class T>
 VORM_INLINE constexpr Work dotVavaWork(int len, int count)
 {
-    return workOf(wrapMul(wrapMul(2, len), count), byType<T>(200, 400), len, count);
+    return workOf(wrapMul(wrapMul(2, len), count), byType<T>(150, 220), len, count);
 }
 
 template <class T>

@@ -10,32 +10,32 @@ extern "C" {
 
 VormStatus n8_vormDotProduct_vav_32f(DOT_VAV_PARAMS(float))
 {
-    return checked<10800>(dotVav(DOT_VAV_ARGS), n8_ownOMP_vormDotProduct_vav_32f, n8_ownvormDotProduct_vav_32f,
+    return checked<21600>(dotVav(DOT_VAV_ARGS), n8_ownOMP_vormDotProduct_vav_32f, n8_ownvormDotProduct_vav_32f,
                           n8_ownvormDotProduct_vav_32f_S2, DOT_VAV_ARGS);
 }
 VormStatus n8_vormDotProduct_vav_64f(DOT_VAV_PARAMS(double))
 {
-    return checked<10800>(dotVav(DOT_VAV_ARGS), n8_ownOMP_vormDotProduct_vav_64f, n8_ownvormDotProduct_vav_64f,
+    return checked<21600>(dotVav(DOT_VAV_ARGS), n8_ownOMP_vormDotProduct_vav_64f, n8_ownvormDotProduct_vav_64f,
                           n8_ownvormDotProduct_vav_64f_S2, DOT_VAV_ARGS);
 }
 VormStatus n8_vormDotProduct_vav_32f_L(DOT_VAV_PARAMS_L(float))
 {
-    return checked<10800>(dotVavL(DOT_VAV_ARGS_L), n8_ownOMP_vormDotProduct_vav_32f_L, n8_ownvormDotProduct_vav_32f_L,
+    return checked<14400>(dotVavL(DOT_VAV_ARGS_L), n8_ownOMP_vormDotProduct_vav_32f_L, n8_ownvormDotProduct_vav_32f_L,
                           n8_ownvormDotProduct_vav_32f_LS2, DOT_VAV_ARGS_L);
 }
 VormStatus n8_vormDotProduct_vav_64f_L(DOT_VAV_PARAMS_L(double))
 {
-    return checked<10800>(dotVavL(DOT_VAV_ARGS_L), n8_ownOMP_vormDotProduct_vav_64f_L, n8_ownvormDotProduct_vav_64f_L,
+    return checked<14400>(dotVavL(DOT_VAV_ARGS_L), n8_ownOMP_vormDotProduct_vav_64f_L, n8_ownvormDotProduct_vav_64f_L,
                           n8_ownvormDotProduct_vav_64f_LS2, DOT_VAV_ARGS_L);
 }
 VormStatus n8_vormDotProduct_vav_32f_P(DOT_VAV_PARAMS_P(float))
 {
-    return checked<10800>(dotVavP(DOT_VAV_ARGS_P), n8_ownOMP_vormDotProduct_vav_32f_P, n8_ownvormDotProduct_vav_32f_P,
+    return checked<21600>(dotVavP(DOT_VAV_ARGS_P), n8_ownOMP_vormDotProduct_vav_32f_P, n8_ownvormDotProduct_vav_32f_P,
                           DOT_VAV_ARGS_P);
 }
 VormStatus n8_vormDotProduct_vav_64f_P(DOT_VAV_PARAMS_P(double))
 {
-    return checked<10800>(dotVavP(DOT_VAV_ARGS_P), n8_ownOMP_vormDotProduct_vav_64f_P, n8_ownvormDotProduct_vav_64f_P,
+    return checked<21600>(dotVavP(DOT_VAV_ARGS_P), n8_ownOMP_vormDotProduct_vav_64f_P, n8_ownvormDotProduct_vav_64f_P,
                           DOT_VAV_ARGS_P);
 }
 

@@ -24,7 +24,7 @@ namespace vorm::measures {
 template <class T>
 VORM_INLINE constexpr Work frobNormWork(int width, int height, int count)
 {
-    return workOf(wrapMul(wrapMul(width, height), count), byType<T>(150, 300), width, height, count);
+    return workOf(wrapMul(wrapMul(width, height), count), byType<T>(75, 125), width, height, count);
 }
 
 template <class T>

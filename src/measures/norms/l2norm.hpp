@@ -21,7 +21,7 @@ namespace vorm::measures {
 template <class T>
 VORM_INLINE constexpr Work l2NormWork(int len, int count)
 {
-    return workOf(wrapMul(len, count), byType<T>(200, 500), len, count);
+    return workOf(wrapMul(len, count), byType<T>(130, 220), len, count);
 }
 
 template <class T>

@@ -10,32 +10,32 @@ extern "C" {
 
 VormStatus n8_vormFrobNorm_ma_32f(FROB_MA_PARAMS(float))
 {
-    return checked<10800>(frobNormMa(FROB_MA_ARGS), n8_ownOMP_vormFrobNorm_ma_32f, n8_ownvormFrobNorm_ma_32f,
+    return checked<21600>(frobNormMa(FROB_MA_ARGS), n8_ownOMP_vormFrobNorm_ma_32f, n8_ownvormFrobNorm_ma_32f,
                           n8_ownvormFrobNorm_ma_32f_S2, FROB_MA_ARGS);
 }
 VormStatus n8_vormFrobNorm_ma_64f(FROB_MA_PARAMS(double))
 {
-    return checked<10800>(frobNormMa(FROB_MA_ARGS), n8_ownOMP_vormFrobNorm_ma_64f, n8_ownvormFrobNorm_ma_64f,
+    return checked<21600>(frobNormMa(FROB_MA_ARGS), n8_ownOMP_vormFrobNorm_ma_64f, n8_ownvormFrobNorm_ma_64f,
                           n8_ownvormFrobNorm_ma_64f_S2, FROB_MA_ARGS);
 }
 VormStatus n8_vormFrobNorm_ma_32f_L(FROB_MA_PARAMS_L(float))
 {
-    return checked<10800>(frobNormMaL(FROB_MA_ARGS_L), n8_ownOMP_vormFrobNorm_ma_32f_L, n8_ownvormFrobNorm_ma_32f_L,
+    return checked<14400>(frobNormMaL(FROB_MA_ARGS_L), n8_ownOMP_vormFrobNorm_ma_32f_L, n8_ownvormFrobNorm_ma_32f_L,
                           n8_ownvormFrobNorm_ma_32f_LS2, FROB_MA_ARGS_L);
 }
 VormStatus n8_vormFrobNorm_ma_64f_L(FROB_MA_PARAMS_L(double))
 {
-    return checked<10800>(frobNormMaL(FROB_MA_ARGS_L), n8_ownOMP_vormFrobNorm_ma_64f_L, n8_ownvormFrobNorm_ma_64f_L,
+    return checked<14400>(frobNormMaL(FROB_MA_ARGS_L), n8_ownOMP_vormFrobNorm_ma_64f_L, n8_ownvormFrobNorm_ma_64f_L,
                           n8_ownvormFrobNorm_ma_64f_LS2, FROB_MA_ARGS_L);
 }
 VormStatus n8_vormFrobNorm_ma_32f_P(FROB_MA_PARAMS_P(float))
 {
-    return checked<10800>(frobNormMaP(FROB_MA_ARGS_P), n8_ownOMP_vormFrobNorm_ma_32f_P, n8_ownvormFrobNorm_ma_32f_P,
+    return checked<21600>(frobNormMaP(FROB_MA_ARGS_P), n8_ownOMP_vormFrobNorm_ma_32f_P, n8_ownvormFrobNorm_ma_32f_P,
                           FROB_MA_ARGS_P);
 }
 VormStatus n8_vormFrobNorm_ma_64f_P(FROB_MA_PARAMS_P(double))
 {
-    return checked<10800>(frobNormMaP(FROB_MA_ARGS_P), n8_ownOMP_vormFrobNorm_ma_64f_P, n8_ownvormFrobNorm_ma_64f_P,
+    return checked<21600>(frobNormMaP(FROB_MA_ARGS_P), n8_ownOMP_vormFrobNorm_ma_64f_P, n8_ownvormFrobNorm_ma_64f_P,
                           FROB_MA_ARGS_P);
 }
 

@@ -10,32 +10,32 @@ extern "C" {
 
 VormStatus n8_vormL2Norm_va_32f(L2_VA_PARAMS(float))
 {
-    return checked<10800>(l2NormVa(L2_VA_ARGS), n8_ownOMP_vormL2Norm_va_32f, n8_ownvormL2Norm_va_32f,
+    return checked<14400>(l2NormVa(L2_VA_ARGS), n8_ownOMP_vormL2Norm_va_32f, n8_ownvormL2Norm_va_32f,
                           n8_ownvormL2Norm_va_32f_S2, L2_VA_ARGS);
 }
 VormStatus n8_vormL2Norm_va_64f(L2_VA_PARAMS(double))
 {
-    return checked<10800>(l2NormVa(L2_VA_ARGS), n8_ownOMP_vormL2Norm_va_64f, n8_ownvormL2Norm_va_64f,
+    return checked<14400>(l2NormVa(L2_VA_ARGS), n8_ownOMP_vormL2Norm_va_64f, n8_ownvormL2Norm_va_64f,
                           n8_ownvormL2Norm_va_64f_S2, L2_VA_ARGS);
 }
 VormStatus n8_vormL2Norm_va_32f_L(L2_VA_PARAMS_L(float))
 {
-    return checked<10800>(l2NormVaL(L2_VA_ARGS_L), n8_ownOMP_vormL2Norm_va_32f_L, n8_ownvormL2Norm_va_32f_L,
+    return checked<14400>(l2NormVaL(L2_VA_ARGS_L), n8_ownOMP_vormL2Norm_va_32f_L, n8_ownvormL2Norm_va_32f_L,
                           n8_ownvormL2Norm_va_32f_LS2, L2_VA_ARGS_L);
 }
 VormStatus n8_vormL2Norm_va_64f_L(L2_VA_PARAMS_L(double))
 {
-    return checked<10800>(l2NormVaL(L2_VA_ARGS_L), n8_ownOMP_vormL2Norm_va_64f_L, n8_ownvormL2Norm_va_64f_L,
+    return checked<14400>(l2NormVaL(L2_VA_ARGS_L), n8_ownOMP_vormL2Norm_va_64f_L, n8_ownvormL2Norm_va_64f_L,
                           n8_ownvormL2Norm_va_64f_LS2, L2_VA_ARGS_L);
 }
 VormStatus n8_vormL2Norm_va_32f_P(L2_VA_PARAMS_P(float))
 {
-    return checked<10800>(l2NormVaP(L2_VA_ARGS_P), n8_ownOMP_vormL2Norm_va_32f_P, n8_ownvormL2Norm_va_32f_P,
+    return checked<21600>(l2NormVaP(L2_VA_ARGS_P), n8_ownOMP_vormL2Norm_va_32f_P, n8_ownvormL2Norm_va_32f_P,
                           L2_VA_ARGS_P);
 }
 VormStatus n8_vormL2Norm_va_64f_P(L2_VA_PARAMS_P(double))
 {
-    return checked<10800>(l2NormVaP(L2_VA_ARGS_P), n8_ownOMP_vormL2Norm_va_64f_P, n8_ownvormL2Norm_va_64f_P,
+    return checked<21600>(l2NormVaP(L2_VA_ARGS_P), n8_ownOMP_vormL2Norm_va_64f_P, n8_ownvormL2Norm_va_64f_P,
                           L2_VA_ARGS_P);
 }
 

@@ -23,7 +23,7 @@ namespace vorm::measures {
 template <class T>
 VORM_INLINE constexpr Work traceWork(int widthHeight, int count)
 {
-    return workOf(wrapMul(widthHeight, count), byType<T>(200, 250), widthHeight, count);
+    return workOf(wrapMul(widthHeight, count), byType<T>(190, 260), widthHeight, count);
 }
 
 template <class T>

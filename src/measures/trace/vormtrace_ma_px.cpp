@@ -30,12 +30,12 @@ VormStatus n8_vormTrace_ma_64f_L(TRACE_MA_PARAMS_L(double))
 }
 VormStatus n8_vormTrace_ma_32f_P(TRACE_MA_PARAMS_P(float))
 {
-    return checked<10800>(traceMaP(TRACE_MA_ARGS_P), n8_ownOMP_vormTrace_ma_32f_P, n8_ownvormTrace_ma_32f_P,
+    return checked<21600>(traceMaP(TRACE_MA_ARGS_P), n8_ownOMP_vormTrace_ma_32f_P, n8_ownvormTrace_ma_32f_P,
                           TRACE_MA_ARGS_P);
 }
 VormStatus n8_vormTrace_ma_64f_P(TRACE_MA_PARAMS_P(double))
 {
-    return checked<10800>(traceMaP(TRACE_MA_ARGS_P), n8_ownOMP_vormTrace_ma_64f_P, n8_ownvormTrace_ma_64f_P,
+    return checked<21600>(traceMaP(TRACE_MA_ARGS_P), n8_ownOMP_vormTrace_ma_64f_P, n8_ownvormTrace_ma_64f_P,
                           TRACE_MA_ARGS_P);
 }
 
