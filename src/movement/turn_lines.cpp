@@ -1,6 +1,7 @@
 // Lines turned in registers, for both types.
 
 #include "frame/object_lanes.hpp"
+#include "frame/pin.hpp"
 #include "movement/lines.hpp"
 
 namespace vorm::movement {
@@ -23,6 +24,15 @@ struct StoredAt {
     VORM_INLINE void operator=(L a) const { a.store(p); }
 };
 
+// g++ would load halves of two doubles again from memory instead of shuffling them.
+template <class L, class T>
+VORM_INLINE L loaded(const T* p)
+{
+    L a = L::load(p);
+    if constexpr (sizeof(T) == sizeof(double) && L::parts == 1) pin(a);
+    return a;
+}
+
 // n elements, at most as many as are done at once, of lines that fill some registers, from element x and line y on.
 template <class L, class T, class S, class D, class N>
 VORM_INLINE void turnIn(const S& src, const D& dst, std::ptrdiff_t x, std::ptrdiff_t y, int registers, N n)
@@ -33,6 +43,15 @@ VORM_INLINE void turnIn(const S& src, const D& dst, std::ptrdiff_t x, std::ptrdi
     for (int k = 0; k < registers; ++k, y += L::width) {
         const T* from[L::width];
         for (int l = 0; l < L::width; ++l) from[l] = src.at(y + l) + x;
+        if constexpr (L::width == 2) {
+            int i = 0;
+            for (; i + 2 <= n; i += 2) {
+                L pair[] = {loaded<L>(from[0] + i), loaded<L>(from[1] + i)};
+                transpose(pair);
+                pair[0].store(to[i] + k * 2), pair[1].store(to[i + 1] + k * 2);
+            }
+            if (i == n) continue;
+        }
         loadRows(
             from, [&](int i) VORM_INLINE_LAMBDA { return StoredAt<L, T>{to[i] + k * L::width}; }, n);
     }
@@ -48,7 +67,7 @@ VORM_INLINE void turnOut(const S& src, const D& dst, std::ptrdiff_t x, std::ptrd
         T* to[L::width];
         for (int l = 0; l < L::width; ++l) to[l] = dst.at(x + l) + y;
         storeRows(
-            to, [&](int i) VORM_INLINE_LAMBDA { return L::load(from[i] + k * L::width); }, n);
+            to, [&](int i) VORM_INLINE_LAMBDA { return loaded<L>(from[i] + k * L::width); }, n);
     }
 }
 
@@ -68,7 +87,7 @@ template <class T, class Body>
 VORM_INLINE std::ptrdiff_t registerByRegister(std::ptrdiff_t n, const Body& body)
 {
     std::ptrdiff_t i = 0;
-    if constexpr (widest < T >> narrow<T>)
+    if constexpr (narrow<T> < widest<T>)
         for (; i + cacheLine<T> <= n; i += cacheLine<T>) body(i, Wide<T>(), cacheLine<T> / widest<T>);
     while (i + narrow<T> <= n) {
         const int registers = i + cacheLine<T> <= n ? cacheLine<T> / narrow<T> : 1;
