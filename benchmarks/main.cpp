@@ -167,10 +167,11 @@ int run(const std::string& filter, const std::string& output)
     addCholesky(sections);
     addDet(sections);
     addMath3d(sections);
-    addCrossProducts(sections);
-    addExtract(sections);
     addQr(sections);
     addMeasures(sections);
+    addCrossProducts(sections);
+    addMovement(sections);
+    addExtract(sections);
     addCalls(sections);
     addTeam(sections);
 

@@ -1,6 +1,7 @@
 // Lines turned in registers, for both types.
 
 #include "frame/object_lanes.hpp"
+#include "frame/pin.hpp"
 #include "movement/lines.hpp"
 
 namespace vorm::movement {
@@ -14,41 +15,86 @@ constexpr int cacheLine = 64 / int{sizeof(T)};
 template <class T>
 constexpr std::ptrdiff_t blockEdge = 256 / sizeof(T);
 
+// So many elements of lines, or lines, at a time: their addresses are found once for a cache line of the others.
+constexpr int atOnce = 4;
+
 template <class L, class T>
 struct StoredAt {
     T* p;
     VORM_INLINE void operator=(L a) const { a.store(p); }
 };
 
-// Up to some of the elements of as many source lines as L has lanes, from element x and line y on.
-template <class L, class T, class S, class D, class N>
-VORM_INLINE void turnIn(const S& src, const D& dst, std::ptrdiff_t x, std::ptrdiff_t y, N n)
+// g++ would load halves of two doubles again from memory instead of shuffling them.
+template <class L, class T>
+VORM_INLINE L loaded(const T* p)
 {
-    const T* from[L::width];
-    for (int l = 0; l < L::width; ++l) from[l] = src.at(y + l) + x;
-    loadRows(
-        from, [&](int i) VORM_INLINE_LAMBDA { return StoredAt<L, T>{dst.at(x + i) + y}; }, n);
-}
-// Up to some source lines, and as many of their elements as L has lanes.
-template <class L, class T, class S, class D, class N>
-VORM_INLINE void turnOut(const S& src, const D& dst, std::ptrdiff_t x, std::ptrdiff_t y, N n)
-{
-    T* to[L::width];
-    for (int l = 0; l < L::width; ++l) to[l] = dst.at(x + l) + y;
-    storeRows(
-        to, [&](int i) VORM_INLINE_LAMBDA { return L::load(src.at(y + i) + x); }, n);
+    L a = L::load(p);
+    if constexpr (sizeof(T) == sizeof(double) && L::parts == 1) pin(a);
+    return a;
 }
 
-// The same for any number of elements, or of lines, n: some at a time, and each time for some registers of the others.
-template <class T, class Turn>
+// n elements, at most as many as are done at once, of lines that fill some registers, from element x and line y on.
+template <class L, class T, class S, class D, class N>
+VORM_INLINE void turnIn(const S& src, const D& dst, std::ptrdiff_t x, std::ptrdiff_t y, int registers, N n)
+{
+    T* to[atOnce];
+    for (int i = 0; i < n; ++i) to[i] = dst.at(x + i) + y;
+#pragma GCC unroll 1
+    for (int k = 0; k < registers; ++k, y += L::width) {
+        const T* from[L::width];
+        for (int l = 0; l < L::width; ++l) from[l] = src.at(y + l) + x;
+        if constexpr (L::width == 2) {
+            int i = 0;
+            for (; i + 2 <= n; i += 2) {
+                L pair[] = {loaded<L>(from[0] + i), loaded<L>(from[1] + i)};
+                transpose(pair);
+                pair[0].store(to[i] + k * 2), pair[1].store(to[i + 1] + k * 2);
+            }
+            if (i == n) continue;
+        }
+        loadRows(
+            from, [&](int i) VORM_INLINE_LAMBDA { return StoredAt<L, T>{to[i] + k * L::width}; }, n);
+    }
+}
+// n lines, and elements of them that fill some registers.
+template <class L, class T, class S, class D, class N>
+VORM_INLINE void turnOut(const S& src, const D& dst, std::ptrdiff_t x, std::ptrdiff_t y, int registers, N n)
+{
+    const T* from[atOnce];
+    for (int i = 0; i < n; ++i) from[i] = src.at(y + i) + x;
+#pragma GCC unroll 1
+    for (int k = 0; k < registers; ++k, x += L::width) {
+        T* to[L::width];
+        for (int l = 0; l < L::width; ++l) to[l] = dst.at(x + l) + y;
+        storeRows(
+            to, [&](int i) VORM_INLINE_LAMBDA { return loaded<L>(from[i] + k * L::width); }, n);
+    }
+}
+
+// All elements, or lines, some at a time.
+template <class Turn>
 VORM_INLINE void someAtATime(std::ptrdiff_t n, const Turn& turn)
 {
-    constexpr int some = narrow<T>;
     std::ptrdiff_t i = 0;
-    for (; i + some <= n; i += some) turn(i, constant<some>);
-    if constexpr (some == 4)
-        if (i + 2 <= n) turn(i, constant<2>), i += 2;
+    for (; i + atOnce <= n; i += atOnce) turn(i, constant<atOnce>);
+    if (i + 2 <= n) turn(i, constant<2>), i += 2;
     if (i < n) turn(i, constant<1>);
+}
+
+// Cache lines of elements, then single registers of 128 bits of them: body(first, a register, how many); returns the
+// first of those that are left.
+template <class T, class Body>
+VORM_INLINE std::ptrdiff_t registerByRegister(std::ptrdiff_t n, const Body& body)
+{
+    std::ptrdiff_t i = 0;
+    if constexpr (narrow<T> < widest<T>)
+        for (; i + cacheLine<T> <= n; i += cacheLine<T>) body(i, Wide<T>(), cacheLine<T> / widest<T>);
+    while (i + narrow<T> <= n) {
+        const int registers = i + cacheLine<T> <= n ? cacheLine<T> / narrow<T> : 1;
+        body(i, Lanes<T>(), registers);
+        i += registers * narrow<T>;
+    }
+    return i;
 }
 
 // What is left over both ways.
@@ -64,36 +110,29 @@ VORM_INLINE void turnCorner(const S& src, const D& dst, std::ptrdiff_t x, std::p
 template <class T, class S, class D>
 VORM_INLINE void turnManyLines(const S& src, const D& dst, std::ptrdiff_t length, std::ptrdiff_t lines)
 {
-    using L = Wide<T>;
-    std::ptrdiff_t x = 0, y = 0;
-    for (; y + cacheLine<T> <= lines; y += cacheLine<T>)
-        someAtATime<T>(length, [&](std::ptrdiff_t i, auto n) VORM_INLINE_LAMBDA {
-#pragma GCC unroll 1
-            for (int k = 0; k < cacheLine<T>; k += L::width) turnIn<L, T>(src, dst, i, y + k, n);
+    const std::ptrdiff_t y =
+        registerByRegister<T>(lines, [&](std::ptrdiff_t j, auto some, int registers) VORM_INLINE_LAMBDA {
+            someAtATime(length, [&](std::ptrdiff_t i, auto n)
+                                    VORM_INLINE_LAMBDA { turnIn<decltype(some), T>(src, dst, i, j, registers, n); });
         });
-    for (; y + narrow<T> <= lines; y += narrow<T>)
-        someAtATime<T>(length,
-                       [&](std::ptrdiff_t i, auto n) VORM_INLINE_LAMBDA { turnIn<Lanes<T>, T>(src, dst, i, y, n); });
     if (y == lines) return;
-    for (; x + narrow<T> <= length; x += narrow<T>) turnOut<Lanes<T>, T>(src, dst, x, y, static_cast<int>(lines - y));
+    std::ptrdiff_t x = 0;
+    for (; x + narrow<T> <= length; x += narrow<T>)
+        turnOut<Lanes<T>, T>(src, dst, x, y, 1, static_cast<int>(lines - y));
     turnCorner<T>(src, dst, x, length, y, lines);
 }
 // Few lines of many elements: along the lines of the source.
 template <class T, class S, class D>
 VORM_INLINE void turnLongLines(const S& src, const D& dst, std::ptrdiff_t length, std::ptrdiff_t lines)
 {
-    using L = Wide<T>;
-    std::ptrdiff_t x = 0, y = 0;
-    for (; x + cacheLine<T> <= length; x += cacheLine<T>)
-        someAtATime<T>(lines, [&](std::ptrdiff_t j, auto n) VORM_INLINE_LAMBDA {
-#pragma GCC unroll 1
-            for (int k = 0; k < cacheLine<T>; k += L::width) turnOut<L, T>(src, dst, x + k, j, n);
+    const std::ptrdiff_t x =
+        registerByRegister<T>(length, [&](std::ptrdiff_t i, auto some, int registers) VORM_INLINE_LAMBDA {
+            someAtATime(lines, [&](std::ptrdiff_t j, auto n)
+                                   VORM_INLINE_LAMBDA { turnOut<decltype(some), T>(src, dst, i, j, registers, n); });
         });
-    for (; x + narrow<T> <= length; x += narrow<T>)
-        someAtATime<T>(lines,
-                       [&](std::ptrdiff_t j, auto n) VORM_INLINE_LAMBDA { turnOut<Lanes<T>, T>(src, dst, x, j, n); });
     if (x == length) return;
-    for (; y + narrow<T> <= lines; y += narrow<T>) turnIn<Lanes<T>, T>(src, dst, x, y, static_cast<int>(length - x));
+    std::ptrdiff_t y = 0;
+    for (; y + narrow<T> <= lines; y += narrow<T>) turnIn<Lanes<T>, T>(src, dst, x, y, 1, static_cast<int>(length - x));
     turnCorner<T>(src, dst, x, length, y, lines);
 }
 
