@@ -169,6 +169,9 @@ int run(const std::string& filter, const std::string& output)
     addMath3d(sections);
     addQr(sections);
     addMeasures(sections);
+    addCrossProducts(sections);
+    addMovement(sections);
+    addExtract(sections);
     addCalls(sections);
     addTeam(sections);
 

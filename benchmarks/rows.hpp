@@ -53,6 +53,9 @@ void addDet(Sections& sections);
 void addMath3d(Sections& sections);
 void addQr(Sections& sections);
 void addMeasures(Sections& sections);
+void addCrossProducts(Sections& sections);
+void addMovement(Sections& sections);
+void addExtract(Sections& sections);
 void addCalls(Sections& sections);
 void addTeam(Sections& sections);
 

@@ -17,6 +17,9 @@ namespace {
 enum class Fault { null, count, size, fit, stride, shift };
 using Order = std::vector<Fault>;
 
+// Shift and strides of one operand after those of the other.
+bool isTestedPartByPart(const Function& f) { return f.family == "Copy" || f.family == "LoadIdentity"; }
+
 Order orderOf(const Function& f)
 {
     using enum Fault;
@@ -25,11 +28,15 @@ Order orderOf(const Function& f)
         if (f.layout == "L") return {null, size, stride, shift, count};
         return {null, size, stride, count, shift};
     }
+    if (f.family == "CrossProduct" && f.shape == "vav")
+        return f.layout == "L" ? Order{null, stride, shift, count} : Order{null, stride, count, shift};
+    if (f.family == "Extract" && !f.isArray() && f.layout == "P") return {size, null, shift};
     if (f.layout.empty() && ((vectorSum && f.shape == "mam") || (f.family == "Sub" && f.shape == "mma")))
         return {null, count, stride, size};
     if (f.family == "CholeskyBackSubst" && f.shape == "mva" && f.layout == "L")
         return {null, stride, shift, size, count};
     if (f.family.starts_with("QR")) return {null, count, size, stride, shift, fit};
+    if (isTestedPartByPart(f) || f.family == "Extract") return {null, size, count, shift, stride};
     return {null, count, size, fit, stride, shift};
 }
 
@@ -103,7 +110,12 @@ TEST(Arguments, SpoiltSinglyAndInPairs)
                                                                              : 3});
         const Order order = orderOf(f);
         const auto rank = [&](const Spoilt& s) {
-            return std::find(order.begin(), order.end(), s.fault) - order.begin();
+            const auto place = std::find(order.begin(), order.end(), s.fault) - order.begin();
+            const bool isOfOperand = s.fault == Fault::shift || s.fault == Fault::stride;
+            const auto operand = isOfOperand && isTestedPartByPart(f)
+                                     ? f.operandNamed(f.parameters[s.parameter].operand)
+                                     : std::size_t{0};
+            return std::ptrdiff_t(operand * order.size()) + place;
         };
         const std::vector<Spoilt> spoilt = spoiltArguments(f);
         for (const Spoilt& a : spoilt)
@@ -161,6 +173,8 @@ TEST(Arguments, CatalogueIsRead)
     EXPECT_EQ(members["Saxpy"], 22);
     EXPECT_EQ(members["LComb"], 16);
     EXPECT_EQ(members["Mul"], 22);
+    EXPECT_EQ(members["CrossProduct"], 22);
+    EXPECT_EQ(members["Extract"], 10);
     EXPECT_EQ(members["Normalize fixed"], 3);
     const Function& f = functionNamed("vormAdd_vav_32f_L");
     EXPECT_EQ(f.family + f.shape + f.type + f.layout, "Addvav32fL");

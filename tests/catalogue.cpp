@@ -114,6 +114,7 @@ void findOperands(Function& f)
         }
         o.name = p.operand, o.isInteger = p.isInteger, o.isWritten = p.role != Role::value && !p.isConst;
         if (p.role == Role::table) o.layout = f.layout;
+        if (p.role == Role::table && f.hasTwoLayouts()) o.layout = f.layout.substr(o.isWritten, 1);
         f.operands.push_back(o);
     }
     // Of the fixed forms the letters do not tell which operand is which.
@@ -162,6 +163,7 @@ const std::vector<Function>& catalogue()
 #include "vorm/factor.inc"
 #include "vorm/math3d.inc"
 #include "vorm/measures.inc"
+#include "vorm/movement.inc"
 #include "vorm/products.inc"
 #undef VORM_FUNCTION
     };

@@ -6,15 +6,35 @@
 extern const Family fixedForms, vectorSums, vectorScaling, matrixSums, vectorProducts, matrixProducts, gaxpyProducts,
     luDecomposition, luSubstitution, choleskyDecomposition, choleskySubstitution, determinants, inverses, curves,
     transformMatrices, matrixOperations, pointTransforms, affineTransform3DH, qrDecomposition, qrSubstitution,
-    dotProducts, l2Norms, frobeniusNorms, traces;
+    dotProducts, l2Norms, frobeniusNorms, traces, crossProducts, movement;
 
 const std::vector<const Family*>& families()
 {
-    static const std::vector<const Family*> all = {
-        &fixedForms,           &vectorSums,      &vectorScaling,      &matrixSums,      &vectorProducts,
-        &matrixProducts,       &gaxpyProducts,   &luDecomposition,    &luSubstitution,  &choleskyDecomposition,
-        &choleskySubstitution, &determinants,    &inverses,           &curves,          &transformMatrices,
-        &matrixOperations,     &pointTransforms, &affineTransform3DH, &qrDecomposition, &qrSubstitution,
-        &dotProducts,          &l2Norms,         &frobeniusNorms,     &traces};
+    static const std::vector<const Family*> all = {&fixedForms,
+                                                   &vectorSums,
+                                                   &vectorScaling,
+                                                   &matrixSums,
+                                                   &vectorProducts,
+                                                   &matrixProducts,
+                                                   &gaxpyProducts,
+                                                   &luDecomposition,
+                                                   &luSubstitution,
+                                                   &choleskyDecomposition,
+                                                   &choleskySubstitution,
+                                                   &determinants,
+                                                   &inverses,
+                                                   &curves,
+                                                   &transformMatrices,
+                                                   &matrixOperations,
+                                                   &pointTransforms,
+                                                   &affineTransform3DH,
+                                                   &qrDecomposition,
+                                                   &qrSubstitution,
+                                                   &dotProducts,
+                                                   &l2Norms,
+                                                   &frobeniusNorms,
+                                                   &traces,
+                                                   &crossProducts,
+                                                   &movement};
     return all;
 }

@@ -239,7 +239,8 @@ std::string check(const Call& call)
         const Operand& o = f.operands[k];
         if (!o.isWritten) continue;
         isJudged = isJudged && (o.isScratch || !p.overlapsItself(int(f.bytesOf(o))));
-        for (int n = 0; n < p.count() && (o.isScratch || !o.isInteger); ++n) accept(call, k, n, !o.isScratch);
+        const bool isFree = o.isScratch || !(o.isInteger || family.movesBits);
+        for (int n = 0; n < p.count() && isFree; ++n) accept(call, k, n, !o.isScratch);
         for (std::size_t i = 0; i < done.size() && !family.isExact; ++i) accept(call, k, done[i], false);
     }
     for (std::size_t k = 0; k < call.operands.size(); ++k)

@@ -16,6 +16,7 @@ extern "C" {
 #include "vorm/factor.inc"
 #include "vorm/math3d.inc"
 #include "vorm/measures.inc"
+#include "vorm/movement.inc"
 #include "vorm/products.inc"
 #undef VORM_FUNCTION
 
