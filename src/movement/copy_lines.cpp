@@ -29,6 +29,61 @@ struct BytesOf {
     VORM_INLINE void store(char* p) const { std::memcpy(p, &v, sizeof(T)); }
 };
 
+// So many parts of 16 bytes, then a last part, which may overlap the one before it.
+template <int parts, class Last, class S, class D>
+VORM_INLINE void copyInParts(const S& src, const D& dst, std::ptrdiff_t bytes, std::ptrdiff_t lines)
+{
+    const std::ptrdiff_t last = Last::size < 16 ? parts * 16 : bytes - Last::size;  // a smaller one fits
+    for (std::ptrdiff_t j = 0; j < lines; ++j) {
+        const char* const from = src.at(j);
+        char* const to = dst.at(j);
+        Bytes16 part[parts + 1];
+        unrolled<parts>([&](auto k) VORM_INLINE_LAMBDA { part[k] = Bytes16::load(from + k * 16); });
+        const Last lastPart = Last::load(from + last);
+        unrolled<parts>([&](auto k) VORM_INLINE_LAMBDA { part[k].store(to + k * 16); });
+        lastPart.store(to + last);
+    }
+}
+template <class S, class D>
+VORM_INLINE void copyTwelve(const S& src, const D& dst, std::ptrdiff_t lines)
+{
+    for (std::ptrdiff_t j = 0; j < lines; ++j) {
+        const char* const from = src.at(j);
+        char* const to = dst.at(j);
+        const auto first = BytesOf<std::uint64_t>::load(from);
+        const auto last = BytesOf<std::uint32_t>::load(from + 8);
+        first.store(to), last.store(to + 8);
+    }
+}
+template <int parts, class S, class D>
+VORM_INLINE void copyInParts(const S& src, const D& dst, std::ptrdiff_t bytes, std::ptrdiff_t lines)
+{
+    const std::ptrdiff_t rest = bytes - parts * 16;
+    if (rest == 4) return copyInParts<parts, BytesOf<std::uint32_t>>(src, dst, bytes, lines);
+    if (rest == 8) return copyInParts<parts, BytesOf<std::uint64_t>>(src, dst, bytes, lines);
+    if constexpr (parts == 0)
+        if (rest == 12) return copyTwelve(src, dst, lines);
+    copyInParts<parts, Bytes16>(src, dst, bytes, lines);
+}
+
+// Lines of more than 64 bytes: blocks of 64, the last of which overlaps the one before it.
+template <class S, class D>
+VORM_INLINE void copyInBlocks(const S& src, const D& dst, std::ptrdiff_t bytes, std::ptrdiff_t lines)
+{
+    constexpr int block = 64;
+    const auto copyBlock = [](const char* from, char* to) VORM_INLINE_LAMBDA {
+        Bytes16 part[4];
+        unrolled<4>([&](auto k) VORM_INLINE_LAMBDA { part[k] = Bytes16::load(from + k * 16); });
+        unrolled<4>([&](auto k) VORM_INLINE_LAMBDA { part[k].store(to + k * 16); });
+    };
+    for (std::ptrdiff_t j = 0; j < lines; ++j) {
+        const char* const from = src.at(j);
+        char* const to = dst.at(j);
+        for (std::ptrdiff_t i = 0; i < bytes - block; i += block) copyBlock(from + i, to + i);
+        copyBlock(from + bytes - block, to + bytes - block);
+    }
+}
+
 // So many parts, the last of which may overlap the one before it.
 template <class Part, int parts>
 VORM_INLINE void copyParts(const char* from, char* to, std::ptrdiff_t bytes)
@@ -39,11 +94,6 @@ VORM_INLINE void copyParts(const char* from, char* to, std::ptrdiff_t bytes)
     part[parts - 1] = Part::load(from + last);
     unrolled<parts - 1>([&](auto k) VORM_INLINE_LAMBDA { part[k].store(to + k * Part::size); });
     part[parts - 1].store(to + last);
-}
-template <class Part, int parts, class S, class D>
-VORM_INLINE void copyInParts(const S& src, const D& dst, std::ptrdiff_t bytes, std::ptrdiff_t lines)
-{
-    for (std::ptrdiff_t j = 0; j < lines; ++j) copyParts<Part, parts>(src.at(j), dst.at(j), bytes);
 }
 template <class Part, int parts, class S, class D>
 VORM_INLINE void copyRowsInParts(const S& src, const D& dst, const ShortRows& rows, std::ptrdiff_t objects)
@@ -83,22 +133,21 @@ void copyLines(const S& source, const D& destination, std::ptrdiff_t bytes, std:
 {
     const S src = source;
     const D dst = destination;
-    if (bytes <= 16) {
-        if (bytes == 4) return copyInParts<BytesOf<std::uint32_t>, 1>(src, dst, bytes, lines);
-        if (bytes == 16) return copyInParts<Bytes16, 1>(src, dst, bytes, lines);
-        return copyInParts<BytesOf<std::uint64_t>, 2>(src, dst, bytes, lines);
-    }
-    switch ((bytes + 15) / 16) {
-    case 2: return copyInParts<Bytes16, 2>(src, dst, bytes, lines);
-    case 3: return copyInParts<Bytes16, 3>(src, dst, bytes, lines);
-    case 4: return copyInParts<Bytes16, 4>(src, dst, bytes, lines);
-    case 5: return copyInParts<Bytes16, 5>(src, dst, bytes, lines);
-    case 6: return copyInParts<Bytes16, 6>(src, dst, bytes, lines);
-    case 7: return copyInParts<Bytes16, 7>(src, dst, bytes, lines);
-    case 8: return copyInParts<Bytes16, 8>(src, dst, bytes, lines);
-    case 9: return copyInParts<Bytes16, 9>(src, dst, bytes, lines);
+    constexpr std::ptrdiff_t mostInBlocks = 512;
+    switch ((bytes - 1) / 16) {
+    case 0: return copyInParts<0>(src, dst, bytes, lines);
+    case 1: return copyInParts<1>(src, dst, bytes, lines);
+    case 2: return copyInParts<2>(src, dst, bytes, lines);
+    case 3: return copyInParts<3>(src, dst, bytes, lines);
+    case 4: return copyInParts<4>(src, dst, bytes, lines);
+    case 5: return copyInParts<5>(src, dst, bytes, lines);
+    case 6: return copyInParts<6>(src, dst, bytes, lines);
+    case 7: return copyInParts<7>(src, dst, bytes, lines);
+    case 8: return copyInParts<8>(src, dst, bytes, lines);
+    case 12: return copyInParts<12>(src, dst, bytes, lines);  // five rows of five doubles
     default: break;
     }
+    if (bytes <= mostInBlocks) return copyInBlocks(src, dst, bytes, lines);
     for (std::ptrdiff_t j = 0; j < lines; ++j) std::memcpy(dst.at(j), src.at(j), static_cast<std::size_t>(bytes));
 }
 
