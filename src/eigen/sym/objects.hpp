@@ -18,8 +18,8 @@ template <class Number>
 VORM_HIDDEN VormStatus solveValues(Number* w, Number* u, int n);
 template <class Number>
 VORM_HIDDEN VormStatus solveVectors(Number* w, Number* u, Number* v, int n, bool sortsFirst);
-template <class T, class Object>
-VORM_HIDDEN VormStatus solveInPlace(T* w, T* u, const Object& vectors, int n, bool sortsFirst);
+template <class T, class Object>  // large enough that time goes into its loops, wherever they are: kept small
+[[gnu::cold]] VORM_HIDDEN VormStatus solveInPlace(T* w, T* u, const Object& vectors, int n, bool sortsFirst);
 
 // Single objects. ------------------------------------------------------------------------------------------------
 
@@ -219,8 +219,10 @@ VORM_INLINE VormStatus vectorsOfTwos(const Src& src, const Dst& dst, int first, 
 
 template <class T, class Src>
 using WidestFor = std::conditional_t<isAdjacent<Src> || isInPlanes<Src>, Wide<T>, Lanes<T>>;
+// Roots and divisions of a rotation wait for each other: four registers of objects share the time, and finished objects
+// waiting for the others cost less than that.
 template <class T, class Src>
-using SeveralFor = Several<WidestFor<T, Src>, 2>;
+using SeveralFor = Several<WidestFor<T, Src>, 4>;
 
 template <class T, class Src>
 VORM_SHARED VormStatus valuesOfArrayOfTwos(const Src src, T* dstValues, int count)

@@ -26,7 +26,7 @@ VormStatus solveInPlace(T* w, T* u, const Object& object, int n, bool sortsFirst
 }
 
 template <class L>
-using Pair = Several<L, 2>;
+using Four = Several<L, 4>;
 #define SYMMETRIC_OF(Number)                                      \
     template VormStatus solveValues(Number* w, Number* u, int n); \
     template VormStatus solveVectors(Number* w, Number* u, Number* v, int n, bool sortsFirst);
@@ -35,13 +35,13 @@ using Pair = Several<L, 2>;
 #define SYMMETRIC(T)             \
     SYMMETRIC_OF(T)              \
     SYMMETRIC_OF(Lanes<T>)       \
-    SYMMETRIC_OF(Pair<Lanes<T>>) \
+    SYMMETRIC_OF(Four<Lanes<T>>) \
     SYMMETRIC_WIDE(T)            \
     SYMMETRIC_IN_PLACE(T, StridedElements) SYMMETRIC_IN_PLACE(T, TabledElements)
 #ifdef VORM_WIDER_REGISTERS
 #define SYMMETRIC_WIDE(T) \
     SYMMETRIC_OF(Wide<T>) \
-    SYMMETRIC_OF(Pair<Wide<T>>)
+    SYMMETRIC_OF(Four<Wide<T>>)
 #else
 #define SYMMETRIC_WIDE(T)
 #endif
