@@ -172,6 +172,7 @@ int run(const std::string& filter, const std::string& output)
     addCrossProducts(sections);
     addMovement(sections);
     addExtract(sections);
+    addEigenSym(sections);
     addCalls(sections);
     addTeam(sections);
 

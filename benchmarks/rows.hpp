@@ -56,6 +56,7 @@ void addMeasures(Sections& sections);
 void addCrossProducts(Sections& sections);
 void addMovement(Sections& sections);
 void addExtract(Sections& sections);
+void addEigenSym(Sections& sections);
 void addCalls(Sections& sections);
 void addTeam(Sections& sections);
 

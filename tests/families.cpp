@@ -6,7 +6,7 @@
 extern const Family fixedForms, vectorSums, vectorScaling, matrixSums, vectorProducts, matrixProducts, gaxpyProducts,
     luDecomposition, luSubstitution, choleskyDecomposition, choleskySubstitution, determinants, inverses, curves,
     transformMatrices, matrixOperations, pointTransforms, affineTransform3DH, qrDecomposition, qrSubstitution,
-    dotProducts, l2Norms, frobeniusNorms, traces, crossProducts, movement;
+    dotProducts, l2Norms, frobeniusNorms, traces, crossProducts, movement, symmetricEigenproblems;
 
 const std::vector<const Family*>& families()
 {
@@ -35,6 +35,7 @@ const std::vector<const Family*>& families()
                                                    &frobeniusNorms,
                                                    &traces,
                                                    &crossProducts,
-                                                   &movement};
+                                                   &movement,
+                                                   &symmetricEigenproblems};
     return all;
 }

@@ -111,6 +111,8 @@ constexpr Row table[] = {
     {"L2Norm", "va", [](const Work& w) { return w.n * w.count; }, above(14400, 14400, 14400, 21600)},
     {"Trace", "ma", [](const Work& w) { return w.n * w.count; }, above(10800, 10800, 10800, 21600)},
     {"FrobNorm", "ma", [](const Work& w) { return w.m * w.n * w.count; }, above(21600, 21600, 14400, 21600)},
+    {"EigenValuesSym", "ma", [](const Work& w) { return (w.n * w.n + w.n) * w.count; }, from(1001)},
+    {"EigenValuesVectorsSym", "ma", [](const Work& w) { return (2 * w.n * w.n + w.n) * w.count; }, from(701)},
 };
 
 bool hasWord(const std::string& text, const std::string& word)
