@@ -4,6 +4,7 @@
 #pragma once
 
 #include "eigen/general/schur.hpp"
+#include "eigen/general/values_of.hpp"
 #include "frame/several.hpp"
 
 namespace vorm::eigen {
@@ -63,8 +64,8 @@ public:
         : matrix_(matrix), n_(n), re_(re), im_(im)
     {
         const int order = n;
-        Number work[2 * mostElements];
-        hessenberg(matrix, order, work, work + mostElements);
+        Number work[2 * mostSideBySide];
+        hessenberg(matrix, order, work, work + mostSideBySide);
         clearBelowSubdiagonal(matrix, order);
         for (int l = 0; l < lanes; ++l) {
             lane_[l] = {order - 1, 0, 0, 30 * order};
@@ -75,7 +76,6 @@ public:
         while (settle(left)) sweep();
         for (int k = 0; k + 1 < order; ++k) standardisePairs(k);
     }
-    static constexpr int mostElements = 16;
 
 private:
     struct State {
@@ -95,7 +95,7 @@ private:
     // Lets leave what has been split off. Returns whether a lane has to go on.
     VORM_INLINE bool settle(int* left)
     {
-        unsigned negligible[mostElements];
+        unsigned negligible[mostSideBySide];
         for (int k = 1; k < n_; ++k) negligible[k] = laneBits(abs(m(k, k - 1)) <= Number(ulp<T>));
         low_ = n_, high_ = -1, lowestLast_ = n_, isExceptional_ = false;
         for (int l = 0; l < lanes; ++l) {
@@ -187,10 +187,10 @@ private:
         Number start = zero;
         int highestStart = -1, k = high_ - 2;
         for (Mask open = last >= zero;; --k) {
-            const Start<Number> here = startAt(shift, m(k, k), m(k + 1, k), m(k, k + 1), m(k + 1, k + 1), m(k + 2, k + 1));
+            const Start<Number> here =
+                startAt(shift, m(k, k), m(k + 1, k), m(k, k + 1), m(k + 1, k + 1), m(k + 2, k + 1));
             Mask stops = first == Number(T(k));
-            if (k > 0)
-                stops = stops | startsHere(here, m(k - 1, k - 1), m(k, k), m(k + 1, k + 1), m(k, k - 1));
+            if (k > 0) stops = stops | startsHere(here, m(k - 1, k - 1), m(k, k), m(k + 1, k + 1), m(k, k - 1));
             stops = stops & open & (last >= Number(T(k + 2)));
             x = {select(stops, here.q1, x.q1), select(stops, here.q2, x.q2), select(stops, here.q3, x.q3)};
             start = select(stops, Number(T(k)), start);
@@ -245,7 +245,7 @@ private:
             if (hasThird) m(k + 2, k - 1) = select(later & three, zero, m(k + 2, k - 1));
         }
         static_cast<void>(lowestStart);
-        const StepFactors<rows, Number> factors{v2,  v3,   reflection.tau, reflection.tau * v2, reflection.tau * v3,
+        const StepFactors<rows, Number> factors{v2, v3,   reflection.tau, reflection.tau * v2, reflection.tau * v3,
                                                 on, three};
         const int rowsEnd = min(k + 3, high_) + 1;
         if (hasThird) {
@@ -272,7 +272,7 @@ private:
     Number* const matrix_;
     const N n_;
     Number *const re_, *const im_;
-    Number pairs_[mostElements];
+    Number pairs_[mostSideBySide];
     State lane_[lanes];
     PerLane last_, first_, exceptional_;
     int low_, high_, lowestLast_;  // of the lanes' blocks
