@@ -6,7 +6,7 @@
 extern const Family fixedForms, vectorSums, vectorScaling, matrixSums, vectorProducts, matrixProducts, gaxpyProducts,
     luDecomposition, luSubstitution, choleskyDecomposition, choleskySubstitution, determinants, inverses, curves,
     transformMatrices, matrixOperations, pointTransforms, affineTransform3DH, qrDecomposition, qrSubstitution,
-    symmetricEigenproblems;
+    symmetricEigenproblems, generalEigenvalues;
 
 const std::vector<const Family*>& families()
 {
@@ -30,6 +30,7 @@ const std::vector<const Family*>& families()
                                                    &affineTransform3DH,
                                                    &qrDecomposition,
                                                    &qrSubstitution,
-                                                   &symmetricEigenproblems};
+                                                   &symmetricEigenproblems,
+                                                   &generalEigenvalues};
     return all;
 }

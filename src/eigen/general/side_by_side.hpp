@@ -5,9 +5,15 @@
 
 #include "eigen/general/schur.hpp"
 #include "eigen/general/values_of.hpp"
-#include "frame/several.hpp"
 
 namespace vorm::eigen {
+
+// A bit for each lane.
+template <class T, int W>
+VORM_INLINE unsigned laneBits(const LaneMask<T, W>& mask)
+{
+    return static_cast<unsigned>(Register<T, W>::maskBits(mask.bits));
+}
 
 // Which rows and columns a step turns.
 enum class Rows { two, three, mixed };
@@ -48,13 +54,7 @@ class SideBySide {
     static constexpr int lanes = objectsIn<Number>;
     struct alignas(64) PerLane {
         T lane[lanes];
-        VORM_INLINE Number load() const
-        {
-            Number a;
-            for (int k = 0; k < registersIn<Number>; ++k)
-                registerOf(a, k) = RegisterIn<Number>::load(lane + k * RegisterIn<Number>::width);
-            return a;
-        }
+        VORM_INLINE Number load() const { return Number::load(lane); }
     };
 
 public:
