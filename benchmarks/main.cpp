@@ -173,6 +173,7 @@ int run(const std::string& filter, const std::string& output)
     addMovement(sections);
     addExtract(sections);
     addEigenSym(sections);
+    addEigenValues(sections);
     addCalls(sections);
     addTeam(sections);
 

@@ -57,6 +57,7 @@ void addCrossProducts(Sections& sections);
 void addMovement(Sections& sections);
 void addExtract(Sections& sections);
 void addEigenSym(Sections& sections);
+void addEigenValues(Sections& sections);
 void addCalls(Sections& sections);
 void addTeam(Sections& sections);
 

@@ -37,7 +37,8 @@ Order orderOf(const Function& f)
         return {null, stride, shift, size, count};
     if (f.family.starts_with("QR")) return {null, count, size, stride, shift, fit};
     if (isTestedPartByPart(f) || f.family == "Extract") return {null, size, count, shift, stride};
-    if (f.family.starts_with("EigenValues") && f.family.ends_with("Sym")) return {null, size, count, shift, stride};
+    if (f.family == "EigenValues" || (f.family.starts_with("EigenValues") && f.family.ends_with("Sym")))
+        return {null, size, count, shift, stride};
     return {null, count, size, fit, stride, shift};
 }
 

@@ -6,7 +6,7 @@
 extern const Family fixedForms, vectorSums, vectorScaling, matrixSums, vectorProducts, matrixProducts, gaxpyProducts,
     luDecomposition, luSubstitution, choleskyDecomposition, choleskySubstitution, determinants, inverses, curves,
     transformMatrices, matrixOperations, pointTransforms, affineTransform3DH, qrDecomposition, qrSubstitution,
-    dotProducts, l2Norms, frobeniusNorms, traces, crossProducts, movement, symmetricEigenproblems;
+    dotProducts, l2Norms, frobeniusNorms, traces, crossProducts, movement, symmetricEigenproblems, generalEigenvalues;
 
 const std::vector<const Family*>& families()
 {
@@ -36,6 +36,7 @@ const std::vector<const Family*>& families()
                                                    &traces,
                                                    &crossProducts,
                                                    &movement,
-                                                   &symmetricEigenproblems};
+                                                   &symmetricEigenproblems,
+                                                   &generalEigenvalues};
     return all;
 }

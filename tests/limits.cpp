@@ -112,6 +112,7 @@ constexpr Row table[] = {
     {"Trace", "ma", [](const Work& w) { return w.n * w.count; }, above(10800, 10800, 10800, 21600)},
     {"FrobNorm", "ma", [](const Work& w) { return w.m * w.n * w.count; }, above(21600, 21600, 14400, 21600)},
     {"EigenValuesSym", "ma", [](const Work& w) { return (w.n * w.n + w.n) * w.count; }, from(1001)},
+    {"EigenValues", "ma", [](const Work& w) { return (w.n * w.n + w.n) * w.count; }, from(251)},
     {"EigenValuesVectorsSym", "ma", [](const Work& w) { return (2 * w.n * w.n + w.n) * w.count; }, from(701)},
 };
 
