@@ -36,7 +36,7 @@ struct Lower {
 };
 
 // (L - lambda) z = 0, of which z[first] is given, or z[first] and z[first + 1] where they belong to a pair, and the rest
-// is found. norms[k] is the sum of the magnitudes of row k before the diagonal. False where a diagonal block cannot be
+// is found. norms[k - 1] is the sum of the magnitudes of row k before the diagonal. False where a diagonal block cannot be
 // divided by.
 template <class Number, class T, class L>
 VORM_INLINE bool substitute(const L& l, int first, int given, Lambda<Number> lambda, const T* norms, Number* z)
@@ -56,7 +56,7 @@ VORM_INLINE bool substitute(const L& l, int first, int given, Lambda<Number> lam
     T most = 1, scale = 1;  // the largest magnitude so far
     for (int k = first + given; k < n;) {
         const bool isBlock = l.isBlock(k);
-        if (larger(norms[k], isBlock ? norms[k + 1] : T(0)) * most > largest) shrink(k, 1 / most), most = 1;
+        if (larger(norms[k - 1], isBlock ? norms[k] : T(0)) * most > largest) shrink(k, 1 / most), most = 1;
         if (!isBlock) {
             const Number x = solveElement(lambda.from(l(k, k)), rightSide(k, k), leastDivisor, scale);
             shrink(k, scale);
@@ -134,20 +134,20 @@ VORM_INLINE void normalisePair(T* u, T* w, Order n)
 // All of them. -----------------------------------------------------------------------------------------------------
 
 // In vectors, which holds Q by columns, every column is replaced by the vector of its value, or by a part of it. A place
-// of the substitution needs no column before it. work holds 3 n elements.
+// of the substitution needs no column before it. work holds 3 n - 1 elements.
 template <Side side, class T, class Order>
 VORM_INLINE bool schurVectors(const T* t, T* vectors, T* work, Order n)
 {
     const Lower<side, T, Order> l{t, n};
     T* const norms = work;
     const auto column = [&](int k) VORM_INLINE_LAMBDA { return vectors + std::ptrdiff_t{l.column(k)} * n; };
-    for (int k = 0; k < n; ++k) {
-        norms[k] = 0;
-        for (int i = 0; i < k; ++i) norms[k] += abs(l(k, i));
+    for (int k = 1; k < n; ++k) {
+        norms[k - 1] = 0;
+        for (int i = 0; i < k; ++i) norms[k - 1] += abs(l(k, i));
     }
     for (int k = 0; k < n;) {
         if (!l.isBlock(k)) {
-            T* const z = work + n;
+            T* const z = work + n - 1;
             z[k] = 1;
             if (!substitute(l, k, 1, Lambda<T>{l(k, k)}, norms, z)) return false;
             T* const x = column(k);
@@ -161,7 +161,7 @@ VORM_INLINE bool schurVectors(const T* t, T* vectors, T* work, Order n)
         }
         const T b = l(k + 1, k), c = l(k, k + 1), im = sqrt(abs(b)) * sqrt(abs(c));
         const T ownIm = side == Side::right ? im : -im;
-        auto* const z = reinterpret_cast<Complex<T>*>(work + n);
+        auto* const z = reinterpret_cast<Complex<T>*>(work + n - 1);
         if (abs(b) >= abs(c))
             z[k] = {-ownIm / b, 0}, z[k + 1] = {0, 1};
         else
