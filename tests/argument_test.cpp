@@ -30,7 +30,15 @@ Order orderOf(const Function& f)
     if (f.family == "CholeskyBackSubst" && f.shape == "mva" && f.layout == "L")
         return {null, stride, shift, size, count};
     if (f.family.starts_with("QR")) return {null, count, size, stride, shift, fit};
+    if (f.family.starts_with("EigenValues")) return {null, size, count, shift, stride};
     return {null, count, size, fit, stride, shift};
+}
+
+// Whether the shift and strides of the source are tested before those of the destinations.
+bool isTestedByOperand(const Function& f)
+{
+    return f.family == "EigenValuesVectors" || f.family == "EigenValuesVectorsLeft" ||
+           f.family == "EigenValuesVectorsRight";
 }
 
 // What a member deliberately leaves untested.
@@ -103,7 +111,10 @@ TEST(Arguments, SpoiltSinglyAndInPairs)
                                                                              : 3});
         const Order order = orderOf(f);
         const auto rank = [&](const Spoilt& s) {
-            return std::find(order.begin(), order.end(), s.fault) - order.begin();
+            const auto place = std::find(order.begin(), order.end(), s.fault) - order.begin();
+            const bool isLater = isTestedByOperand(f) && (s.fault == Fault::shift || s.fault == Fault::stride) &&
+                                 !f.parameters[s.parameter].operand.starts_with("src");
+            return isLater ? place + std::ptrdiff_t(order.size()) : place;
         };
         const std::vector<Spoilt> spoilt = spoiltArguments(f);
         for (const Spoilt& a : spoilt)

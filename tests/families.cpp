@@ -5,7 +5,8 @@
 
 extern const Family fixedForms, vectorSums, vectorScaling, matrixSums, vectorProducts, matrixProducts, gaxpyProducts,
     luDecomposition, luSubstitution, choleskyDecomposition, choleskySubstitution, determinants, inverses, curves,
-    transformMatrices, matrixOperations, pointTransforms, affineTransform3DH, qrDecomposition, qrSubstitution;
+    transformMatrices, matrixOperations, pointTransforms, affineTransform3DH, qrDecomposition, qrSubstitution,
+    generalEigenvectors;
 
 const std::vector<const Family*>& families()
 {
@@ -13,6 +14,7 @@ const std::vector<const Family*>& families()
         &fixedForms,           &vectorSums,      &vectorScaling,      &matrixSums,      &vectorProducts,
         &matrixProducts,       &gaxpyProducts,   &luDecomposition,    &luSubstitution,  &choleskyDecomposition,
         &choleskySubstitution, &determinants,    &inverses,           &curves,          &transformMatrices,
-        &matrixOperations,     &pointTransforms, &affineTransform3DH, &qrDecomposition, &qrSubstitution};
+        &matrixOperations,     &pointTransforms, &affineTransform3DH, &qrDecomposition, &qrSubstitution,
+        &generalEigenvectors};
     return all;
 }
