@@ -85,8 +85,8 @@ std::vector<Operand> operandsOfShape(const std::string& shape)
         else
             all.push_back({.kind = c});
     }
-    for (std::size_t k = all.size() - 1; k-- > 0;)
-        if (all[k].fixed == 0) all[k].fixed = all[k + 1].fixed;
+    for (std::size_t k = all.size(); k-- > 1;)
+        if (all[k - 1].fixed == 0) all[k - 1].fixed = all[k].fixed;
     return all;
 }
 
@@ -114,7 +114,7 @@ void findOperands(Function& f)
             o.isArray = f.isArray();
         } else {
             o.isScratch = p.operand == "buffer";
-            o.isArray = letters[0].isArray && !o.isScratch;
+            o.isArray = !letters.empty() && letters[0].isArray && !o.isScratch;
         }
         o.name = p.operand, o.isInteger = p.isInteger, o.isWritten = p.role != Role::value && !p.isConst;
         if (p.role == Role::table) o.layout = f.layout;
@@ -135,6 +135,7 @@ Function functionFrom(std::string name, std::string text, std::function<VormStat
     std::getline(parts, f.shape, '_');
     std::getline(parts, f.type, '_');
     std::getline(parts, f.layout, '_');
+    if (f.type.empty()) std::swap(f.shape, f.type);  // of no operands: the name has no shape
     std::istringstream list(text.substr(1, text.size() - 2));
     for (std::string declaration; std::getline(list, declaration, ',');)
         f.parameters.push_back(parameterFrom(declaration.substr(declaration.find_first_not_of(' '))));

@@ -6,15 +6,31 @@
 extern const Family fixedForms, vectorSums, vectorScaling, matrixSums, vectorProducts, matrixProducts, gaxpyProducts,
     luDecomposition, luSubstitution, choleskyDecomposition, choleskySubstitution, determinants, inverses, curves,
     transformMatrices, matrixOperations, pointTransforms, affineTransform3DH, qrDecomposition, qrSubstitution,
-    generalEigenvectors;
+    symmetricEigenproblems, generalEigenvectors;
 
 const std::vector<const Family*>& families()
 {
-    static const std::vector<const Family*> all = {
-        &fixedForms,           &vectorSums,      &vectorScaling,      &matrixSums,      &vectorProducts,
-        &matrixProducts,       &gaxpyProducts,   &luDecomposition,    &luSubstitution,  &choleskyDecomposition,
-        &choleskySubstitution, &determinants,    &inverses,           &curves,          &transformMatrices,
-        &matrixOperations,     &pointTransforms, &affineTransform3DH, &qrDecomposition, &qrSubstitution,
-        &generalEigenvectors};
+    static const std::vector<const Family*> all = {&fixedForms,
+                                                   &vectorSums,
+                                                   &vectorScaling,
+                                                   &matrixSums,
+                                                   &vectorProducts,
+                                                   &matrixProducts,
+                                                   &gaxpyProducts,
+                                                   &luDecomposition,
+                                                   &luSubstitution,
+                                                   &choleskyDecomposition,
+                                                   &choleskySubstitution,
+                                                   &determinants,
+                                                   &inverses,
+                                                   &curves,
+                                                   &transformMatrices,
+                                                   &matrixOperations,
+                                                   &pointTransforms,
+                                                   &affineTransform3DH,
+                                                   &qrDecomposition,
+                                                   &qrSubstitution,
+                                                   &symmetricEigenproblems,
+                                                   &generalEigenvectors};
     return all;
 }

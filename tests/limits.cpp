@@ -101,6 +101,8 @@ constexpr Row table[] = {
     {"QRBackSubst", "mva", [](const Work& w) { return w.n * w.m + (w.n + w.m) * w.count; }, reflections},
     {"QRBackSubst", "mava", [](const Work& w) { return (w.n * (w.m + 1) + w.m) * w.count; }, reflections},
 
+    {"EigenValuesSym", "ma", [](const Work& w) { return (w.n * w.n + w.n) * w.count; }, from(1001)},
+    {"EigenValuesVectorsSym", "ma", [](const Work& w) { return (2 * w.n * w.n + w.n) * w.count; }, from(701)},
     {"EigenValuesVectors EigenValuesVectorsLeft EigenValuesVectorsRight", "ma",
      [](const Work& w) { return w.n * (3 * w.n + 1) * w.count; }, from(501)},
 };

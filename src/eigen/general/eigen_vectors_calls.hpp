@@ -2,20 +2,10 @@
 // values, the order and the work space.
 #pragma once
 
-#include <cstdint>
-
 #include "eigen/general/eigen_vectors.hpp"
 #include "eigen/general/eigen_vectors_of.hpp"
 
 namespace vorm::eigen {
-
-// The caller's work space from its first aligned element on: one element less at most.
-template <class T>
-VORM_INLINE T* aligned(T* p)
-{
-    return reinterpret_cast<T*>((reinterpret_cast<std::uintptr_t>(p) + (alignof(T) - 1)) & ~(alignof(T) - 1));
-}
-
 
 // Objects up to the first that fails. destination(n, side, i, j) is an element of the vectors of object n.
 template <Sides sides, class T, class Src, class Destination>
@@ -37,11 +27,9 @@ VORM_INLINE VormStatus eigenVectorsObjects(const Src& src, const Destination& de
         }
         for (int i = 0; i < order; ++i)
             for (int j = 0; j < order; ++j) matrix[std::ptrdiff_t{i} * order + j] = src(n, i, j);
-        // Values that never leave are to stay as they are.
-        for (int k = 0; k < order; ++k) re[k] = entry(dstRe, k), im[k] = entry(dstIm, k);
-        const VormStatus status = eigenVectorsOf(sides, order, matrix, vectors, re, im, work);
-        for (int k = 0; k < order; ++k) entry(dstRe, k) = re[k], entry(dstIm, k) = im[k];
-        if (status != StatusOk) return status;
+        const Outcome outcome = eigenVectorsOf(sides, order, matrix, vectors, re, im, work);
+        for (int k = outcome.firstValue; k < order; ++k) entry(dstRe, k) = re[k], entry(dstIm, k) = im[k];
+        if (outcome.status != StatusOk) return outcome.status;
         for (int side = 0; side < stores; ++side)
             for (int i = 0; i < order; ++i)
                 for (int j = 0; j < order; ++j)

@@ -249,10 +249,10 @@ VORM_INLINE void leavePair(const Columns<T>& m, const Columns<T>& q, int last, T
 }
 
 // From a Hessenberg matrix, with zeros below the subdiagonal, to the values re + i im, which leave from the last to the
-// first; with keeps also to the Schur form, and q is multiplied from the right. When the budget of sweeps is spent the
-// values that have not left are not written.
+// first; with keeps also to the Schur form, and q is multiplied from the right. Returns how many values have not left,
+// and are not written, when the budget of sweeps is spent.
 template <bool keeps, class T>
-VormStatus iterate(T* matrix, T* transformation, int n, T* re, T* im)
+int iterate(T* matrix, T* transformation, int n, T* re, T* im)
 {
     const Columns<T> m{matrix, n}, q{transformation, n};
     int budget = 30 * n;
@@ -266,7 +266,7 @@ VormStatus iterate(T* matrix, T* transformation, int n, T* re, T* im)
             if (first >= last - 1) break;
             sweep<keeps>(m, q, Active<T>{first, last}, sweeps == 10 || sweeps == 20);
         }
-        if (first < last - 1) return StatusNoConvergence;
+        if (first < last - 1) return last + 1;
         if (first == last) {
             re[last] = m(last, last);
             im[last] = T(0);
@@ -276,26 +276,18 @@ VormStatus iterate(T* matrix, T* transformation, int n, T* re, T* im)
         budget -= sweeps;
         last = first - 1;
     }
-    return StatusOk;
+    return 0;
 }
 
 // Of the matrix stored by columns in t the Schur form T, the transformation q, and the values. work holds 2 n elements.
-// A budget that is spent leaves t and q half way, and of the values those that had left.
+// Returns how many values have not left, as iterate does; where there are any t and q are half way.
 template <class T>
-VormStatus schurForm(T* t, T* q, T* work, int n, T* re, T* im)
+int schurForm(T* t, T* q, T* work, int n, T* re, T* im)
 {
     hessenberg(t, n, work, work + n);
     formTransformation(t, work, n, q);
     clearBelowSubdiagonal(t, n);
     return iterate<true>(t, q, n, re, im);
-}
-// The values alone, in place of t.
-template <class T>
-VormStatus schurValues(T* t, T* work, int n, T* re, T* im)
-{
-    hessenberg(t, n, work, work + n);
-    clearBelowSubdiagonal(t, n);
-    return iterate<false>(t, static_cast<T*>(nullptr), n, re, im);
 }
 
 }  // namespace vorm::eigen
