@@ -1,5 +1,5 @@
-// General eigenvectors without a model: exactly known cases, residuals of either side, failures in the middle of arrays,
-// and LAPACK as an independent opinion.
+// General eigenvectors without a model: exactly known cases, residuals of either side, failures in the middle of
+// arrays, and LAPACK as an independent opinion.
 
 #include <gtest/gtest.h>
 #include <lapacke.h>
@@ -126,7 +126,8 @@ TYPED_TEST(EigenVectors, Triangular)
     const auto expectParallel = [](const Solution<T>& s, int j, const T(&x)[3]) {
         Real dot = 0, squares = 0, own = 0;
         for (int i = 0; i < 3; ++i)
-            dot += Real(s.element(i, j)) * x[i], squares += Real(x[i]) * x[i], own += Real(s.element(i, j)) * s.element(i, j);
+            dot += Real(s.element(i, j)) * x[i], squares += Real(x[i]) * x[i],
+                own += Real(s.element(i, j)) * s.element(i, j);
         EXPECT_NEAR(double(std::fabs(dot) / std::sqrt(squares * own)), 1, 20 * std::numeric_limits<T>::epsilon());
     };
     const auto r = right(upper), l = left(upper);
@@ -214,7 +215,8 @@ void check(const std::vector<T>& a, const Solution<T>& s, bool isRight, Worst& w
         int real = 0;
         for (int i = 0; i < n; ++i) {
             Number sum = -lambda * s.component(i, j);
-            for (int k = 0; k < n; ++k) sum += Real(a[std::size_t(isRight ? i * n + k : k * n + i)]) * s.component(k, j);
+            for (int k = 0; k < n; ++k)
+                sum += Real(a[std::size_t(isRight ? i * n + k : k * n + i)]) * s.component(k, j);
             rest += std::norm(sum);
             squares += std::norm(s.component(i, j));
             most = std::max(most, std::norm(s.component(i, j)));
@@ -434,9 +436,9 @@ TYPED_TEST(EigenVectors, FailingObjectsOfArrays)
             VormStatus status = StatusOk;
             askedDuring(threads, threads, [&] {
                 if (side == 2)
-                    status = Functions<T>::bothArray(a.data(), 9 * e, 3 * e, e, rights.data(), 9 * e, 3 * e, e,
-                                                     lefts.data(), 9 * e, 3 * e, e, re.data(), im.data(), n, count,
-                                                     buffer.data());
+                    status =
+                        Functions<T>::bothArray(a.data(), 9 * e, 3 * e, e, rights.data(), 9 * e, 3 * e, e, lefts.data(),
+                                                9 * e, 3 * e, e, re.data(), im.data(), n, count, buffer.data());
                 else
                     status = (side ? Functions<T>::leftArray : Functions<T>::rightArray)(
                         a.data(), 9 * e, 3 * e, e, (side ? lefts : rights).data(), 9 * e, 3 * e, e, re.data(),
@@ -449,7 +451,8 @@ TYPED_TEST(EigenVectors, FailingObjectsOfArrays)
                 for (; object < end; ++object) {
                     const auto from = std::size_t(object * 9), value = std::size_t(object * 3);
                     const auto part = [&](const std::vector<T>& all) {
-                        return std::vector<T>(all.begin() + std::ptrdiff_t(from), all.begin() + std::ptrdiff_t(from) + 9);
+                        return std::vector<T>(all.begin() + std::ptrdiff_t(from),
+                                              all.begin() + std::ptrdiff_t(from) + 9);
                     };
                     const auto r = right(objects[std::size_t(object)]), l = left(objects[std::size_t(object)]);
                     const VormStatus own = side == 0 ? r.status : side == 1 ? l.status : r.status ? r.status : l.status;

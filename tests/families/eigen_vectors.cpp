@@ -1,5 +1,5 @@
-// vormEigenValuesVectors, Right and Left: every object of every layout has the bits, the status and what is left after a
-// failure of the packed matrix alone, whose results are measured in eigen_vectors_test.cpp.
+// vormEigenValuesVectors, Right and Left: every object of every layout has the bits, the status and what is left after
+// a failure of the packed matrix alone, whose results are measured in eigen_vectors_test.cpp.
 
 #include "harness.hpp"
 
@@ -57,8 +57,7 @@ void makeFail(const Call& call, int n, Random& random)
     const int order = call["src"].columns;
     const bool isUseless = chance(random, 50);
     for (int r = 0; r < order; ++r)
-        for (int c = 0; c < order; ++c)
-            put<T>(call, n, r, c, !isUseless ? std::nan("") : r == c ? 1e6 : 0);
+        for (int c = 0; c < order; ++c) put<T>(call, n, r, c, !isUseless ? std::nan("") : r == c ? 1e6 : 0);
     if (!isUseless || order < 3) return;
     const double small = sizeof(T) == 4 ? 1e-3 : 1e-11;
     put<T>(call, n, order - 3, order - 2, small);

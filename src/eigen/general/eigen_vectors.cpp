@@ -6,23 +6,17 @@
 
 namespace vorm::eigen {
 
-template <class T, class Order>
-VORM_INLINE Outcome vectorsOf(Sides sides, Order n, T* matrix, T* const* stores, T* re, T* im, T* work)
-{
-    T* const first = stores[0];
-    if (const int left = schurForm(matrix, first, work, n, re, im); left > 0) return {StatusNoConvergence, left};
-    if (sides == Sides::both)
-        for (int e = 0; e < n * n; ++e) stores[1][e] = first[e];
-    if ((sides != Sides::left && !schurVectors<Side::right>(matrix, first, work, n)) ||
-        (sides != Sides::right && !schurVectors<Side::left>(matrix, stores[storesOf(sides) - 1], work, n)))
-        return {StatusBadArgument, 0};
-    return {StatusOk, 0};
-}
-
 template <class T>
 Outcome eigenVectorsOf(Sides sides, int order, T* matrix, T* const* stores, T* re, T* im, T* work)
 {
-    return vectorsOf(sides, order, matrix, stores, re, im, work);
+    T *const first = stores[0], *const last = stores[storesOf(sides) - 1];
+    if (const int left = schurForm(matrix, first, work, order, re, im); left > 0) return {StatusNoConvergence, left};
+    if (last != first)
+        for (std::ptrdiff_t e = 0; e < std::ptrdiff_t{order} * order; ++e) last[e] = first[e];
+    if ((sides != Sides::left && !schurVectors<Side::right>(matrix, first, work, order)) ||
+        (sides != Sides::right && !schurVectors<Side::left>(matrix, last, work, order)))
+        return {StatusBadArgument, 0};
+    return {StatusOk, 0};
 }
 template Outcome eigenVectorsOf(Sides, int, float*, float* const*, float*, float*, float*);
 template Outcome eigenVectorsOf(Sides, int, double*, double* const*, double*, double*, double*);

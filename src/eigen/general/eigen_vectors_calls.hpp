@@ -9,8 +9,9 @@ namespace vorm::eigen {
 
 // Objects up to the first that fails. destination(n, side, i, j) is an element of the vectors of object n.
 template <Sides sides, class T, class Src, class Destination>
-VORM_INLINE VormStatus eigenVectorsObjects(const Src& src, const Destination& destination, const ObjectTable<T>& valuesRe,
-                                           const ObjectTable<T>& valuesIm, int order, int count, T* buffer)
+VORM_INLINE VormStatus eigenVectorsObjects(const Src& src, const Destination& destination,
+                                           const ObjectTable<T>& valuesRe, const ObjectTable<T>& valuesIm, int order,
+                                           int count, T* buffer)
 {
     constexpr int stores = storesOf(sides);
     const std::ptrdiff_t square = std::ptrdiff_t{order} * order;

@@ -19,10 +19,10 @@ namespace vorm::eigen {
 enum class Side { right, left };
 
 // Element (i, k) of L, and the column that belongs to place k of the substitution.
-template <Side side, class T, class Order>
+template <Side side, class T>
 struct Lower {
     const T* t;
-    Order n;
+    int n;
     VORM_INLINE T operator()(int i, int k) const
     {
         if constexpr (side == Side::right)
@@ -35,9 +35,9 @@ struct Lower {
     VORM_INLINE bool isBlock(int k) const { return k + 1 < n && (*this)(k, k + 1) != 0; }
 };
 
-// (L - lambda) z = 0, of which z[first] is given, or z[first] and z[first + 1] where they belong to a pair, and the rest
-// is found. norms[k - 1] is the sum of the magnitudes of row k before the diagonal. False where a diagonal block cannot be
-// divided by.
+// (L - lambda) z = 0, of which z[first] is given, or z[first] and z[first + 1] where they belong to a pair, and the
+// rest is found. norms[k - 1] is the sum of the magnitudes of row k before the diagonal. False where a diagonal block
+// cannot be divided by.
 template <class Number, class T, class L>
 VORM_INLINE bool substitute(const L& l, int first, int given, Lambda<Number> lambda, const T* norms, Number* z)
 {
@@ -81,8 +81,8 @@ VORM_INLINE bool substitute(const L& l, int first, int given, Lambda<Number> lam
 
 // The sum of the squares of all elements given. Where it does not tell the length, because squares are too large or too
 // small for numbers, the elements are divided by the largest of their magnitudes first.
-template <class T, int vectors, class Order>
-VORM_INLINE T sumOfSquares(T* const (&x)[vectors], Order n)
+template <class T, int vectors>
+VORM_INLINE T sumOfSquares(T* const (&x)[vectors], int n)
 {
     const auto sum = [&]() VORM_INLINE_LAMBDA {
         T s = 0;
@@ -100,8 +100,8 @@ VORM_INLINE T sumOfSquares(T* const (&x)[vectors], Order n)
         for (T* const one : x) one[i] /= most;
     return sum();
 }
-template <class T, class Order>
-VORM_INLINE void normaliseReal(T* x, Order n)
+template <class T>
+VORM_INLINE void normaliseReal(T* x, int n)
 {
     const T s = sumOfSquares({x}, n);
     if (!(s > tiny<T>)) return;
@@ -109,8 +109,8 @@ VORM_INLINE void normaliseReal(T* x, Order n)
     for (int i = 0; i < n; ++i) x[i] *= factor;
 }
 // The pair u + i w, turned so that the first of its largest components is real.
-template <class T, class Order>
-VORM_INLINE void normalisePair(T* u, T* w, Order n)
+template <class T>
+VORM_INLINE void normalisePair(T* u, T* w, int n)
 {
     const T factor = 1 / sqrt(sumOfSquares({u, w}, n));
     T most = 0;
@@ -133,12 +133,12 @@ VORM_INLINE void normalisePair(T* u, T* w, Order n)
 
 // All of them. -----------------------------------------------------------------------------------------------------
 
-// In vectors, which holds Q by columns, every column is replaced by the vector of its value, or by a part of it. A place
-// of the substitution needs no column before it. work holds 3 n - 1 elements.
-template <Side side, class T, class Order>
-VORM_INLINE bool schurVectors(const T* t, T* vectors, T* work, Order n)
+// In vectors, which holds Q by columns, every column is replaced by the vector of its value, or by a part of it. A
+// place of the substitution needs no column before it. work holds 3 n - 1 elements.
+template <Side side, class T>
+VORM_INLINE bool schurVectors(const T* t, T* vectors, T* work, int n)
 {
-    const Lower<side, T, Order> l{t, n};
+    const Lower<side, T> l{t, n};
     T* const norms = work;
     const auto column = [&](int k) VORM_INLINE_LAMBDA { return vectors + std::ptrdiff_t{l.column(k)} * n; };
     for (int k = 1; k < n; ++k) {
