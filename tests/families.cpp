@@ -6,7 +6,7 @@
 extern const Family fixedForms, vectorSums, vectorScaling, matrixSums, vectorProducts, matrixProducts, gaxpyProducts,
     luDecomposition, luSubstitution, choleskyDecomposition, choleskySubstitution, determinants, inverses, curves,
     transformMatrices, matrixOperations, pointTransforms, affineTransform3DH, qrDecomposition, qrSubstitution,
-    symmetricEigenproblems, generalEigenvectors;
+    symmetricEigenproblems, generalEigenvalues, generalEigenvectors;
 
 const std::vector<const Family*>& families()
 {
@@ -31,6 +31,7 @@ const std::vector<const Family*>& families()
                                                    &qrDecomposition,
                                                    &qrSubstitution,
                                                    &symmetricEigenproblems,
+                                                   &generalEigenvalues,
                                                    &generalEigenvectors};
     return all;
 }

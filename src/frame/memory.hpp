@@ -47,11 +47,4 @@ VORM_INLINE decltype(auto) entry(T* table, std::ptrdiff_t i)
     return elementAt(table, i * std::ptrdiff_t{sizeof(T)});
 }
 
-// A caller's work space from its first element on that lies as elements of its type have to: one element less at most.
-template <class T>
-VORM_INLINE T* aligned(T* p)
-{
-    return reinterpret_cast<T*>((reinterpret_cast<std::uintptr_t>(p) + (alignof(T) - 1)) & ~(alignof(T) - 1));
-}
-
 }  // namespace vorm

@@ -2,6 +2,7 @@
 // values, the order and the work space.
 #pragma once
 
+#include "eigen/general/aligned.hpp"
 #include "eigen/general/eigen_vectors.hpp"
 #include "eigen/general/eigen_vectors_of.hpp"
 

@@ -40,7 +40,7 @@ template <class Number>
 VORM_INLINE Reflection<Number> reflectionOf(const Number& alpha, const Number& norm)
 {
     using T = Element<Number>;
-    const Number zero = T(0), one = T(1), least = leastNorm<T>;
+    const Number zero(T(0)), one(T(1)), least(leastNorm<T>);
     const auto none = norm < Number(tiny<T>);
     const Number whole = hypotenuse(alpha, norm);
     const Number length = select(whole < Number(tiny<T>), least, whole);

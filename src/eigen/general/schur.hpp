@@ -24,45 +24,48 @@ struct Columns {
 
 // Reduction. -----------------------------------------------------------------------------------------------------
 
-// Rows k + 1 to n of a column through the reflection that column k keeps.
-template <class T>
-VORM_INLINE void reflectColumn(const T* v, T tau, T* column, int k, int n)
+// Rows k + 1 to n of a column through the reflection that column k keeps, in the lanes where it is one.
+template <class Number, class Mask>
+VORM_INLINE void reflectColumn(const Number* v, const Number& tau, const Mask& isTurned, Number* column, int k, int n)
 {
-    T sum = column[k + 1];
+    Number sum = column[k + 1];
     for (int r = k + 2; r < n; ++r) sum = sum + v[r] * column[r];
-    const T factor = tau * sum;
+    const Number factor = where(isTurned, tau * sum);
     column[k + 1] = column[k + 1] - factor;
     for (int r = k + 2; r < n; ++r) column[r] = column[r] - v[r] * factor;
 }
 
 // Column k keeps what is left of its reflection's v below the subdiagonal, and tau[k] its factor; where it is not above
-// tiny nothing was turned. work holds n elements.
-template <class T>
-void hessenberg(T* matrix, int n, T* tau, T* work)
+// tiny nothing was turned. work holds n numbers.
+template <class Number>
+VORM_INLINE void hessenberg(Number* matrix, int n, Number* tau, Number* work)
 {
-    const Columns<T> m{matrix, n};
+    const Columns<Number> m{matrix, n};
     for (int k = 0; k < n - 2; ++k) {
-        T* const v = m.column(k);  // from k + 1 on
-        T sum = v[k + 2] * v[k + 2];
+        Number* const v = m.column(k);  // from k + 1 on
+        Number sum = v[k + 2] * v[k + 2];
         for (int i = k + 3; i < n; ++i) sum = sum + v[i] * v[i];
-        const Reflection<T> reflection = reflectionOf(v[k + 1], sqrt(sum));
-        for (int i = k + 2; i < n; ++i) v[i] = v[i] * reflection.scale;
+        const Reflection<Number> reflection = reflectionOf(v[k + 1], sqrt(sum));
+        const auto isTurned = abs(reflection.tau) > Number(tiny<Element<Number>>);
+        for (int i = k + 2; i < n; ++i) v[i] = where(isTurned, v[i] * reflection.scale);
         v[k + 1] = reflection.beta;
         tau[k] = reflection.tau;
-        if (!(abs(reflection.tau) > tiny<T>)) continue;
+        if (!any(isTurned)) continue;
 
-        const T* const first = m.column(k + 1);
+        const Number* const first = m.column(k + 1);
         for (int r = 0; r < n; ++r) work[r] = first[r];
         for (int c = k + 2; c < n; ++c) {
-            const T* const column = m.column(c);
+            const Number* const column = m.column(c);
             for (int r = 0; r < n; ++r) work[r] = work[r] + column[r] * v[c];
         }
+        if constexpr (inLanes<Number>)
+            for (int r = 0; r < n; ++r) work[r] = where(isTurned, work[r]);
         for (int c = k + 1; c < n; ++c) {
-            T* const column = m.column(c);
-            const T factor = c == k + 1 ? reflection.tau : reflection.tau * v[c];
+            Number* const column = m.column(c);
+            const Number factor = where(isTurned, c == k + 1 ? reflection.tau : reflection.tau * v[c]);
             for (int r = 0; r < n; ++r) column[r] = column[r] - work[r] * factor;
         }
-        for (int c = k + 1; c < n; ++c) reflectColumn(v, reflection.tau, m.column(c), k, n);
+        for (int c = k + 1; c < n; ++c) reflectColumn(v, reflection.tau, isTurned, m.column(c), k, n);
     }
 }
 
@@ -76,15 +79,15 @@ void formTransformation(const T* matrix, const T* tau, int n, T* transformation)
         for (int r = 0; r < n; ++r) q(r, c) = r == c ? T(1) : T(0);
     for (int k = n - 3; k >= 0; --k)
         if (abs(tau[k]) > tiny<T>)
-            for (int c = k + 1; c < n; ++c) reflectColumn(m.column(k), tau[k], q.column(c), k, n);
+            for (int c = k + 1; c < n; ++c) reflectColumn(m.column(k), tau[k], true, q.column(c), k, n);
 }
 
 // What a reduction leaves below the subdiagonal.
-template <class T>
-void clearBelowSubdiagonal(T* matrix, int n)
+template <class Number>
+VORM_INLINE void clearBelowSubdiagonal(Number* matrix, int n)
 {
     for (int c = 0; c < n - 2; ++c)
-        for (int r = c + 2; r < n; ++r) matrix[std::ptrdiff_t{c} * n + r] = T(0);
+        for (int r = c + 2; r < n; ++r) matrix[std::ptrdiff_t{c} * n + r] = Number(Element<Number>(0));
 }
 
 // Iteration. -----------------------------------------------------------------------------------------------------
@@ -99,7 +102,7 @@ template <class Number>
 VORM_INLINE Shifts<Number> shiftsOf(const Number& h44, const Number& h33, const Number& h43h34)
 {
     using T = Element<Number>;
-    const Number zero = T(0), half = T(0.5);
+    const Number zero(T(0)), half(T(0.5));
     const Number apart = (h33 - h44) * half;
     const Number disc = apart * apart + h43h34;
     const auto real = disc > zero;

@@ -23,7 +23,7 @@ VORM_INLINE Turn<Number> standardise(Block<Number>& block)
 {
     using T = Element<Number>;
     using Mask = decltype(block.a < block.b);
-    const Number zero = T(0), one = T(1), half = T(0.5), negligible = tiny<T>;
+    const Number zero(T(0)), one(T(1)), half(T(0.5)), negligible(tiny<T>);
     const auto [a, b, c, d] = block;
     Turn<Number> turn{one, zero};
 
@@ -99,14 +99,14 @@ template <class Number>
 VORM_INLINE Number imaginaryOf(const Block<Number>& block)
 {
     using T = Element<Number>;
-    const Number zero = T(0);
+    const Number zero(T(0));
     return select(abs(block.c) <= Number(tiny<T>), zero, sqrt(abs(block.b)) * sqrt(abs(block.c)));
 }
 template <class Number>
 VORM_INLINE Number conjugateOf(const Block<Number>& block, const Number& imaginary)
 {
     using T = Element<Number>;
-    const Number zero = T(0);
+    const Number zero(T(0));
     return select(abs(block.c) <= Number(tiny<T>), zero, -imaginary);
 }
 
