@@ -264,6 +264,7 @@ TYPED_TEST(EigenVectors, ExtremeScales)
     using T = TypeParam;
     Random random(7);
     Worst worst;
+    int grown = 0;
     const int range = sizeof(T) == 4 ? 40 : 300;
     for (int exponent : {-range / 4, range / 4, range})
         for (int n : {2, 3, 4, 6, 10})
@@ -280,20 +281,34 @@ TYPED_TEST(EigenVectors, ExtremeScales)
                 check(a, r, true, worst);
                 check(a, l, false, worst);
             }
-    // A triangular matrix of which vectors grow beyond the range, and are brought back to length 1.
+    // Triangular matrices whose vectors grow beyond the range on the way, of real values and of pairs.
     const T small = std::ldexp(T(1), sizeof(T) == 4 ? -20 : -50), large = std::ldexp(T(1), sizeof(T) == 4 ? 60 : 500);
-    std::vector<T> a(36);
-    for (int i = 0; i < 6; ++i) {
-        a[std::size_t(i * 6 + i)] = small * T(i);
-        for (int j = 0; j < i; ++j) a[std::size_t(i * 6 + j)] = large;
-    }
-    const auto s = right(a);
+    for (int n : {6, 7, 12})
+        for (bool isUpper : {false, true})
+            for (int pairs : {0, 1, 2}) {
+                std::vector<T> a(std::size_t(n * n));
+                for (int i = 0; i < n; ++i)
+                    for (int j = 0; j <= i; ++j)
+                        a[std::size_t(isUpper ? j * n + i : i * n + j)] = i == j ? small * T(i) : large;
+                for (int i = 0; i < pairs; ++i) {
+                    const std::size_t k = std::size_t(3 * i * (n + 1)), next = k + std::size_t(n + 1);
+                    a[next] = a[k];
+                    a[k + 1] = small, a[k + std::size_t(n)] = -small;
+                }
+                for (bool isRight : {true, false}) {
+                    const auto s = isRight ? right(a) : left(a);
+                    if (s.status != StatusOk) continue;
+                    ++grown;
+                    check(a, s, isRight, worst);
+                }
+            }
+    EXPECT_GT(grown, 10);
+    // One that is brought back once, and grows no more: (0, -1, -1/2).
+    const std::vector<T> once = {0, 0, 0, large, small, 0, large, 0, 2 * small};
+    const auto s = right(once);
     ASSERT_EQ(s.status, StatusOk);
-    for (int j = 0; j < 6; ++j) {
-        Real squares = 0;
-        for (int i = 0; i < 6; ++i) squares += Real(s.element(i, j)) * s.element(i, j);
-        EXPECT_NEAR(double(squares), 1, 1e-5) << j;
-    }
+    EXPECT_LT(std::fabs(s.element(0, 0)), std::numeric_limits<T>::epsilon());
+    EXPECT_NEAR(s.element(2, 0) / s.element(1, 0), 0.5, 1e-6);
     std::printf("%d matrices: residual %.2f, length %.2f\n", worst.tried, double(worst.residual), double(worst.length));
     EXPECT_GT(worst.tried, 700);
     EXPECT_LT(worst.residual, 5.6);

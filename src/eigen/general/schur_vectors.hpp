@@ -151,6 +151,8 @@ VORM_INLINE bool schurVectors(const T* t, T* vectors, T* work, int n)
             z[k] = 1;
             if (!substitute(l, k, 1, Lambda<T>{l(k, k)}, norms, z)) return false;
             T* const x = column(k);
+            if (z[k] != 1)  // made smaller on the way
+                for (int r = 0; r < n; ++r) x[r] *= z[k];
             for (int i = k + 1; i < n; ++i) {
                 const T* const q = column(i);
                 for (int r = 0; r < n; ++r) x[r] += z[i] * q[r];
@@ -168,17 +170,17 @@ VORM_INLINE bool schurVectors(const T* t, T* vectors, T* work, int n)
             z[k] = {1, 0}, z[k + 1] = {0, ownIm / c};
         if (!substitute(l, k, 2, Lambda<Complex<T>>{l(k, k), ownIm}, norms, z)) return false;
         T *const x = column(k), *const y = column(k + 1);
-        T *const re = side == Side::right ? x : y, *const im_ = side == Side::right ? y : x;
+        T *const u = side == Side::right ? x : y, *const w = side == Side::right ? y : x;
         for (int r = 0; r < n; ++r) {
             const T one = x[r], other = y[r];
-            re[r] = z[k].re * one + z[k + 1].re * other;
-            im_[r] = z[k].im * one + z[k + 1].im * other;
+            u[r] = z[k].re * one + z[k + 1].re * other;
+            w[r] = z[k].im * one + z[k + 1].im * other;
         }
         for (int i = k + 2; i < n; ++i) {
             const T* const q = column(i);
-            for (int r = 0; r < n; ++r) re[r] += z[i].re * q[r], im_[r] += z[i].im * q[r];
+            for (int r = 0; r < n; ++r) u[r] += z[i].re * q[r], w[r] += z[i].im * q[r];
         }
-        normalisePair(re, im_, n);
+        normalisePair(u, w, n);
         k += 2;
     }
     return true;
