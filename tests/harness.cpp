@@ -129,7 +129,9 @@ Call::Call(const Function& function, const Problem& problem_, Random& random) : 
 VormStatus Call::make() const
 {
     VormStatus status = StatusOk;
+    for (std::size_t k = 0; k < operands.size(); ++k) operands[k].close(f.bytesOf(f.operands[k]));
     asked_ = askedDuring(problem.threads, problem.later, [&] { status = f.call(arguments); });
+    for (const Placed& operand : operands) operand.open();
     return status;
 }
 

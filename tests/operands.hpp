@@ -11,6 +11,13 @@
 #include <string>
 #include <vector>
 
+#if __has_include(<sanitizer/asan_interface.h>)
+#include <sanitizer/asan_interface.h>
+#else
+#define ASAN_POISON_MEMORY_REGION(address, size) (void)(address), (void)(size)
+#define ASAN_UNPOISON_MEMORY_REGION(address, size) (void)(address), (void)(size)
+#endif
+
 #include "catalogue.hpp"
 #include "guarded.hpp"
 
@@ -61,6 +68,7 @@ public:
 
     char* data() const { return memory_->data(); }
     char* shadow() const { return shadow_->data(); }
+    std::intptr_t begin() const { return memory_->begin(); }
     std::size_t size() const { return memory_->size(); }
 
     void fill(Random& random)
@@ -204,6 +212,26 @@ struct Placed {
         return value;
     }
     std::intptr_t address() const { return reinterpret_cast<std::intptr_t>(room->data() + base); }
+
+    // Under the address sanitizer a call may touch what lies from the first to the last element, and nothing else of
+    // the room: closes the rest of it, or opens it again.
+    void close(std::size_t e) const
+    {
+        if (room->isSparse()) return;
+        const auto [firstObject, lastObject] = std::minmax_element(objects.begin(), objects.end());
+        const auto [firstElement, lastElement] = std::minmax_element(elements.begin(), elements.end());
+        const auto from = base + *firstObject + *firstElement;
+        const auto to = base + *lastObject + *lastElement + std::ptrdiff_t(e);
+        ASAN_POISON_MEMORY_REGION(room->data(), std::size_t(from));
+        ASAN_POISON_MEMORY_REGION(room->data() + to, room->size() - std::size_t(to));
+        if (table) ASAN_POISON_MEMORY_REGION(table->data(), std::size_t(tableAddress - table->begin()));
+    }
+    void open() const
+    {
+        if (room->isSparse()) return;
+        ASAN_UNPOISON_MEMORY_REGION(room->data(), room->size());
+        if (table) ASAN_UNPOISON_MEMORY_REGION(table->data(), table->size());
+    }
 };
 
 // Lays out count objects of an operand, whose elements have e bytes. What it has no stride for is packed.

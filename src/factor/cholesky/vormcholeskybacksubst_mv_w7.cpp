@@ -1,6 +1,6 @@
 // vormCholeskyBackSubst_mv: the kernel for contiguous elements, double precision.
 
-#include "factor/cholesky_back_subst_calls.hpp"
+#include "factor/cholesky/cholesky_back_subst_calls.hpp"
 
 using namespace vorm;
 using namespace vorm::factor;

@@ -1,6 +1,6 @@
 // vormCholeskyBackSubst_mva: team-parallel drivers.
 
-#include "factor/cholesky_back_subst.hpp"
+#include "factor/cholesky/cholesky_back_subst.hpp"
 #include "frame/driver.hpp"
 
 using namespace vorm;

@@ -1,6 +1,6 @@
 // vormCholeskyDecomp_m: the kernel for contiguous elements, double precision.
 
-#include "factor/cholesky_decomp_calls.hpp"
+#include "factor/cholesky/cholesky_decomp_calls.hpp"
 
 using namespace vorm;
 using namespace vorm::factor;

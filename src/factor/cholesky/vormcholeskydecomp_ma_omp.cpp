@@ -1,6 +1,6 @@
 // vormCholeskyDecomp_ma: team-parallel drivers.
 
-#include "factor/cholesky_decomp.hpp"
+#include "factor/cholesky/cholesky_decomp.hpp"
 #include "frame/driver.hpp"
 
 using namespace vorm;

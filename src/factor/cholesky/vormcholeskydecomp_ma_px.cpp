@@ -1,6 +1,6 @@
 // vormCholeskyDecomp_ma: public layers, and the kernels for elements anywhere.
 
-#include "factor/cholesky_decomp_calls.hpp"
+#include "factor/cholesky/cholesky_decomp_calls.hpp"
 
 using namespace vorm;
 using namespace vorm::factor;

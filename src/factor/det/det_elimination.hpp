@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <limits>
 
-#include "factor/lu_general.hpp"
+#include "factor/lu/lu_general.hpp"
 #include "frame/object_rows.hpp"
 
 namespace vorm::factor {

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "factor/det/det_minors.hpp"
-#include "factor/lu_elimination.hpp"
+#include "factor/lu/lu_elimination.hpp"
 
 namespace vorm::factor {
 

@@ -1,0 +1,11 @@
+// vormLUBackSubst_mv: the kernel for contiguous elements, single precision.
+
+#include "factor/lu/lu_back_subst_calls.hpp"
+
+using namespace vorm;
+using namespace vorm::factor;
+
+extern "C" {
+
+VormStatus n8_ownvormLUBackSubst_mv_32f(LU_MV_PARAMS(float)) { return contiguousKernel(luMv(LU_MV_ARGS)); }
+}
