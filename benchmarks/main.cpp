@@ -168,6 +168,7 @@ int run(const std::string& filter, const std::string& output)
     addDet(sections);
     addMath3d(sections);
     addQr(sections);
+    addEigenSym(sections);
     addEigenVectors(sections);
     addCalls(sections);
     addTeam(sections);

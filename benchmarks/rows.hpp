@@ -52,6 +52,7 @@ void addCholesky(Sections& sections);
 void addDet(Sections& sections);
 void addMath3d(Sections& sections);
 void addQr(Sections& sections);
+void addEigenSym(Sections& sections);
 void addEigenVectors(Sections& sections);
 void addCalls(Sections& sections);
 void addTeam(Sections& sections);

@@ -174,9 +174,9 @@ TEST(Binary, SizeOfTheCode)
     GTEST_SKIP() << "not an optimised build without sanitizers";
 #endif
 #ifdef __clang__
-    constexpr long budget = 4290000;
+    constexpr long budget = 4620000;
 #else
-    constexpr long budget = 4480000;
+    constexpr long budget = 4860000;
 #endif
     std::istringstream lines(outputOf("size"));
     std::string heading;
