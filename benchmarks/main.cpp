@@ -174,6 +174,7 @@ int run(const std::string& filter, const std::string& output)
     addExtract(sections);
     addEigenSym(sections);
     addEigenValues(sections);
+    addEigenVectors(sections);
     addCalls(sections);
     addTeam(sections);
 

@@ -58,6 +58,7 @@ void addMovement(Sections& sections);
 void addExtract(Sections& sections);
 void addEigenSym(Sections& sections);
 void addEigenValues(Sections& sections);
+void addEigenVectors(Sections& sections);
 void addCalls(Sections& sections);
 void addTeam(Sections& sections);
 

@@ -51,8 +51,12 @@ Parameter parameterFrom(const std::string& declaration)
         p.role = stars == 1 ? Role::pointer : Role::table;
         if (operand.size() > 1 && operand[0] == 'p' && (std::isupper(operand[1]) || operand[1] == 'p'))
             operand.erase(0, static_cast<std::size_t>(stars));
+        const bool isNumbered = operand.starts_with("dstVector") && std::isdigit(operand.back());
+        const std::string number = isNumbered ? operand.substr(operand.size() - 1) : "";
+        endsIn(number);
         if (stars > 1 && !endsIn("Pointers")) endsIn("List");
-        if (!endsIn("Vectors")) endsIn("Vector");  // dstVectors, dstVectorList: their strides are dst's
+        if (!endsIn("Vectors")) endsIn("Vector");  // dstVectors, dstVectorList1: their strides are dst's, dst1's
+        operand += number;
         operand[0] = static_cast<char>(std::tolower(operand[0]));
     } else if (declaration.starts_with("float") || declaration.starts_with("double")) {
         p.role = Role::value;
@@ -103,7 +107,7 @@ void findOperands(Function& f)
         } else if (p.operand.starts_with("src")) {
             while (next < letters.size() && letters[next].kind == 'c') ++next;
             o = next < letters.size() ? letters[next++] : letters.back();
-        } else if (p.operand == "dst") {
+        } else if (p.operand == "dst" || p.operand == "dst1" || p.operand == "dst2") {
             for (const Operand& letter : letters)
                 if (letter.kind != 'c') o = letter;
             if (o.kind == 't') o.kind = 'm';

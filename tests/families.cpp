@@ -6,7 +6,8 @@
 extern const Family fixedForms, vectorSums, vectorScaling, matrixSums, vectorProducts, matrixProducts, gaxpyProducts,
     luDecomposition, luSubstitution, choleskyDecomposition, choleskySubstitution, determinants, inverses, curves,
     transformMatrices, matrixOperations, pointTransforms, affineTransform3DH, qrDecomposition, qrSubstitution,
-    dotProducts, l2Norms, frobeniusNorms, traces, crossProducts, movement, symmetricEigenproblems, generalEigenvalues;
+    dotProducts, l2Norms, frobeniusNorms, traces, crossProducts, movement, symmetricEigenproblems, generalEigenvalues,
+    generalEigenvectors;
 
 const std::vector<const Family*>& families()
 {
@@ -37,6 +38,7 @@ const std::vector<const Family*>& families()
                                                    &crossProducts,
                                                    &movement,
                                                    &symmetricEigenproblems,
-                                                   &generalEigenvalues};
+                                                   &generalEigenvalues,
+                                                   &generalEigenvectors};
     return all;
 }

@@ -114,6 +114,8 @@ constexpr Row table[] = {
     {"EigenValuesSym", "ma", [](const Work& w) { return (w.n * w.n + w.n) * w.count; }, from(1001)},
     {"EigenValues", "ma", [](const Work& w) { return (w.n * w.n + w.n) * w.count; }, from(251)},
     {"EigenValuesVectorsSym", "ma", [](const Work& w) { return (2 * w.n * w.n + w.n) * w.count; }, from(701)},
+    {"EigenValuesVectors EigenValuesVectorsLeft EigenValuesVectorsRight", "ma",
+     [](const Work& w) { return w.n * (3 * w.n + 1) * w.count; }, from(501)},
 };
 
 bool hasWord(const std::string& text, const std::string& word)

@@ -1,21 +1,13 @@
 // The kernels of vormEigenValues over the parts of a call: the source, the values, the order, the work space.
 #pragma once
 
-#include <cstdint>
-
+#include "eigen/general/aligned.hpp"
 #include "eigen/general/eigen_values.hpp"
 #include "eigen/general/values_of.hpp"
 #include "frame/blocks.hpp"
 #include "frame/object_lanes.hpp"
 
 namespace vorm::eigen {
-
-// A caller's work space from its first element on that lies as elements of its type have to: one element less at most.
-template <class T>
-VORM_INLINE T* aligned(T* p)
-{
-    return reinterpret_cast<T*>((reinterpret_cast<std::uintptr_t>(p) + (alignof(T) - 1)) & ~(alignof(T) - 1));
-}
 
 // One object in the caller's work space, from its first aligned element on. Of an object that fails the values that
 // have left are written.

@@ -165,14 +165,29 @@ struct Factors {
     }
 };
 
+// Rows from to end - 1 of columns k, k + 1 and, of three, k + 2. A compiler would look each time whether they overlap.
 template <class T>
 VORM_INLINE void turnColumns(const Columns<T>& m, const Factors<T>& factors, int k, bool three, int from, int end)
 {
+    using L = Lanes<T>;
     T *const x = m.column(k), *const y = m.column(k + 1), *const z = m.column(k + 1 + three);
-    if (three)
-        for (int r = from; r < end; ++r) factors.turn(x[r], y[r], z[r]);
-    else
-        for (int r = from; r < end; ++r) factors.turn(x[r], y[r]);
+    const Factors<L> inLanes{factors.v2, factors.v3, factors.t1, factors.t2, factors.t3};
+    int r = from;
+    if (three) {
+        for (; r + L::width <= end; r += L::width) {
+            L a = L::load(x + r), b = L::load(y + r), c = L::load(z + r);
+            inLanes.turn(a, b, c);
+            a.store(x + r), b.store(y + r), c.store(z + r);
+        }
+        for (; r < end; ++r) factors.turn(x[r], y[r], z[r]);
+    } else {
+        for (; r + L::width <= end; r += L::width) {
+            L a = L::load(x + r), b = L::load(y + r);
+            inLanes.turn(a, b);
+            a.store(x + r), b.store(y + r);
+        }
+        for (; r < end; ++r) factors.turn(x[r], y[r]);
+    }
 }
 
 // Where the iteration stands: what is being split off ends at last, the block in question starts at first.
@@ -283,14 +298,14 @@ int iterate(T* matrix, T* transformation, int n, T* re, T* im)
 }
 
 // Of the matrix stored by columns in t the Schur form T, the transformation q, and the values. work holds 2 n elements.
-// A budget that is spent leaves t and q half way, and of the values those that had left.
+// Returns how many values have not left, as iterate does; where there are any t and q are half way.
 template <class T>
-VormStatus schurForm(T* t, T* q, T* work, int n, T* re, T* im)
+int schurForm(T* t, T* q, T* work, int n, T* re, T* im)
 {
     hessenberg(t, n, work, work + n);
     formTransformation(t, work, n, q);
     clearBelowSubdiagonal(t, n);
-    return iterate<true>(t, q, n, re, im) == 0 ? StatusOk : StatusNoConvergence;
+    return iterate<true>(t, q, n, re, im);
 }
 
 }  // namespace vorm::eigen
