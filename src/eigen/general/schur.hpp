@@ -9,6 +9,7 @@
 // T z = lambda z a left one is the conjugate of Q z.
 #pragma once
 
+#include "eigen/general/rounded.hpp"
 #include "eigen/general/standard_form.hpp"
 #include "vorm/status.h"
 
@@ -252,8 +253,8 @@ VORM_INLINE void leavePair(const Columns<T>& m, const Columns<T>& q, int last, T
     im[last] = conjugateOf(block, im[other]);
     if constexpr (keeps) {
         const auto rotate = [&](T& x, T& y) VORM_INLINE_LAMBDA {
-            const T turned = turn.cs * x + turn.sn * y;
-            y = turn.cs * y - turn.sn * x;
+            const T turned = rounded(turn.cs * x) + rounded(turn.sn * y);
+            y = rounded(turn.cs * y) - rounded(turn.sn * x);
             x = turned;
         };
         for (int c = last + 1; c < m.n; ++c) rotate(m(other, c), m(last, c));

@@ -124,8 +124,8 @@ VORM_INLINE void normalisePair(T* u, T* w, int n)
     T c = u[place] / r, s = w[place] / r;
     if (abs(u[place]) > abs(w[place]) && c < 0) c = -c, s = -s;
     for (int i = 0; i < n; ++i) {
-        const T turned = c * u[i] + s * w[i];
-        w[i] = c * w[i] - s * u[i];
+        const T turned = rounded(c * u[i]) + rounded(s * w[i]);
+        w[i] = rounded(c * w[i]) - rounded(s * u[i]);
         u[i] = turned;
     }
     w[place] = 0;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "eigen/general/reflection.hpp"
+#include "eigen/general/rounded.hpp"
 
 namespace vorm::eigen {
 
@@ -56,10 +57,10 @@ VORM_INLINE Turn<Number> standardise(Block<Number>& block)
             Number cs = sqrt(half * (one + abs(sigma) / tau));
             const Number quotient = p / (tau * cs);
             Number sn = select(sigma >= zero, -quotient, quotient);
-            const Number aa = a * cs + b * sn, bb = b * cs - a * sn;
-            const Number cc = c * cs + d * sn, dd = d * cs - c * sn;
-            const Number b1 = bb * cs + dd * sn, c1 = cc * cs - aa * sn;
-            const Number mean = half * ((aa * cs + cc * sn) + (dd * cs - bb * sn));
+            const Number aa = rounded(a * cs) + rounded(b * sn), bb = rounded(b * cs) - rounded(a * sn);
+            const Number cc = rounded(c * cs) + rounded(d * sn), dd = rounded(d * cs) - rounded(c * sn);
+            const Number b1 = rounded(bb * cs) + rounded(dd * sn), c1 = rounded(cc * cs) - rounded(aa * sn);
+            const Number mean = half * ((aa * cs + rounded(cc * sn)) + (dd * cs - rounded(bb * sn)));
 
             const Mask noC = abs(c1) <= negligible, noB = without(abs(b1) <= negligible, noC);
             const Mask positive = (b1 >= zero) & (c1 >= zero), negative = (b1 < zero) & (c1 < zero);
