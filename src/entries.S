@@ -36,6 +36,7 @@
 #include "vorm/elementwise.inc"
 #include "vorm/products.inc"
 #include "vorm/factor.inc"
+#include "vorm/eigen.inc"
 #include "vorm/math3d.inc"
 #undef VORM_FUNCTION
 

@@ -30,6 +30,7 @@ Order orderOf(const Function& f)
     if (f.family == "CholeskyBackSubst" && f.shape == "mva" && f.layout == "L")
         return {null, stride, shift, size, count};
     if (f.family.starts_with("QR")) return {null, count, size, stride, shift, fit};
+    if (f.family.starts_with("EigenValues") && f.family.ends_with("Sym")) return {null, size, count, shift, stride};
     return {null, count, size, fit, stride, shift};
 }
 

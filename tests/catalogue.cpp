@@ -158,6 +158,7 @@ const std::vector<Function>& catalogue()
 {
     static const std::vector<Function> functions = {
 #define VORM_FUNCTION(name, parameters) functionFrom(#name, #parameters, callerOf(name)),
+#include "vorm/eigen.inc"
 #include "vorm/elementwise.inc"
 #include "vorm/factor.inc"
 #include "vorm/math3d.inc"

@@ -5,14 +5,31 @@
 
 extern const Family fixedForms, vectorSums, vectorScaling, matrixSums, vectorProducts, matrixProducts, gaxpyProducts,
     luDecomposition, luSubstitution, choleskyDecomposition, choleskySubstitution, determinants, inverses, curves,
-    transformMatrices, matrixOperations, pointTransforms, affineTransform3DH, qrDecomposition, qrSubstitution;
+    transformMatrices, matrixOperations, pointTransforms, affineTransform3DH, qrDecomposition, qrSubstitution,
+    symmetricEigenproblems;
 
 const std::vector<const Family*>& families()
 {
-    static const std::vector<const Family*> all = {
-        &fixedForms,           &vectorSums,      &vectorScaling,      &matrixSums,      &vectorProducts,
-        &matrixProducts,       &gaxpyProducts,   &luDecomposition,    &luSubstitution,  &choleskyDecomposition,
-        &choleskySubstitution, &determinants,    &inverses,           &curves,          &transformMatrices,
-        &matrixOperations,     &pointTransforms, &affineTransform3DH, &qrDecomposition, &qrSubstitution};
+    static const std::vector<const Family*> all = {&fixedForms,
+                                                   &vectorSums,
+                                                   &vectorScaling,
+                                                   &matrixSums,
+                                                   &vectorProducts,
+                                                   &matrixProducts,
+                                                   &gaxpyProducts,
+                                                   &luDecomposition,
+                                                   &luSubstitution,
+                                                   &choleskyDecomposition,
+                                                   &choleskySubstitution,
+                                                   &determinants,
+                                                   &inverses,
+                                                   &curves,
+                                                   &transformMatrices,
+                                                   &matrixOperations,
+                                                   &pointTransforms,
+                                                   &affineTransform3DH,
+                                                   &qrDecomposition,
+                                                   &qrSubstitution,
+                                                   &symmetricEigenproblems};
     return all;
 }

@@ -165,7 +165,10 @@ Problem someProblem(const Function& f, const Sizes& sizes, Random& random)
 
 void letResultsOverlap(const Function& f, Problem& p, int way, Random& random)
 {
-    Lie& lie = p.lies[f.operandNamed("dst")];
+    const auto dst =
+        std::find_if(f.operands.begin(), f.operands.end(), [](const Operand& o) { return o.name == "dst"; });
+    if (dst == f.operands.end()) return;
+    Lie& lie = p.lies[std::size_t(dst - f.operands.begin())];
     p.inPlace = false, lie.planes = way == 0;
     if (way == 0) lie.padObject = -pick(random, 0, p.count - 1);  // planes share memory
     if (way == 1) lie.overlapping = pick(random, 1, 3);

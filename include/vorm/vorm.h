@@ -12,6 +12,7 @@ extern "C" {
 #endif
 
 #define VORM_FUNCTION(name, parameters) VormStatus name parameters;
+#include "vorm/eigen.inc"
 #include "vorm/elementwise.inc"
 #include "vorm/factor.inc"
 #include "vorm/math3d.inc"

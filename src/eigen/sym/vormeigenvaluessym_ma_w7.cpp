@@ -1,0 +1,18 @@
+// vormEigenValuesSym_ma: the kernels for contiguous elements, double precision.
+
+#include "eigen/sym/values_sym_calls.hpp"
+
+using namespace vorm;
+using namespace vorm::eigen::sym;
+
+extern "C" {
+
+VormStatus n8_ownvormEigenValuesSym_ma_64f(VALUES_SYM_MA_PARAMS(double))
+{
+    return contiguousKernel(valuesMa(VALUES_SYM_MA_ARGS));
+}
+VormStatus n8_ownvormEigenValuesSym_ma_64f_L(VALUES_SYM_MA_PARAMS_L(double))
+{
+    return contiguousKernel(valuesMaL(VALUES_SYM_MA_ARGS_L));
+}
+}
