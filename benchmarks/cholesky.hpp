@@ -3,13 +3,13 @@
 // and LAPACK's own decompositions are made before their solving is measured.
 #pragma once
 
+#include <lapacke.h>
+
 #include <Eigen/Cholesky>
 
-#include "lu.hpp"
+#include "layouts.hpp"
 
 namespace bench::cholesky {
-
-using lu::Array, lu::Layout, lu::LayoutOf, lu::matrixArguments, lu::vectorArguments, lu::commonArguments;
 
 inline lapack_int potrf(int n, float* a) { return LAPACKE_spotrf_work(LAPACK_COL_MAJOR, 'U', n, a, n); }
 inline lapack_int potrf(int n, double* a) { return LAPACKE_dpotrf_work(LAPACK_COL_MAJOR, 'U', n, a, n); }
@@ -112,20 +112,12 @@ Task decomposition(auto members, int count)
     const auto arguments = [=](const Array<T>& from, const Array<T>& to, auto as) {
         return std::tuple_cat(matrixArguments(from, as), matrixArguments(to, as), std::tuple(n, count));
     };
-    const LayoutOf<layout> as;
-    if constexpr (layout == Layout::packed)
-        add("vorm", [=, all = arguments(a, l, as)] { std::apply(members.standard, all); });
-    if constexpr (layout == Layout::list)
-        add("vorm", [=, all = arguments(a, l, as)] { std::apply(members.list, all); });
-    if constexpr (layout == Layout::planes) {
-        add("vorm", [=, all = arguments(a, l, as)] { std::apply(members.pointers, all); });
-        const Array<T> aPacked(n, n, count, Layout::packed, 1), lPacked(n, n, count, Layout::packed, 1);
-        makeDefinite<n>(aPacked, count, Layout::packed);
-        const LayoutOf<Layout::packed> packed;
-        add("vorm, standard layout",
-            [=, all = arguments(aPacked, lPacked, packed)] { std::apply(members.standard, all); });
+    if (addOurs<layout>(task, members, arguments(a, l, LayoutOf<layout>{}), [&] {
+            const Array<T> aPacked(n, n, count, Layout::packed, 1), lPacked(n, n, count, Layout::packed, 1);
+            makeDefinite<n>(aPacked, count, Layout::packed);
+            return arguments(aPacked, lPacked, LayoutOf<Layout::packed>{});
+        }))
         return task;
-    }
     add("Eigen", [=] { eigenDecompositions<n, Eigen::ColMajor>(a, l, count, layout); });
     add("Eigen by rows", [=] { eigenDecompositions<n, Eigen::RowMajor>(a, l, count, layout); });
     add("LAPACK", [=] {
@@ -167,19 +159,11 @@ Task solution(auto members, int count)
         else
             return std::tuple_cat(commonArguments(m, as), vectors);
     };
-    const LayoutOf<layout> as;
-    if constexpr (layout == Layout::packed)
-        add("vorm", [=, all = arguments(a, b, x, as)] { std::apply(members.standard, all); });
-    if constexpr (layout == Layout::list)
-        add("vorm", [=, all = arguments(a, b, x, as)] { std::apply(members.list, all); });
-    if constexpr (layout == Layout::planes) {
-        add("vorm", [=, all = arguments(a, b, x, as)] { std::apply(members.pointers, all); });
-        const Array<T> bPacked(1, n, count, Layout::packed, 1), xPacked(1, n, count, Layout::packed, 1);
-        const LayoutOf<Layout::packed> packed;
-        add("vorm, standard layout",
-            [=, all = arguments(l, bPacked, xPacked, packed)] { std::apply(members.standard, all); });
+    if (addOurs<layout>(task, members, arguments(a, b, x, LayoutOf<layout>{}), [&] {
+            const Array<T> bPacked(1, n, count, Layout::packed, 1), xPacked(1, n, count, Layout::packed, 1);
+            return arguments(l, bPacked, xPacked, LayoutOf<Layout::packed>{});
+        }))
         return task;
-    }
     add("Eigen", [=] { eigenSolution<n, T>(decompositions->data(), ownMatrices, b, x, count, layout); });
     // LAPACK has the true diagonal.
     const Array<T> theirs(n, n, matrices, Layout::packed, 1);
@@ -210,41 +194,28 @@ Task solution(auto members, int count)
     return task;
 }
 
-struct CholeskySections {
-    Section &resident, &streaming, &list, &planes;
-};
-
 template <class T, int... n>
-void addOrders(CholeskySections& s, auto decompose, auto solveVectors, auto solvePairs)
+void addOrders(LayoutSections& s, auto decompose, auto solveVectors, auto solvePairs)
 {
     (..., [&] {
-        const int streaming = static_cast<int>(streamingBytes() / (n * n * sizeof(T)) / 16 * 16);
         constexpr bool isFloat = sizeof(T) == 4;
         constexpr double wantedDecomposition = n > 6 ? (isFloat ? 1.2 : 1) : n == 3 || !isFloat ? 2 : 4;
         constexpr double wantedSolutions = n > 6 ? 1 : isFloat ? 4 : 3;
         constexpr double wantedPlanes = n > 6 ? 1 : isFloat ? 1.3 : 1.1;
-        const auto add = [&](Section& section, const char* member, int count, double wanted, auto prepare) {
-            section.rows.push_back({std::string(member) + " " + std::to_string(n) + "x" + std::to_string(n), count,
-                                    [=] { return prepare(count); }, wanted});
+        const auto add = [&](auto members, double wanted, auto taskOf) {
+            addInLayouts<T>(s, members.name, n, n, {wanted, wantedPlanes}, taskOf);
         };
-        const auto addShape = [&](auto members, double wanted, auto taskOf) {
-            const auto in = [=](auto layout) { return [=](int count) { return taskOf(layout, count); }; };
-            add(s.resident, members.name, residentObjects, wanted, in(LayoutOf<Layout::packed>{}));
-            add(s.streaming, members.name, streaming, 1, in(LayoutOf<Layout::packed>{}));
-            add(s.list, members.name, residentObjects, 1, in(LayoutOf<Layout::list>{}));
-            add(s.planes, members.name, residentObjects, wantedPlanes, in(LayoutOf<Layout::planes>{}));
-        };
-        addShape(decompose, wantedDecomposition,
-                 [=](auto layout, int count) { return decomposition<n, T, layout()>(decompose, count); });
-        addShape(solvePairs, wantedSolutions,
-                 [=](auto layout, int count) { return solution<n, T, layout(), true>(solvePairs, count); });
-        addShape(solveVectors, wantedSolutions,
-                 [=](auto layout, int count) { return solution<n, T, layout(), false>(solveVectors, count); });
+        add(decompose, wantedDecomposition,
+            [=](auto layout, int count) { return decomposition<n, T, layout()>(decompose, count); });
+        add(solvePairs, wantedSolutions,
+            [=](auto layout, int count) { return solution<n, T, layout(), true>(solvePairs, count); });
+        add(solveVectors, wantedSolutions,
+            [=](auto layout, int count) { return solution<n, T, layout(), false>(solveVectors, count); });
     }());
 }
 
 // Each element type in its own file.
-void addAll32f(CholeskySections& s);
-void addAll64f(CholeskySections& s);
+void addAll32f(LayoutSections& s);
+void addAll64f(LayoutSections& s);
 
 }  // namespace bench::cholesky

@@ -4,7 +4,7 @@
 
 namespace bench {
 
-void cholesky::addAll64f(CholeskySections& s)
+void cholesky::addAll64f(LayoutSections& s)
 {
     addOrders<double, 3, 4, 5, 6, 8, 12>(s, BENCH_MEMBERS(vormCholeskyDecomp_ma_64f),
                                          BENCH_MEMBERS(vormCholeskyBackSubst_mva_64f),

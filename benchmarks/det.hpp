@@ -5,8 +5,6 @@
 
 namespace bench::det {
 
-using lu::Array, lu::Layout, lu::LayoutOf;
-
 inline lapack_int getri(int n, float* a, const int* rows, float* work)
 {
     return LAPACKE_sgetri_work(LAPACK_COL_MAJOR, n, a, n, rows, work, 16 * n);
@@ -40,16 +38,12 @@ Task determinant(auto members, int count)
     Task task;
     const auto add = [&](const char* name, auto work) { task.contestants.push_back({name, work}); };
     const auto rest = std::tuple(n, buffer, dst, count);
-    const auto all = std::tuple_cat(lu::matrixArguments(a, LayoutOf<layout>{}), rest);
-    if constexpr (layout == Layout::packed) add("vorm", [=] { std::apply(members.standard, all); });
-    if constexpr (layout == Layout::list) add("vorm", [=] { std::apply(members.list, all); });
-    if constexpr (layout == Layout::planes) {
-        add("vorm", [=] { std::apply(members.pointers, all); });
-        const Array<T> packed(n, n, count, Layout::packed, 1);
-        add("vorm, standard layout", [=, all = std::tuple_cat(lu::matrixArguments(packed, LayoutOf<Layout::packed>{}),
-                                                              rest)] { std::apply(members.standard, all); });
+    const auto all = std::tuple_cat(matrixArguments(a, LayoutOf<layout>{}), rest);
+    if (addOurs<layout>(task, members, all, [&] {
+            const Array<T> packed(n, n, count, Layout::packed, 1);
+            return std::tuple_cat(matrixArguments(packed, LayoutOf<Layout::packed>{}), rest);
+        }))
         return task;
-    }
     add("Eigen", [=] { eigenDeterminants<n>(a, dst, count, layout); });
     add("LAPACK", [=] {
         T work[n * n];
@@ -73,19 +67,14 @@ Task inverse(auto members, int count)
     Task task;
     const auto add = [&](const char* name, auto work) { task.contestants.push_back({name, work}); };
     const auto arguments = [=](const Array<T>& from, const Array<T>& to, auto as) {
-        return std::tuple_cat(lu::matrixArguments(from, as), std::tuple(buffer), lu::matrixArguments(to, as),
+        return std::tuple_cat(matrixArguments(from, as), std::tuple(buffer), matrixArguments(to, as),
                               std::tuple(n, count));
     };
-    const auto all = arguments(a, x, LayoutOf<layout>{});
-    if constexpr (layout == Layout::packed) add("vorm", [=] { std::apply(members.standard, all); });
-    if constexpr (layout == Layout::list) add("vorm", [=] { std::apply(members.list, all); });
-    if constexpr (layout == Layout::planes) {
-        add("vorm", [=] { std::apply(members.pointers, all); });
-        const Array<T> aPacked(n, n, count, Layout::packed, 1), xPacked(n, n, count, Layout::packed, 1);
-        add("vorm, standard layout",
-            [=, all = arguments(aPacked, xPacked, LayoutOf<Layout::packed>{})] { std::apply(members.standard, all); });
+    if (addOurs<layout>(task, members, arguments(a, x, LayoutOf<layout>{}), [&] {
+            const Array<T> aPacked(n, n, count, Layout::packed, 1), xPacked(n, n, count, Layout::packed, 1);
+            return arguments(aPacked, xPacked, LayoutOf<Layout::packed>{});
+        }))
         return task;
-    }
     add("Eigen", [=] { eigenInverses<n>(a, x, count, layout); });
     add("LAPACK", [=] {
         T work[16 * n];
@@ -117,36 +106,23 @@ double wantedInverse(int n)
                     : 1;
 }
 
-struct DetSections {
-    Section &resident, &streaming, &list, &planes;
-};
-
 template <class T, int... n>
-void addOrders(DetSections& s, auto determinants, auto inverses)
+void addOrders(LayoutSections& s, auto determinants, auto inverses)
 {
     (..., [&] {
-        const int streaming = static_cast<int>(streamingBytes() / (n * n * sizeof(T)) / 16 * 16);
-        const auto add = [&](Section& section, const char* member, int count, double wanted, auto prepare) {
-            section.rows.push_back({std::string(member) + " " + std::to_string(n) + "x" + std::to_string(n), count,
-                                    [=] { return prepare(count); }, wanted});
+        constexpr double wantedOfPlanes = n > 6 ? 0 : sizeof(T) == 4 ? 1.3 : 1.1;
+        const auto add = [&](auto members, double wanted, auto taskOf) {
+            addInLayouts<T>(s, members.name, n, n, {wanted, wantedOfPlanes, n <= 6}, taskOf);
         };
-        const auto addShape = [&](auto members, double wanted, auto taskOf) {
-            const auto in = [=](auto layout) { return [=](int count) { return taskOf(layout, count); }; };
-            const double wantedOfPlanes = n > 6 ? 0 : sizeof(T) == 4 ? 1.3 : 1.1;
-            add(s.resident, members.name, residentObjects, wanted, in(LayoutOf<Layout::packed>{}));
-            if constexpr (n <= 6) add(s.streaming, members.name, streaming, 1, in(LayoutOf<Layout::packed>{}));
-            add(s.list, members.name, residentObjects, 1, in(LayoutOf<Layout::list>{}));
-            add(s.planes, members.name, residentObjects, wantedOfPlanes, in(LayoutOf<Layout::planes>{}));
-        };
-        addShape(determinants, wantedDeterminant<T>(n),
-                 [=](auto layout, int count) { return determinant<n, T, layout()>(determinants, count); });
-        addShape(inverses, wantedInverse<T>(n),
-                 [=](auto layout, int count) { return inverse<n, T, layout()>(inverses, count); });
+        add(determinants, wantedDeterminant<T>(n),
+            [=](auto layout, int count) { return determinant<n, T, layout()>(determinants, count); });
+        add(inverses, wantedInverse<T>(n),
+            [=](auto layout, int count) { return inverse<n, T, layout()>(inverses, count); });
     }());
 }
 
 // Each element type in its own file.
-void addAll32f(DetSections& s);
-void addAll64f(DetSections& s);
+void addAll32f(LayoutSections& s);
+void addAll64f(LayoutSections& s);
 
 }  // namespace bench::det

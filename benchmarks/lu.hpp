@@ -6,77 +6,10 @@
 #include <lapacke.h>
 
 #include <Eigen/LU>
-#include <memory>
-#include <numeric>
-#include <tuple>
-#include <vector>
 
-#include "members.hpp"
-#include "memory.hpp"
-#include "rows.hpp"
-#include "vorm/vorm.h"
+#include "layouts.hpp"
 
 namespace bench::lu {
-
-enum class Layout { packed, list, planes };
-
-// An array of matrices or vectors, stored side by side; as a list visited out of order, or in planes.
-template <class T>
-struct Array {
-    T* data;
-    T** table = nullptr;
-    int rows, columns;
-
-    Array(int rows_, int columns_, int count, Layout layout, int stirred) : rows(rows_), columns(columns_)
-    {
-        const int size = rows * columns;
-        const std::ptrdiff_t planeStep = (count + 15) / 16 * 16 + 7 * 64 / int{sizeof(T)};
-        const std::ptrdiff_t elements = std::max<std::ptrdiff_t>(planeStep, count) * size;
-        data = Memory::region<T>(elements);
-        fill(data, elements);
-        table = Memory::region<T*>(std::max(count, size));
-        if (layout == Layout::list)
-            for (int n = 0; n < count; ++n) table[n] = data + std::int64_t{n} * stirred % count * size;
-        if (layout == Layout::planes)
-            for (int i = 0; i < size; ++i) table[i] = data + i * planeStep;
-    }
-    T* at(int n, Layout layout) const
-    {
-        return layout == Layout::list ? table[n] : data + std::ptrdiff_t{n} * rows * columns;
-    }
-};
-
-// As arguments of our functions.
-template <class T>
-auto matrixArguments(const Array<T>& a, auto layout)
-{
-    const int e = sizeof(T), row = a.columns * e;
-    if constexpr (layout() == Layout::packed) return std::tuple(a.data, a.rows * row, row, e);
-    if constexpr (layout() == Layout::list) return std::tuple(a.table, 0, row, e);
-    if constexpr (layout() == Layout::planes) return std::tuple(a.table, 0, e);
-}
-template <class T>
-auto vectorArguments(const Array<T>& a, auto layout)
-{
-    const int e = sizeof(T);
-    if constexpr (layout() == Layout::packed) return std::tuple(a.data, a.columns * e, e);
-    if constexpr (layout() == Layout::list) return std::tuple(a.table, 0, e);
-    if constexpr (layout() == Layout::planes) return std::tuple(a.table, 0, e);
-}
-template <class T>
-auto commonArguments(const Array<T>& a, auto layout)
-{
-    const int e = sizeof(T);
-    if constexpr (layout() == Layout::planes)
-        return std::tuple(a.table, 0);
-    else
-        return std::tuple(a.data, a.columns * e, e);
-}
-
-template <Layout value>
-struct LayoutOf {
-    constexpr Layout operator()() const { return value; }
-};
 
 inline lapack_int getrf(int n, float* a, int* rows) { return LAPACKE_sgetrf_work(LAPACK_COL_MAJOR, n, n, a, n, rows); }
 inline lapack_int getrf(int n, double* a, int* rows) { return LAPACKE_dgetrf_work(LAPACK_COL_MAJOR, n, n, a, n, rows); }
@@ -184,19 +117,11 @@ Task decomposition(auto members, int count)
         return std::tuple_cat(matrixArguments(from, as), std::tuple(rows), matrixArguments(to, as),
                               std::tuple(n, count));
     };
-    const LayoutOf<layout> as;
-    if constexpr (layout == Layout::packed)
-        add("vorm", [=, all = arguments(a, lu, as)] { std::apply(members.standard, all); });
-    if constexpr (layout == Layout::list)
-        add("vorm", [=, all = arguments(a, lu, as)] { std::apply(members.list, all); });
-    if constexpr (layout == Layout::planes) {
-        add("vorm", [=, all = arguments(a, lu, as)] { std::apply(members.pointers, all); });
-        const Array<T> aPacked(n, n, count, Layout::packed, 1), luPacked(n, n, count, Layout::packed, 1);
-        const LayoutOf<Layout::packed> packed;
-        add("vorm, standard layout",
-            [=, all = arguments(aPacked, luPacked, packed)] { std::apply(members.standard, all); });
+    if (addOurs<layout>(task, members, arguments(a, lu, LayoutOf<layout>{}), [&] {
+            const Array<T> aPacked(n, n, count, Layout::packed, 1), luPacked(n, n, count, Layout::packed, 1);
+            return arguments(aPacked, luPacked, LayoutOf<Layout::packed>{});
+        }))
         return task;
-    }
     add("Eigen", [=] { eigenDecompositions<n, Eigen::ColMajor>(a, lu, rows, count, layout); });
     add("Eigen by rows", [=] { eigenDecompositions<n, Eigen::RowMajor>(a, lu, rows, count, layout); });
     add("LAPACK", [=] {
@@ -244,20 +169,12 @@ Task solution(auto members, int count)
         else
             return std::tuple_cat(commonArguments(m, as), vectors);
     };
-    const LayoutOf<layout> as;
-    if constexpr (layout == Layout::packed)
-        add("vorm", [=, all = arguments(a, b, x, as)] { std::apply(members.standard, all); });
-    if constexpr (layout == Layout::list)
-        add("vorm", [=, all = arguments(a, b, x, as)] { std::apply(members.list, all); });
-    if constexpr (layout == Layout::planes) {
-        add("vorm", [=, all = arguments(a, b, x, as)] { std::apply(members.pointers, all); });
-        const Array<T> aPacked(n, n, matrices, Layout::packed, 1), bPacked(1, n, count, Layout::packed, 1),
-            xPacked(1, n, count, Layout::packed, 1);
-        const LayoutOf<Layout::packed> packed;
-        add("vorm, standard layout",
-            [=, all = arguments(aPacked, bPacked, xPacked, packed)] { std::apply(members.standard, all); });
+    if (addOurs<layout>(task, members, arguments(a, b, x, LayoutOf<layout>{}), [&] {
+            const Array<T> aPacked(n, n, matrices, Layout::packed, 1), bPacked(1, n, count, Layout::packed, 1),
+                xPacked(1, n, count, Layout::packed, 1);
+            return arguments(aPacked, bPacked, xPacked, LayoutOf<Layout::packed>{});
+        }))
         return task;
-    }
     add("Eigen", [=] { eigenSolution<n, T>(decompositions->data(), ownMatrices, b, x, count, layout); });
     // The same rows as the exchanges LAPACK makes one after the other.
     int* const exchanges = Memory::region<int>(std::ptrdiff_t{matrices} * n);
@@ -294,40 +211,27 @@ Task solution(auto members, int count)
     return task;
 }
 
-struct LuSections {
-    Section &resident, &streaming, &list, &planes;
-};
-
 template <class T, int... n>
-void addOrders(LuSections& s, auto decompose, auto solveVectors, auto solvePairs)
+void addOrders(LayoutSections& s, auto decompose, auto solveVectors, auto solvePairs)
 {
     (..., [&] {
-        const int streaming = static_cast<int>(streamingBytes() / (n * n * sizeof(T)) / 16 * 16);
         constexpr bool isFloat = sizeof(T) == 4;
         constexpr double wantedPairs = n > 6 ? 1 : isFloat ? 1.6 : 1.2;
         constexpr double wantedVectors = n == 4 || n == 6 ? (isFloat ? 5 : 4) : 1;
-        const auto add = [&](Section& section, const char* member, int count, double wanted, auto prepare) {
-            section.rows.push_back({std::string(member) + " " + std::to_string(n) + "x" + std::to_string(n), count,
-                                    [=] { return prepare(count); }, wanted});
+        const auto add = [&](auto members, double wanted, auto taskOf) {
+            addInLayouts<T>(s, members.name, n, n, {wanted, wantedOfPlanes<T>(n), n <= 6}, taskOf);
         };
-        const auto addShape = [&](auto members, double wanted, auto taskOf) {
-            const auto in = [=](auto layout) { return [=](int count) { return taskOf(layout, count); }; };
-            add(s.resident, members.name, residentObjects, wanted, in(LayoutOf<Layout::packed>{}));
-            if constexpr (n <= 6) add(s.streaming, members.name, streaming, 1, in(LayoutOf<Layout::packed>{}));
-            add(s.list, members.name, residentObjects, 1, in(LayoutOf<Layout::list>{}));
-            add(s.planes, members.name, residentObjects, wantedOfPlanes<T>(n), in(LayoutOf<Layout::planes>{}));
-        };
-        addShape(decompose, wantedDecomposition<T>(n),
-                 [=](auto layout, int count) { return decomposition<n, T, layout()>(decompose, count); });
-        addShape(solvePairs, wantedPairs,
-                 [=](auto layout, int count) { return solution<n, T, layout(), true>(solvePairs, count); });
-        addShape(solveVectors, wantedVectors,
-                 [=](auto layout, int count) { return solution<n, T, layout(), false>(solveVectors, count); });
+        add(decompose, wantedDecomposition<T>(n),
+            [=](auto layout, int count) { return decomposition<n, T, layout()>(decompose, count); });
+        add(solvePairs, wantedPairs,
+            [=](auto layout, int count) { return solution<n, T, layout(), true>(solvePairs, count); });
+        add(solveVectors, wantedVectors,
+            [=](auto layout, int count) { return solution<n, T, layout(), false>(solveVectors, count); });
     }());
 }
 
 // Each element type in its own file.
-void addAll32f(LuSections& s);
-void addAll64f(LuSections& s);
+void addAll32f(LayoutSections& s);
+void addAll64f(LayoutSections& s);
 
 }  // namespace bench::lu

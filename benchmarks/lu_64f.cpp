@@ -4,7 +4,7 @@
 
 namespace bench {
 
-void lu::addAll64f(LuSections& s)
+void lu::addAll64f(LayoutSections& s)
 {
     addOrders<double, 3, 4, 5, 6, 8, 12>(s, BENCH_MEMBERS(vormLUDecomp_ma_64f), BENCH_MEMBERS(vormLUBackSubst_mva_64f),
                                          BENCH_MEMBERS(vormLUBackSubst_mava_64f));

@@ -168,6 +168,13 @@ int run(const std::string& filter, const std::string& output)
     addDet(sections);
     addMath3d(sections);
     addQr(sections);
+    addMeasures(sections);
+    addCrossProducts(sections);
+    addMovement(sections);
+    addExtract(sections);
+    addEigenSym(sections);
+    addEigenValues(sections);
+    addEigenVectors(sections);
     addCalls(sections);
     addTeam(sections);
 

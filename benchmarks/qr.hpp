@@ -2,13 +2,13 @@
 // objects that are to be kept; Eigen's and LAPACK's own decompositions are made before their solving is measured.
 #pragma once
 
+#include <lapacke.h>
+
 #include <Eigen/QR>
 
-#include "lu.hpp"
+#include "layouts.hpp"
 
 namespace bench::qr {
-
-using lu::Array, lu::Layout, lu::LayoutOf;
 
 inline lapack_int geqrf(int m, int n, float* a, float* tau, float* work)
 {
@@ -77,23 +77,15 @@ Task decomposition(auto members, int count)
     Task task;
     const auto add = [&](const char* name, auto body) { task.contestants.push_back({name, body}); };
     const auto arguments = [=](const Array<T>& from, const Array<T>& to, auto as) {
-        return std::tuple_cat(lu::matrixArguments(from, as), std::tuple(work), lu::matrixArguments(to, as),
+        return std::tuple_cat(matrixArguments(from, as), std::tuple(work), matrixArguments(to, as),
                               std::tuple(columns, rows, count));
     };
-    const LayoutOf<layout> as;
-    if constexpr (layout == Layout::packed)
-        add("vorm", [=, all = arguments(a, qr, as)] { std::apply(members.standard, all); });
-    if constexpr (layout == Layout::list)
-        add("vorm", [=, all = arguments(a, qr, as)] { std::apply(members.list, all); });
-    if constexpr (layout == Layout::planes) {
-        add("vorm", [=, all = arguments(a, qr, as)] { std::apply(members.pointers, all); });
-        const Array<T> aPacked(rows, columns, count, Layout::packed, 1),
-            qrPacked(rows, columns, count, Layout::packed, 1);
-        const LayoutOf<Layout::packed> packed;
-        add("vorm, standard layout",
-            [=, all = arguments(aPacked, qrPacked, packed)] { std::apply(members.standard, all); });
+    if (addOurs<layout>(task, members, arguments(a, qr, LayoutOf<layout>{}), [&] {
+            const Array<T> aPacked(rows, columns, count, Layout::packed, 1),
+                qrPacked(rows, columns, count, Layout::packed, 1);
+            return arguments(aPacked, qrPacked, LayoutOf<Layout::packed>{});
+        }))
         return task;
-    }
     add("Eigen", [=] { eigenDecompositions<rows, columns>(a, qr, scales, count, layout); });
     add("LAPACK", [=] {
         for (int object = 0; object < count; ++object) {
@@ -114,9 +106,8 @@ Task solution(auto members, auto decompose, int count)
     const Array<T> packedA(rows, columns, matrices, Layout::packed, 1), qr(rows, columns, matrices, Layout::packed, 1);
     T* const buffer = Memory::region<T>(rows);
     const LayoutOf<Layout::packed> packed;
-    std::apply(decompose.standard,
-               std::tuple_cat(lu::matrixArguments(packedA, packed), std::tuple(buffer), lu::matrixArguments(qr, packed),
-                              std::tuple(columns, rows, matrices)));
+    std::apply(decompose.standard, std::tuple_cat(matrixArguments(packedA, packed), std::tuple(buffer),
+                                                  matrixArguments(qr, packed), std::tuple(columns, rows, matrices)));
     const auto theirs = std::make_shared<std::vector<T>>();  // by columns
     const auto decompositions = std::make_shared<std::vector<Decomposition<rows, columns, T>>>();
     for (int object = 0; object < matrices; ++object) {
@@ -131,25 +122,18 @@ Task solution(auto members, auto decompose, int count)
     Task task;
     const auto add = [&](const char* name, auto body) { task.contestants.push_back({name, body}); };
     const auto arguments = [=](const Array<T>& m, const Array<T>& from, const Array<T>& to, auto as) {
-        const auto rest = std::tuple_cat(std::tuple(buffer), lu::vectorArguments(from, as), lu::vectorArguments(to, as),
+        const auto rest = std::tuple_cat(std::tuple(buffer), vectorArguments(from, as), vectorArguments(to, as),
                                          std::tuple(columns, rows, count));
         if constexpr (ownMatrices)
-            return std::tuple_cat(lu::matrixArguments(m, as), rest);
+            return std::tuple_cat(matrixArguments(m, as), rest);
         else
-            return std::tuple_cat(lu::commonArguments(m, as), rest);
+            return std::tuple_cat(commonArguments(m, as), rest);
     };
-    const LayoutOf<layout> as;
-    if constexpr (layout == Layout::packed)
-        add("vorm", [=, all = arguments(a, b, x, as)] { std::apply(members.standard, all); });
-    if constexpr (layout == Layout::list)
-        add("vorm", [=, all = arguments(a, b, x, as)] { std::apply(members.list, all); });
-    if constexpr (layout == Layout::planes) {
-        add("vorm", [=, all = arguments(a, b, x, as)] { std::apply(members.pointers, all); });
-        const Array<T> bPacked(1, rows, count, Layout::packed, 1), xPacked(1, columns, count, Layout::packed, 1);
-        add("vorm, standard layout",
-            [=, all = arguments(qr, bPacked, xPacked, packed)] { std::apply(members.standard, all); });
+    if (addOurs<layout>(task, members, arguments(a, b, x, LayoutOf<layout>{}), [&] {
+            const Array<T> bPacked(1, rows, count, Layout::packed, 1), xPacked(1, columns, count, Layout::packed, 1);
+            return arguments(qr, bPacked, xPacked, LayoutOf<Layout::packed>{});
+        }))
         return task;
-    }
     add("Eigen", [=] { eigenSolutions<rows, columns>(decompositions->data(), ownMatrices, b, x, count, layout); });
     const Eigen::HouseholderQR<AnyMatrix<T>> common(Eigen::Map<const AnyMatrix<T>>(theirs->data(), rows, columns));
     const auto scales = std::make_shared<std::vector<T>>(std::size_t(matrices * columns));
@@ -179,41 +163,27 @@ Task solution(auto members, auto decompose, int count)
     return task;
 }
 
-struct Sections {
-    Section &resident, &streaming, &list, &planes;
-};
-
 template <int rows, int columns, class T>
-void addShape(Sections& s, auto decompose, auto solveVectors, auto solvePairs)
+void addShape(LayoutSections& s, auto decompose, auto solveVectors, auto solvePairs)
 {
     constexpr bool isFloat = sizeof(T) == 4, isSmall = rows == columns && rows <= 6;
     constexpr double wantedOfPlanes = !isSmall ? 1 : isFloat ? 1.3 : 1.1;
     constexpr bool isAimed = rows == 3 || rows == 4 || rows == 6 || columns == 4;
-    const int streaming = static_cast<int>(streamingBytes() / (rows * columns * sizeof(T)) / 16 * 16);
-    const std::string size = std::to_string(rows) + "x" + std::to_string(columns);
-    const auto addMember = [&](auto members, double wanted, auto taskOf) {
-        const auto add = [&](Section& section, int count, double atLeast, auto as) {
-            section.rows.push_back(
-                {std::string(members.name) + " " + size, count, [=] { return taskOf(as, count); }, atLeast});
-        };
-        add(s.resident, residentObjects, wanted, LayoutOf<Layout::packed>{});
-        if constexpr (isSmall) add(s.streaming, streaming, 1, LayoutOf<Layout::packed>{});
-        add(s.list, residentObjects, 1, LayoutOf<Layout::list>{});
-        add(s.planes, residentObjects, wantedOfPlanes, LayoutOf<Layout::planes>{});
+    const auto add = [&](auto members, double wanted, auto taskOf) {
+        addInLayouts<T>(s, members.name, rows, columns, {wanted, wantedOfPlanes, isSmall}, taskOf);
     };
-    addMember(decompose,
-              !isAimed  ? 1
-              : isFloat ? 2
-                        : 1.5,
-              [=](auto as, int count) { return decomposition<rows, columns, T, as()>(decompose, count); });
-    addMember(solvePairs, 3,
-              [=](auto as, int count) { return solution<rows, columns, T, as(), true>(solvePairs, decompose, count); });
-    addMember(solveVectors, 1, [=](auto as, int count) {
-        return solution<rows, columns, T, as(), false>(solveVectors, decompose, count);
-    });
+    add(decompose,
+        !isAimed  ? 1
+        : isFloat ? 2
+                  : 1.5,
+        [=](auto as, int count) { return decomposition<rows, columns, T, as()>(decompose, count); });
+    add(solvePairs, 3,
+        [=](auto as, int count) { return solution<rows, columns, T, as(), true>(solvePairs, decompose, count); });
+    add(solveVectors, 1,
+        [=](auto as, int count) { return solution<rows, columns, T, as(), false>(solveVectors, decompose, count); });
 }
 template <class T>
-void addShapes(Sections& s, auto... members)
+void addShapes(LayoutSections& s, auto... members)
 {
     addShape<3, 3, T>(s, members...);
     addShape<4, 4, T>(s, members...);
@@ -221,7 +191,7 @@ void addShapes(Sections& s, auto... members)
     addShape<6, 6, T>(s, members...);
 }
 template <class T>
-void addLargerShapes(Sections& s, auto... members)
+void addLargerShapes(LayoutSections& s, auto... members)
 {
     addShape<8, 8, T>(s, members...);
     addShape<12, 12, T>(s, members...);
@@ -229,9 +199,9 @@ void addLargerShapes(Sections& s, auto... members)
 }
 
 // Each element type and group of shapes in its own file.
-void addAll32f(Sections& s);
-void addLarger32f(Sections& s);
-void addAll64f(Sections& s);
-void addLarger64f(Sections& s);
+void addAll32f(LayoutSections& s);
+void addLarger32f(LayoutSections& s);
+void addAll64f(LayoutSections& s);
+void addLarger64f(LayoutSections& s);
 
 }  // namespace bench::qr

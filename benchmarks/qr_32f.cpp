@@ -4,7 +4,7 @@
 
 namespace bench {
 
-void qr::addAll32f(qr::Sections& s)
+void qr::addAll32f(LayoutSections& s)
 {
     addShapes<float>(s, BENCH_MEMBERS(vormQRDecomp_ma_32f), BENCH_MEMBERS(vormQRBackSubst_mva_32f),
                      BENCH_MEMBERS(vormQRBackSubst_mava_32f));
@@ -12,16 +12,7 @@ void qr::addAll32f(qr::Sections& s)
 
 void addQr(Sections& sections)
 {
-    const auto section = [&](std::string title, std::string about) -> Section& {
-        return sections.emplace_back(Section{std::move(title), std::move(about)});
-    };
-    const std::string resident = std::to_string(residentObjects) + " objects";
-    qr::Sections s{
-        section("QR, resident", resident + ", packed."),
-        section("QR, streaming", std::to_string(streamingBytes() >> 20) + " MiB of matrices, packed."),
-        section("QR in a list, resident", resident + ", packed but visited out of order."),
-        section("QR as structure of arrays, resident", resident + ", a pointer table and one plane per element."),
-    };
+    LayoutSections s = addLayoutSections(sections, "QR");
     qr::addAll32f(s);
     qr::addLarger32f(s);
     qr::addAll64f(s);

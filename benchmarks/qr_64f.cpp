@@ -4,7 +4,7 @@
 
 namespace bench {
 
-void qr::addAll64f(qr::Sections& s)
+void qr::addAll64f(LayoutSections& s)
 {
     addShapes<double>(s, BENCH_MEMBERS(vormQRDecomp_ma_64f), BENCH_MEMBERS(vormQRBackSubst_mva_64f),
                       BENCH_MEMBERS(vormQRBackSubst_mava_64f));

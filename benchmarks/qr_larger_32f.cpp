@@ -4,7 +4,7 @@
 
 namespace bench {
 
-void qr::addLarger32f(qr::Sections& s)
+void qr::addLarger32f(LayoutSections& s)
 {
     addLargerShapes<float>(s, BENCH_MEMBERS(vormQRDecomp_ma_32f), BENCH_MEMBERS(vormQRBackSubst_mva_32f),
                            BENCH_MEMBERS(vormQRBackSubst_mava_32f));

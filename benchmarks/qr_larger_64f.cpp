@@ -4,7 +4,7 @@
 
 namespace bench {
 
-void qr::addLarger64f(qr::Sections& s)
+void qr::addLarger64f(LayoutSections& s)
 {
     addLargerShapes<double>(s, BENCH_MEMBERS(vormQRDecomp_ma_64f), BENCH_MEMBERS(vormQRBackSubst_mva_64f),
                             BENCH_MEMBERS(vormQRBackSubst_mava_64f));

@@ -52,6 +52,13 @@ void addCholesky(Sections& sections);
 void addDet(Sections& sections);
 void addMath3d(Sections& sections);
 void addQr(Sections& sections);
+void addMeasures(Sections& sections);
+void addCrossProducts(Sections& sections);
+void addMovement(Sections& sections);
+void addExtract(Sections& sections);
+void addEigenSym(Sections& sections);
+void addEigenValues(Sections& sections);
+void addEigenVectors(Sections& sections);
 void addCalls(Sections& sections);
 void addTeam(Sections& sections);
 

@@ -38,6 +38,8 @@
 #include "vorm/factor.inc"
 #include "vorm/eigen.inc"
 #include "vorm/math3d.inc"
+#include "vorm/measures.inc"
+#include "vorm/movement.inc"
 #undef VORM_FUNCTION
 
     .section .note.GNU-stack, "", @progbits

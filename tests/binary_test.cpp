@@ -126,7 +126,7 @@ constexpr int total(int FamilyCount::*part)
 static_assert(total(&FamilyCount::functions) == 874 && total(&FamilyCount::drivers) == 527);
 
 // Until all stand, families may be without their general members.
-constexpr bool isComplete = false;
+constexpr bool isComplete = true;
 
 TEST(Binary, FunctionsAndDriversOfEveryFamily)
 {
@@ -174,9 +174,9 @@ TEST(Binary, SizeOfTheCode)
     GTEST_SKIP() << "not an optimised build without sanitizers";
 #endif
 #ifdef __clang__
-    constexpr long budget = 4150000;
+    constexpr long budget = 4950000;
 #else
-    constexpr long budget = 4350000;
+    constexpr long budget = 5200000;
 #endif
     std::istringstream lines(outputOf("size"));
     std::string heading;
@@ -188,15 +188,21 @@ TEST(Binary, SizeOfTheCode)
     std::printf("%ld bytes, %.0f %% of the budget\n", text, 100.0 * double(text) / budget);
 }
 
+// Families with a kernel for each layout, whatever the strides.
+bool hasOneKernel(const Function& f)
+{
+    return f.family == "EigenValues" || (f.family.starts_with("EigenValuesVectors") && !f.family.ends_with("Sym"));
+}
+
 TEST(Binary, LayersOfEveryFunction)
 {
     const auto names = symbols("nm --defined-only", "tTdD");
     for (const Function& f : catalogue()) {
         std::set<std::string> layers = {f.name + "_arraddr", "n8_" + f.name};
-        if (!f.isFixed()) {
+        if (!f.isFixed() && !f.shape.empty()) {
             layers.insert("n8_own" + f.name);
-            if (f.layout.empty()) layers.insert("n8_own" + f.name + "_S2");
-            if (f.layout == "L") layers.insert("n8_own" + f.name + "S2");
+            if (f.layout.empty() && !hasOneKernel(f)) layers.insert("n8_own" + f.name + "_S2");
+            if (f.layout == "L" && !hasOneKernel(f)) layers.insert("n8_own" + f.name + "S2");
         }
         for (const std::string& layer : layers) EXPECT_TRUE(names.contains(layer)) << layer;
         EXPECT_EQ(names.contains("n8_ownOMP_" + f.name), !f.isFixed() && f.isArray() && f.name != "vormSub_mat_32f_L")

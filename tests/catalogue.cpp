@@ -51,8 +51,12 @@ Parameter parameterFrom(const std::string& declaration)
         p.role = stars == 1 ? Role::pointer : Role::table;
         if (operand.size() > 1 && operand[0] == 'p' && (std::isupper(operand[1]) || operand[1] == 'p'))
             operand.erase(0, static_cast<std::size_t>(stars));
+        const bool isNumbered = operand.starts_with("dstVector") && std::isdigit(operand.back());
+        const std::string number = isNumbered ? operand.substr(operand.size() - 1) : "";
+        endsIn(number);
         if (stars > 1 && !endsIn("Pointers")) endsIn("List");
-        if (!endsIn("Vectors")) endsIn("Vector");  // dstVectors, dstVectorList: their strides are dst's
+        if (!endsIn("Vectors")) endsIn("Vector");  // dstVectors, dstVectorList1: their strides are dst's, dst1's
+        operand += number;
         operand[0] = static_cast<char>(std::tolower(operand[0]));
     } else if (declaration.starts_with("float") || declaration.starts_with("double")) {
         p.role = Role::value;
@@ -81,8 +85,8 @@ std::vector<Operand> operandsOfShape(const std::string& shape)
         else
             all.push_back({.kind = c});
     }
-    for (std::size_t k = all.size() - 1; k-- > 0;)
-        if (all[k].fixed == 0) all[k].fixed = all[k + 1].fixed;
+    for (std::size_t k = all.size(); k-- > 1;)
+        if (all[k - 1].fixed == 0) all[k - 1].fixed = all[k].fixed;
     return all;
 }
 
@@ -103,17 +107,18 @@ void findOperands(Function& f)
         } else if (p.operand.starts_with("src")) {
             while (next < letters.size() && letters[next].kind == 'c') ++next;
             o = next < letters.size() ? letters[next++] : letters.back();
-        } else if (p.operand == "dst") {
+        } else if (p.operand == "dst" || p.operand == "dst1" || p.operand == "dst2") {
             for (const Operand& letter : letters)
                 if (letter.kind != 'c') o = letter;
             if (o.kind == 't') o.kind = 'm';
             o.isArray = f.isArray();
         } else {
             o.isScratch = p.operand == "buffer";
-            o.isArray = letters[0].isArray && !o.isScratch;
+            o.isArray = !letters.empty() && letters[0].isArray && !o.isScratch;
         }
         o.name = p.operand, o.isInteger = p.isInteger, o.isWritten = p.role != Role::value && !p.isConst;
         if (p.role == Role::table) o.layout = f.layout;
+        if (p.role == Role::table && f.hasTwoLayouts()) o.layout = f.layout.substr(o.isWritten, 1);
         f.operands.push_back(o);
     }
     // Of the fixed forms the letters do not tell which operand is which.
@@ -131,6 +136,7 @@ Function functionFrom(std::string name, std::string text, std::function<VormStat
     std::getline(parts, f.shape, '_');
     std::getline(parts, f.type, '_');
     std::getline(parts, f.layout, '_');
+    if (f.type.empty()) std::swap(f.shape, f.type);  // of no operands: the name has no shape
     std::istringstream list(text.substr(1, text.size() - 2));
     for (std::string declaration; std::getline(list, declaration, ',');)
         f.parameters.push_back(parameterFrom(declaration.substr(declaration.find_first_not_of(' '))));
@@ -162,6 +168,8 @@ const std::vector<Function>& catalogue()
 #include "vorm/elementwise.inc"
 #include "vorm/factor.inc"
 #include "vorm/math3d.inc"
+#include "vorm/measures.inc"
+#include "vorm/movement.inc"
 #include "vorm/products.inc"
 #undef VORM_FUNCTION
     };

@@ -38,7 +38,8 @@ struct Operand {
 };
 
 struct Function {
-    std::string name, family, shape, type, layout;  // "vormAdd_vav_32f_L": "Add", "vav", "32f", "L"
+    // "vormAdd_vav_32f_L": "Add", "vav", "32f", "L". A copy has the layouts of source and destination: "SP".
+    std::string name, family, shape, type, layout;
     std::vector<Parameter> parameters;
     std::vector<Operand> operands;  // in the order of the parameters
     std::function<VormStatus(const std::vector<Argument>&)> call;
@@ -50,6 +51,20 @@ struct Function {
     }                                                                                 // of an element
     bool isFixed() const { return shape.find_first_of("234") != std::string::npos; }  // v3, m4 and the like
     bool isArray() const { return shape.find('a') != std::string::npos; }
+    // All arrays but a member of two families, and what computes nothing.
+    bool hasDriver() const
+    {
+        return isArray() && !isFixed() && !isMovement() && name != "vormSub_mat_32f_L" &&
+               name != "vormCrossProduct_vav_32f_P";
+    }
+    bool hasTwoLayouts() const { return layout.size() == 2; }
+    bool isInPointerLayout() const { return layout.find('P') != std::string::npos; }  // some operand of it
+    // Moves elements without looking at them: on the calling thread, and what shares memory is the caller's fault.
+    bool isMovement() const
+    {
+        return !isFixed() &&
+               (family == "Copy" || family == "Extract" || family == "LoadIdentity" || family == "Transpose");
+    }
     bool isProduct() const { return indexOf("src1Width") >= 0; }  // with sizes for each source
     int indexOf(std::string_view parameter) const;                // -1 where there is none
     std::size_t operandNamed(std::string_view operand) const;

@@ -6,7 +6,8 @@
 extern const Family fixedForms, vectorSums, vectorScaling, matrixSums, vectorProducts, matrixProducts, gaxpyProducts,
     luDecomposition, luSubstitution, choleskyDecomposition, choleskySubstitution, determinants, inverses, curves,
     transformMatrices, matrixOperations, pointTransforms, affineTransform3DH, qrDecomposition, qrSubstitution,
-    symmetricEigenproblems;
+    dotProducts, l2Norms, frobeniusNorms, traces, crossProducts, movement, symmetricEigenproblems, generalEigenvalues,
+    generalEigenvectors;
 
 const std::vector<const Family*>& families()
 {
@@ -30,6 +31,14 @@ const std::vector<const Family*>& families()
                                                    &affineTransform3DH,
                                                    &qrDecomposition,
                                                    &qrSubstitution,
-                                                   &symmetricEigenproblems};
+                                                   &dotProducts,
+                                                   &l2Norms,
+                                                   &frobeniusNorms,
+                                                   &traces,
+                                                   &crossProducts,
+                                                   &movement,
+                                                   &symmetricEigenproblems,
+                                                   &generalEigenvalues,
+                                                   &generalEigenvectors};
     return all;
 }

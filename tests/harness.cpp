@@ -165,16 +165,18 @@ Problem someProblem(const Function& f, const Sizes& sizes, Random& random)
 
 void letResultsOverlap(const Function& f, Problem& p, int way, Random& random)
 {
-    const auto dst =
-        std::find_if(f.operands.begin(), f.operands.end(), [](const Operand& o) { return o.name == "dst"; });
-    if (dst == f.operands.end()) return;
-    Lie& lie = p.lies[std::size_t(dst - f.operands.begin())];
-    p.inPlace = false, lie.planes = way == 0;
-    if (way == 0) lie.padObject = -pick(random, 0, p.count - 1);  // planes share memory
-    if (way == 1) lie.overlapping = pick(random, 1, 3);
-    if (way == 2) lie.overlapping = p.sizes.columns * lie.gap2 + lie.padRow;  // by whole rows
-    if (way == 3) lie.interleaved = 1, lie.among = pick(random, 2, 4);
-    if (way == 4) lie.isRepeated = true;  // objects that are no neighbours
+    p.inPlace = false;
+    for (std::size_t k = 0; k < f.operands.size(); ++k) {
+        const std::string& name = f.operands[k].name;
+        if (name != "dst" && name != "dst1" && name != "dst2") continue;
+        Lie& lie = p.lies[k];
+        lie.planes = way == 0;
+        if (way == 0) lie.padObject = -pick(random, 0, p.count - 1);  // planes share memory
+        if (way == 1) lie.overlapping = pick(random, 1, 3);
+        if (way == 2) lie.overlapping = p.sizes.columns * lie.gap2 + lie.padRow;  // by whole rows
+        if (way == 3) lie.interleaved = 1, lie.among = pick(random, 2, 4);
+        if (way == 4) lie.isRepeated = true;  // objects that are no neighbours
+    }
 }
 
 namespace {
@@ -242,7 +244,8 @@ std::string check(const Call& call)
         const Operand& o = f.operands[k];
         if (!o.isWritten) continue;
         isJudged = isJudged && (o.isScratch || !p.overlapsItself(int(f.bytesOf(o))));
-        for (int n = 0; n < p.count() && (o.isScratch || !o.isInteger); ++n) accept(call, k, n, !o.isScratch);
+        const bool isFree = o.isScratch || !(o.isInteger || family.movesBits);
+        for (int n = 0; n < p.count() && isFree; ++n) accept(call, k, n, !o.isScratch);
         for (std::size_t i = 0; i < done.size() && !family.isExact; ++i) accept(call, k, done[i], false);
     }
     for (std::size_t k = 0; k < call.operands.size(); ++k)

@@ -38,8 +38,9 @@ struct Family {
     // Does object n of a call in the shadows of its operands, or only tells its status where there is a judge.
     VormStatus (*model32f)(const Call&, int n) = nullptr;
     VormStatus (*model64f)(const Call&, int n) = nullptr;
-    bool isExact = true;  // the model makes the bits; otherwise those of the objects that it passes are free
-    bool goesOn = false;  // an object that fails keeps no other one from being done
+    bool isExact = true;     // the model makes the bits; otherwise those of the objects that it passes are free
+    bool movesBits = false;  // those of NaNs too; then no two elements of a destination may share memory
+    bool goesOn = false;     // an object that fails keeps no other one from being done
     // Says what is wrong with object n in the memory after a call, by residuals or otherwise. Not asked where
     // results share memory or the source is gone.
     std::string (*judge32f)(const Call&, int n) = nullptr;

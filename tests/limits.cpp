@@ -49,6 +49,8 @@ constexpr From reflections = above(2800, 2800, 1800, 1800);
 constexpr From matrixSums = above({2999, 1999, 1999, 1999, 1999}, {1999, 1999, 1999, 1999, 1999});
 constexpr From gaxpy = above({7000, 5000, 7000, 500, 4500}, {5000, 5000, 6000, 5000, 7000});
 
+constexpr From cross = above(36000, 36000, 27000, 45000);
+
 constexpr Row table[] = {
     {"Add Sub", "vav vva vac", [](const Work& w) { return (2 * w.count + 1) * w.n; }, sums},
     {"Add Sub", "vava", [](const Work& w) { return 3 * w.count * w.n; }, sums},
@@ -96,13 +98,24 @@ constexpr Row table[] = {
     {"Invert", "ma", [](const Work& w) { return w.n == 1 ? 0 : 2 * w.n * w.count; },
      above(3600, 2500, 2500, 2500, 2500)},
 
+    {"CrossProduct", "vav vva", [](const Work& w) { return 3 * (2 * w.count + 1); }, cross},
+    {"CrossProduct", "vava", [](const Work& w) { return 9 * w.count; }, cross},
+
     {"AffineTransform3DH", "mva", [](const Work& w) { return 6 * w.count; }, from(785)},
     {"QRDecomp", "ma", [](const Work& w) { return 2 * w.n * w.m * w.count; }, reflections},
     {"QRBackSubst", "mva", [](const Work& w) { return w.n * w.m + (w.n + w.m) * w.count; }, reflections},
     {"QRBackSubst", "mava", [](const Work& w) { return (w.n * (w.m + 1) + w.m) * w.count; }, reflections},
 
+    {"DotProduct", "vav", [](const Work& w) { return w.n * (w.count + 1); }, above(21600, 21600, 14400, 21600)},
+    {"DotProduct", "vava", [](const Work& w) { return 2 * w.n * w.count; }, above(21600, 21600, 14400, 21600)},
+    {"L2Norm", "va", [](const Work& w) { return w.n * w.count; }, above(14400, 14400, 14400, 21600)},
+    {"Trace", "ma", [](const Work& w) { return w.n * w.count; }, above(10800, 10800, 10800, 21600)},
+    {"FrobNorm", "ma", [](const Work& w) { return w.m * w.n * w.count; }, above(21600, 21600, 14400, 21600)},
     {"EigenValuesSym", "ma", [](const Work& w) { return (w.n * w.n + w.n) * w.count; }, from(1001)},
+    {"EigenValues", "ma", [](const Work& w) { return (w.n * w.n + w.n) * w.count; }, from(251)},
     {"EigenValuesVectorsSym", "ma", [](const Work& w) { return (2 * w.n * w.n + w.n) * w.count; }, from(701)},
+    {"EigenValuesVectors EigenValuesVectorsLeft EigenValuesVectorsRight", "ma",
+     [](const Work& w) { return w.n * (3 * w.n + 1) * w.count; }, from(501)},
 };
 
 bool hasWord(const std::string& text, const std::string& word)
@@ -126,7 +139,7 @@ const Row& rowOf(const Function& f)
 
 Limit limitOf(const Function& f, const Sizes& s, int count, bool isContiguous)
 {
-    if (f.isFixed()) return {0, INT32_MAX};
+    if (f.isFixed() || f.isMovement()) return {0, INT32_MAX};
     const Row& row = rowOf(f);
     const std::uint32_t measure =
         row.measure({std::uint32_t(s.rows), std::uint32_t(s.columns), std::uint32_t(s.terms), std::uint32_t(count)});
@@ -135,7 +148,6 @@ Limit limitOf(const Function& f, const Sizes& s, int count, bool isContiguous)
                      : f.layout == "L" ? (isContiguous ? by.list : by.listAnyStride)
                      : isContiguous    ? by.standard
                                        : by.standardAnyStride;
-    const bool drives = from > 0 && f.name != "vormSub_mat_32f_L";
+    const bool drives = from > 0 && f.hasDriver();
     return {static_cast<std::int32_t>(measure), drives ? from : INT32_MAX};
-    return {static_cast<std::int32_t>(measure), from ? from : INT32_MAX};
 }

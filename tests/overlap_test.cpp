@@ -111,6 +111,78 @@ TEST(Overlap, RowsOfMatrices)
     }
 }
 
+// All of an object of vormCrossProduct is read before its first element is written: its sources and its result lie
+// anywhere over each other, byte by byte, in a window of the object's own.
+template <class T>
+void checkCrossProduct(const Function& f, bool inPlanes, Random& random)
+{
+    constexpr int e = sizeof(T), window = 16 * e, count = 21;
+    const int step = inPlanes ? e : window;  // from object to object
+    std::vector<char> memory(9 * count * window);
+    for (std::size_t i = 0; i < memory.size(); i += e) {
+        const T value = T(uniform(random, -1, 1));
+        std::memcpy(&memory[i], &value, e);
+    }
+    std::vector<char> model = memory;
+    const auto element = [](std::vector<char>& in, std::ptrdiff_t at, const T* value) {
+        T found;
+        value ? std::memcpy(&in[std::size_t(at)], value, e) : std::memcpy(&found, &in[std::size_t(at)], e);
+        return value ? *value : found;
+    };
+
+    // Where the elements of object 0 begin; those of a common operand in a window that is nobody's.
+    std::ptrdiff_t at[3][3];
+    int stride2[3];
+    std::vector<int> planes = {0, 1, 2, 3, 4, 5};
+    for (int k = 0; k < 3; ++k) {
+        shuffle(planes, random);
+        stride2[k] = e * pick(random, 1, 4);
+        const int first = pick(random, 0, window - 2 * stride2[k] - e);
+        const std::ptrdiff_t common = f.operands[std::size_t(k)].isArray ? 0 : 8 * count * window;
+        for (int i = 0; i < 3; ++i)
+            at[k][i] = common + (inPlanes && !common ? planes[std::size_t(i)] * (count * e) : first + i * stride2[k]);
+    }
+    for (int n = 0; n < (f.isArray() ? count : 1); ++n) {
+        T a[2][3];
+        for (int k = 0; k < 2; ++k)
+            for (int i = 0; i < 3; ++i)
+                a[k][i] = element(model, at[k][i] + (f.operands[std::size_t(k)].isArray ? n * step : 0), nullptr);
+        for (int i = 0; i < 3; ++i) {
+            const int j = (i + 1) % 3, k = (i + 2) % 3;
+            const T result = a[0][j] * a[1][k] - a[0][k] * a[1][j];
+            element(model, at[2][i] + n * step, &result);
+        }
+    }
+
+    std::vector<char*> tables[3];
+    for (std::size_t k = 0; k < 3; ++k)
+        for (int i = 0; i < (f.layout == "L" ? count : 3); ++i)
+            tables[k].push_back(&memory[std::size_t(f.layout == "L" ? at[k][0] + i * step : at[k][i])]);
+    std::vector<Argument> arguments;
+    for (const Parameter& p : f.parameters) {
+        const std::size_t k = p.role == Role::count ? 0 : f.operandNamed(p.operand);
+        arguments.push_back(p.role == Role::pointer  ? Argument{reinterpret_cast<std::intptr_t>(tables[k][0])}
+                            : p.role == Role::table  ? Argument{reinterpret_cast<std::intptr_t>(tables[k].data())}
+                            : p.role == Role::shift  ? Argument{0}
+                            : p.role == Role::stride ? Argument{p.stride == 0 ? step : stride2[k]}
+                                                     : Argument{count});
+    }
+    ASSERT_EQ(f.call(arguments), StatusOk);
+    ASSERT_EQ(memory, model) << f.name << (inPlanes ? " in planes" : "");
+}
+
+TEST(Overlap, CrossProducts)
+{
+    Random random(20120924);
+    for (const Function& f : catalogue())
+        for (int repeat = 0; f.family == "CrossProduct" && !f.isFixed() && repeat < 200; ++repeat) {
+            const bool inPlanes = f.layout == "P" && f.isArray() && repeat % 2;
+            f.type == "32f" ? checkCrossProduct<float>(f, inPlanes, random)
+                            : checkCrossProduct<double>(f, inPlanes, random);
+            if (HasFatalFailure()) return;
+        }
+}
+
 TEST(Overlap, FixedProduct)
 {
     float source[48], a[16], b[16], wanted[16];

@@ -11,6 +11,7 @@
 extern "C" {
 
 std::atomic<int> standinThreads{1}, standinLater{0}, standinAsked{0};
+std::atomic<int> standinCache{1 << 20}, standinCacheAsked{0};
 char standinLoadCalls[64];
 
 int vorGetCpuFeatures(uint64_t* features, uint32_t* cpuidRegisters)
@@ -30,5 +31,13 @@ int32_t ownGetNumThreads(void)
 {
     const int before = standinAsked++;
     return before > 0 && standinLater != 0 ? standinLater : standinThreads;
+}
+
+int vorGetMaxCacheSizeB(int* sizeBytes)
+{
+    ++standinCacheAsked;
+    if (standinCache == 0) return VorCoreUnknown;
+    *sizeBytes = standinCache;
+    return VorCoreOk;
 }
 }

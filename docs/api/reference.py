@@ -4,8 +4,8 @@
     reference.py LISTS OUTPUT    writes the pages of the lists in the folder LISTS to the file OUTPUT
     reference.py --check LISTS   writes nothing, only says which functions are not documented
 
-A list is a heading, then comments and entries. A comment directly above entries is about these, up to a blank line; any
-other is about all entries up to the next such comment.
+A list is a heading, then comments and entries. A comment directly above entries is about these, up to a blank line. Any
+other is about the families whose names it begins with; where it begins with none, about the entries up to the next one.
 """
 
 import html
@@ -36,14 +36,11 @@ class Entry:
     parameters: str
     place: str  # file and line
     text: str  # the comment above it
-    section: str  # what is said of it and its neighbours
+    section: str  # the last comment before it that is not directly above entries
 
     @property
     def family(self):
         return self.name.split("_")[0]
-
-    def is_named_in(self, text):
-        return re.search(self.family + "(?![A-Za-z])", text)
 
     def kind(self):
         """Precision and layout in words."""
@@ -61,6 +58,16 @@ class FunctionList:
     name: str
     heading: str = ""
     entries: list = field(default_factory=list)
+    sections: list = field(default_factory=list)  # the comments that are not directly above entries
+
+    def about(self, family):
+        """The sections about a family."""
+        before = {entry.section for entry in self.entries if entry.family == family}
+        return [
+            text
+            for text in self.sections
+            if family in families_at_head(text) or (text in before and not families_at_head(text))
+        ]
 
     def rules(self):
         """What the heading says of all entries, without what it tells those who include the list."""
@@ -70,6 +77,11 @@ class FunctionList:
         return "" if self.name == "elementwise" else self.rules()
 
 
+def families_at_head(text):
+    names = re.match(r"(vorm\w+(, )?)*", text)[0]
+    return [name.split("_")[0] for name in names.split(", ")] if names else []
+
+
 def comment_text(lines):
     """The lines of a comment without its frame."""
     return re.sub(r"^/\*\s?| ?\*/$|^ \* ?", "", "\n".join(lines), flags=re.MULTILINE).strip()
@@ -77,24 +89,25 @@ def comment_text(lines):
 
 def read_list(path):
     found = FunctionList(path.stem)
-    comment, section, above = [], "", ""
+    comment, above = [], ""
     is_open = False  # inside a comment
     for number, line in enumerate(path.read_text().splitlines() + [""], 1):
         if is_open or line.startswith("/*"):
             if comment and not is_open:
-                section, comment = comment_text(comment), []
+                found.sections.append(comment_text(comment))
+                comment = []
             comment.append(line)
             is_open = not line.endswith("*/")
         elif not line:
             if comment and not found.heading:
                 found.heading = comment_text(comment)
             elif comment:
-                section = comment_text(comment)
+                found.sections.append(comment_text(comment))
             comment, above = [], ""
         elif entry := re.fullmatch(r"VORM_FUNCTION\((\w+),\s*\((.*)\)\)", line):
             if comment:
                 above, comment = comment_text(comment), []
-            found.entries.append(Entry(entry[1], entry[2], f"{path}:{number}", above, section))
+            found.entries.append(Entry(entry[1], entry[2], f"{path}:{number}", above, (found.sections or [""])[-1]))
         else:
             sys.exit(f"{path}:{number}: neither comment nor VORM_FUNCTION(name, (parameters))")
     return found
@@ -106,8 +119,8 @@ def complaints(lists):
         for entry in listed.entries:
             if not entry.text:
                 yield f"{entry.place}: no comment above {entry.name}"
-            elif listed.name != "math3d" and not entry.is_named_in(entry.section + entry.text):
-                yield f"{entry.place}: no text about {entry.family} above {entry.name}"
+            elif listed.name != "math3d" and "status" not in "".join([*listed.about(entry.family), entry.text]).lower():
+                yield f"{entry.place}: nothing about {entry.family} says what statuses {entry.name} has"
 
 
 def escaped(text):
@@ -170,23 +183,19 @@ def sentence(text, ends):
     return " ".join(re.split(rf"(?<=[^A-Z]{ends})\s|\n\n|:\n", text, maxsplit=1)[0].split())
 
 
-def brief(entries):
-    """The first sentence of each text about a family, or of the comment above it where there is none."""
-    told = []
-    for section in dict.fromkeys(entry.section for entry in entries):
-        named = re.match(r"vorm\w+(, \w+)*( and their array shapes)?:\s+", section)
-        if named and entries[0].is_named_in(section):
-            told.append(sentence(section[named.end() :], "[.]").rstrip("."))
-    told = told or [sentence(re.sub(r"^vorm\w+: ", "", entries[0].text), "[.:]").rstrip(".:")]
+def brief(sections, entry):
+    """The first sentence of each text about a family, or of the comment above its first member where there is none."""
+    heads = [re.match(r"vorm\w+(, \w+)*( and their array shapes)?:\s+", text) for text in sections]
+    told = [sentence(text[head.end() :], "[.]").rstrip(".") for text, head in zip(sections, heads) if head]
+    told = told or [sentence(re.sub(r"^vorm\w+: ", "", entry.text), "[.:]").rstrip(".:")]
     return f"&zwnj;{escaped('; '.join(told))}."  # not a capital at the head of a formula
 
 
 def page(family, members):
     lists = list({listed.name: listed for listed, _ in members}.values())
-    out = [f"/** @defgroup {family} {family}", f"@brief {brief([entry for _, entry in members])}", ""]
-    for section in dict.fromkeys(entry.section for _, entry in members):
-        if not section.startswith("vorm") or members[0][1].is_named_in(section):
-            out += [rendered(section), ""]
+    sections = [text for listed in lists for text in listed.about(family)]
+    out = [f"/** @defgroup {family} {family}", f"@brief {brief(sections, members[0][1])}", ""]
+    out += [rendered(text) + "\n" for text in sections]
     links = ['@ref rules "the general functions"'] if members[0][0].name != "math3d" else []
     links += [f'@ref {listed.name} "{SUBSYSTEMS[listed.name]}"' for listed in lists if listed.own_rules()]
     out += [f"What holds for all of them stands in the rules of {' and '.join(links)}.", ""]

@@ -16,6 +16,8 @@ extern "C" {
 #include "vorm/elementwise.inc"
 #include "vorm/factor.inc"
 #include "vorm/math3d.inc"
+#include "vorm/measures.inc"
+#include "vorm/movement.inc"
 #include "vorm/products.inc"
 #undef VORM_FUNCTION
 

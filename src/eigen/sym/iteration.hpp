@@ -14,7 +14,6 @@ constexpr int sweepLimit = 30;
 // small, so that of several a mask says who has got there.
 template <class Number>
 struct OpenBlock {
-    static_assert(!inLanes<Number>);
     int m;
     template <class Small, class Stops>
     VORM_INLINE void find(bool isOpen, int l, int n, const Small& small, const Stops& stops)
@@ -29,11 +28,11 @@ struct OpenBlock {
     }
     VORM_INLINE bool has(int i) const { return i < m; }
 };
-template <class T, int W>
-struct OpenBlock<Lanes<T, W>> {
-    LaneMask<T, W> open[bufferedOrder];
+template <class Number>
+requires(inLanes<Number>) struct OpenBlock<Number> {
+    MaskOf<Number> open[bufferedOrder];
     template <class Small, class Stops>
-    VORM_INLINE void find(LaneMask<T, W> isOpen, int l, int n, const Small& small, const Stops& stops)
+    VORM_INLINE void find(MaskOf<Number> isOpen, int l, int n, const Small& small, const Stops& stops)
     {
         open[l] = isOpen;
         for (int i = l + 1; i < n - 1; ++i) {
@@ -42,7 +41,7 @@ struct OpenBlock<Lanes<T, W>> {
             open[i] = without(open[i - 1], isSmall);
         }
     }
-    VORM_INLINE LaneMask<T, W> has(int i) const { return open[i]; }
+    VORM_INLINE MaskOf<Number> has(int i) const { return open[i]; }
 };
 
 template <class Number>
@@ -58,11 +57,11 @@ VORM_INLINE Outcome<Number> iterate(Number* d, Number* e, int n, MaskOf<Number> 
 {
     using T = Element<Number>;
     using Mask = MaskOf<Number>;
-    const Number eps = tolerance<T>, twiceEps = 2 * tolerance<T>;
+    const Number eps(tolerance<T>), twiceEps(2 * tolerance<T>);
     const auto D = [&](int i) VORM_INLINE_LAMBDA -> decltype(auto) { return at(d, i); };
     const auto E = [&](int i) VORM_INLINE_LAMBDA -> decltype(auto) { return at(e, i); };
     const auto small = [&](int i) VORM_INLINE_LAMBDA { return abs(Number(E(i))) <= twiceEps; };
-    Number product = T(1);
+    Number product(T(1));
     for (int l = 0; l < n - 1; ++l) {
         Mask isOpen = always<Number>();
         for (int sweeps = 0;; ++sweeps) {
@@ -81,7 +80,7 @@ VORM_INLINE Outcome<Number> iterate(Number* d, Number* e, int n, MaskOf<Number> 
             const Number root = sqrt(g * g + Number(T(1)));
             g = select(g > eps, g + root, g - root);
             const Number step = Number(E(l)) / g;
-            Number s = T(1), c = T(1), p = T(0), rho = T(0);
+            Number s(T(1)), c(T(1)), p(T(0)), rho(T(0));
             Mask running = without(isOpen, isOpen);
             for (int i = n - 2; i >= l; --i) {
                 const Mask begins = i == n - 2 ? block.has(i) : without(block.has(i), block.has(i + 1));

@@ -5,6 +5,7 @@
 #include "eigen/sym/solve.hpp"
 #include "frame/blocks.hpp"
 #include "frame/object_lanes.hpp"
+#include "frame/several_masks.hpp"
 
 namespace vorm::eigen::sym {
 
@@ -17,8 +18,8 @@ template <class Number>
 VORM_HIDDEN VormStatus solveValues(Number* w, Number* u, int n);
 template <class Number>
 VORM_HIDDEN VormStatus solveVectors(Number* w, Number* u, Number* v, int n, bool sortsFirst);
-template <class T, class Object>
-VORM_HIDDEN VormStatus solveInPlace(T* w, T* u, const Object& vectors, int n, bool sortsFirst);
+template <class T, class Object>  // large enough that time goes into its loops, wherever they are: kept small
+[[gnu::cold]] VORM_HIDDEN VormStatus solveInPlace(T* w, T* u, const Object& vectors, int n, bool sortsFirst);
 
 // Single objects. ------------------------------------------------------------------------------------------------
 
@@ -57,7 +58,7 @@ VORM_INLINE auto objectOf(const Dst& dst, int object)
     }
 }
 template <class T, class Dst>
-VORM_SHARED void storeVectors(const Dst& dst, int object, int n, const T* v)
+VORM_SHARED void storeEigenvectors(const Dst& dst, int object, int n, const T* v)
 {
     for (int r = 0; r < n; ++r)
         for (int c = 0; c < n; ++c) dst(object, r, c) = v[c * n + r];
@@ -68,7 +69,7 @@ VORM_SHARED VormStatus vectorsOfSmall(const Src src, const Dst dst, int object, 
     T w[stackOrder * stackOrder], v[stackOrder * stackOrder], u[stackOrder];
     copyObject(src, object, n, w);
     const VormStatus status = solveVectors(w, u, v, n, sortsFirst);
-    storeVectors(dst, object, n, v);
+    storeEigenvectors(dst, object, n, v);
     copyValues(w, n, dstValues);
     return status;
 }
@@ -81,7 +82,7 @@ VORM_SHARED VormStatus vectorsOfLarge(const Src src, const Dst dst, int object, 
     if (n <= vectorsOrder) {
         T v[vectorsOrder * vectorsOrder];
         status = solveVectors(buffer, dstValues, v, n, sortsFirst);
-        storeVectors(dst, object, n, v);
+        storeEigenvectors(dst, object, n, v);
     } else {
         status = solveInPlace(buffer, dstValues, objectOf<T>(dst, object), n, sortsFirst);
     }
@@ -91,17 +92,41 @@ VORM_SHARED VormStatus vectorsOfLarge(const Src src, const Dst dst, int object, 
 
 // As many objects as a number holds. -----------------------------------------------------------------------------
 
+template <class Number, class View>
+VORM_INLINE void loadObjects(const View& view, int first, int n, Number* w)
+{
+    using T = Element<Number>;
+    if constexpr (isAdjacent<View> || isInPlanes<View>)
+        eachRegister<Number>(n, first, [&](auto k, int object) VORM_INLINE_LAMBDA {
+            for (int r = 0; r < n; ++r) {
+                const auto element = [&](int c) VORM_INLINE_LAMBDA -> auto& { return registerOf(w[r * n + c], k); };
+                if constexpr (isAdjacent<View>) {
+                    const T* from[RegisterIn<Number>::width];
+                    rowsAt(
+                        view, object, [r](int) VORM_INLINE_LAMBDA { return r; }, from);
+                    loadRows(from, element, n);
+                } else {
+                    for (int c = 0; c < n; ++c) element(c) = RegisterIn<Number>::load(view.element(r, c) + object);
+                }
+            }
+        });
+    else
+        gatherMatrices(view, first, objectsIn<Number>, n, reinterpret_cast<T*>(w));
+}
+
 template <class Number>
 VORM_INLINE void storeValues(const Number* values, int first, int n, Element<Number>* dstValues)
 {
-    Element<Number>* to[Number::width];
-    for (int l = 0; l < Number::width; ++l) to[l] = dstValues + (first + l) * std::ptrdiff_t{n};
-    storeRows(
-        to, [&](int i) VORM_INLINE_LAMBDA { return values[i]; }, n);
+    eachRegister<Number>(n, first, [&](auto k, int object) VORM_INLINE_LAMBDA {
+        Element<Number>* to[RegisterIn<Number>::width];
+        for (int l = 0; l < RegisterIn<Number>::width; ++l) to[l] = dstValues + (object + l) * std::ptrdiff_t{n};
+        storeRows(
+            to, [&](int i) VORM_INLINE_LAMBDA { return registerOf(values[i], k); }, n);
+    });
 }
 
 template <class T, class View>
-[[gnu::noinline]] void scatterVectorsInRows(const View& view, int first, int objects, int n, const T* from)
+[[gnu::noinline]] void scatterEigenvectors(const View& view, int first, int objects, int n, const T* from)
 {
     for (int l = 0; l < objects; ++l)
         for (int r = 0; r < n; ++r)
@@ -109,29 +134,32 @@ template <class T, class View>
 }
 // Element (r, c) of each matrix is at v[c * n + r].
 template <class Number, class View>
-VORM_INLINE void storeVectorsInRows(const View& view, int first, int n, const Number* v)
+VORM_INLINE void storeEigenvectorsInLanes(const View& view, int first, int n, const Number* v)
 {
     using T = Element<Number>;
-    if constexpr (isAdjacent<View>)
-        for (int r = 0; r < n; ++r) {
-            T* to[Number::width];
-            rowsAt(
-                view, first, [r](int) VORM_INLINE_LAMBDA { return r; }, to);
-            storeRows(
-                to, [&](int c) VORM_INLINE_LAMBDA { return v[c * n + r]; }, n);
-        }
-    else if constexpr (isInPlanes<View>)
-        for (int r = 0; r < n; ++r)
-            for (int c = 0; c < n; ++c) v[c * n + r].store(view.element(r, c) + first);
+    if constexpr (isAdjacent<View> || isInPlanes<View>)
+        eachRegister<Number>(n, first, [&](auto k, int object) VORM_INLINE_LAMBDA {
+            for (int r = 0; r < n; ++r) {
+                const auto element = [&](int c) VORM_INLINE_LAMBDA { return registerOf(v[c * n + r], k); };
+                if constexpr (isAdjacent<View>) {
+                    T* to[RegisterIn<Number>::width];
+                    rowsAt(
+                        view, object, [r](int) VORM_INLINE_LAMBDA { return r; }, to);
+                    storeRows(to, element, n);
+                } else {
+                    for (int c = 0; c < n; ++c) element(c).store(view.element(r, c) + object);
+                }
+            }
+        });
     else
-        scatterVectorsInRows(view, first, Number::width, n, reinterpret_cast<const T*>(v));
+        scatterEigenvectors(view, first, objectsIn<Number>, n, reinterpret_cast<const T*>(v));
 }
 
 template <class Number, class Src>
 VORM_INLINE VormStatus valuesInLanes(const Src& src, int first, Element<Number>* dstValues, int n)
 {
     Number w[stackOrder * stackOrder], u[stackOrder];
-    loadMatrices(src, first, w, n);
+    loadObjects(src, first, n, w);
     const VormStatus status = solveValues(w, u, n);
     if (status == StatusOk) storeValues(w, first, n, dstValues);
     return status;
@@ -140,10 +168,10 @@ template <class Number, class Src, class Dst>
 VORM_INLINE VormStatus vectorsInLanes(const Src& src, const Dst& dst, int first, Element<Number>* dstValues, int n)
 {
     Number w[stackOrder * stackOrder], v[stackOrder * stackOrder], u[stackOrder];
-    loadMatrices(src, first, w, n);
+    loadObjects(src, first, n, w);
     const VormStatus status = solveVectors(w, u, v, n, false);
     if (status == StatusOk) {
-        storeVectorsInRows(dst, first, n, v);
+        storeEigenvectorsInLanes(dst, first, n, v);
         storeValues(w, first, n, dstValues);
     }
     return status;
@@ -191,6 +219,10 @@ VORM_INLINE VormStatus vectorsOfTwos(const Src& src, const Dst& dst, int first, 
 
 template <class T, class Src>
 using WidestFor = std::conditional_t<isAdjacent<Src> || isInPlanes<Src>, Wide<T>, Lanes<T>>;
+// Roots and divisions of a rotation wait for each other: four registers of objects share the time, and finished objects
+// waiting for the others cost less than that.
+template <class T, class Src>
+using SeveralFor = Several<WidestFor<T, Src>, 4>;
 
 template <class T, class Src>
 VORM_SHARED VormStatus valuesOfArrayOfTwos(const Src src, T* dstValues, int count)
@@ -206,7 +238,7 @@ VORM_SHARED VormStatus valuesOfArray(const Src src, T* buffer, T* dstValues, int
         for (int object = 0; object < count; ++object) entry(dstValues, object) = T(src(object, 0, 0));
         return StatusOk;
     }
-    return inBlocks<WidestFor<T, Src>>(
+    return inBlocks<SeveralFor<T, Src>>(
         count, [&]<class>(int) VORM_INLINE_LAMBDA { return n <= stackOrder; },
         [&]<class Number>(int first) VORM_INLINE_LAMBDA {
             if constexpr (inLanes<Number>)
@@ -240,7 +272,7 @@ VORM_SHARED VormStatus vectorsOfArray(const Src src, const Dst dst, T* buffer, T
         }
         return StatusOk;
     }
-    return inBlocks<WidestFor<T, Src>>(
+    return inBlocks<SeveralFor<T, Src>>(
         count,
         [&]<class Number>(int first)
             VORM_INLINE_LAMBDA { return n <= stackOrder && registersApart<Number>(dst, first, n, n); },

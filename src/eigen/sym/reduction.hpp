@@ -59,7 +59,7 @@ template <class Number, class Vectors>
 VORM_INLINE void reduce(Number* w, Number* u, int n, Vectors& vectors)
 {
     using T = Element<Number>;
-    const Number eps = tolerance<T>;
+    const Number eps(tolerance<T>);
     for (int k = 0; k + 2 < n; ++k) {
         const auto below = [&](int i) VORM_INLINE_LAMBDA { return Number(at(w, i * std::ptrdiff_t{n} + k)); };
         const Number sum = pairedSum<Number>(k + 1, n, [&](int i) VORM_INLINE_LAMBDA { return below(i) * below(i); });

@@ -25,18 +25,23 @@ VormStatus solveInPlace(T* w, T* u, const Object& object, int n, bool sortsFirst
     return solve(w, u, n, vectors, sortsFirst);
 }
 
+template <class L>
+using Four = Several<L, 4>;
 #define SYMMETRIC_OF(Number)                                      \
     template VormStatus solveValues(Number* w, Number* u, int n); \
     template VormStatus solveVectors(Number* w, Number* u, Number* v, int n, bool sortsFirst);
 #define SYMMETRIC_IN_PLACE(T, Elements) \
     template VormStatus solveInPlace(T* w, T* u, const Elements<T>::Object&, int n, bool sortsFirst);
-#define SYMMETRIC(T)       \
-    SYMMETRIC_OF(T)        \
-    SYMMETRIC_OF(Lanes<T>) \
-    SYMMETRIC_WIDE(T)      \
+#define SYMMETRIC(T)             \
+    SYMMETRIC_OF(T)              \
+    SYMMETRIC_OF(Lanes<T>)       \
+    SYMMETRIC_OF(Four<Lanes<T>>) \
+    SYMMETRIC_WIDE(T)            \
     SYMMETRIC_IN_PLACE(T, StridedElements) SYMMETRIC_IN_PLACE(T, TabledElements)
 #ifdef VORM_WIDER_REGISTERS
-#define SYMMETRIC_WIDE(T) SYMMETRIC_OF(Wide<T>)
+#define SYMMETRIC_WIDE(T) \
+    SYMMETRIC_OF(Wide<T>) \
+    SYMMETRIC_OF(Four<Wide<T>>)
 #else
 #define SYMMETRIC_WIDE(T)
 #endif

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "factor/cholesky/cholesky_triangle.hpp"
+#include "factor/right_sides.hpp"
 #include "frame/blocks.hpp"
 #include "frame/pin.hpp"
 
@@ -77,18 +78,12 @@ VORM_SHARED void choleskySolveVectorsIn(const M matrix, const B b, const X dst, 
     });
 }
 
-// Wider registers for so many vectors only that it pays to set them up.
-template <class T>
-constexpr int manyRightSides = 4 * Wide<T>::width;
 template <class T, class M, class B, class X, int n>
 VORM_INLINE void choleskySolveVectors(const M& matrix, const B& b, const X& dst, std::integral_constant<int, n>,
                                       int count)
 {
-    // Three floats fill wide registers too slowly.
-    using Widest = UpTo<T, isAdjacent<B> && n == 3 && sizeof(T) == sizeof(float) ? 1 : 4>;
-    if constexpr (Widest::parts > 1 && (isAdjacent<B> || isInPlanes<B>))
-        if (count >= manyRightSides<T>) return choleskySolveVectorsIn<n, Widest>(matrix, b, dst, count);
-    choleskySolveVectorsIn<n, Lanes<T>>(matrix, b, dst, count);
+    inRegistersThatPay<WidestOfVectors<n, T, B>>(
+        count, [&]<class L>() VORM_INLINE_LAMBDA { choleskySolveVectorsIn<n, L>(matrix, b, dst, count); });
 }
 
 }  // namespace vorm::factor

@@ -93,9 +93,8 @@ VORM_SHARED void choleskySolveVectorsIn(const M& matrix, const B& b, const X& ds
 template <class T, class M, class B, class X>
 VORM_INLINE void choleskySolveVectors(const M& matrix, const B& b, const X& dst, int n, int count)
 {
-    if constexpr (Wide<T>::parts > 1)
-        if (count >= manyRightSides<T>) return choleskySolveVectorsIn<Wide<T>>(matrix, b, dst, n, count);
-    choleskySolveVectorsIn<Lanes<T>>(matrix, b, dst, n, count);
+    inRegistersThatPay<Wide<T>>(
+        count, [&]<class L>() VORM_INLINE_LAMBDA { choleskySolveVectorsIn<L>(matrix, b, dst, n, count); });
 }
 
 }  // namespace vorm::factor

@@ -2,6 +2,7 @@
 // objects or two.
 #pragma once
 
+#include "factor/right_sides.hpp"
 #include "frame/blocks.hpp"
 #include "frame/object_rows.hpp"
 #include "frame/pin.hpp"
@@ -226,17 +227,11 @@ VORM_SHARED void luSolveVectorsIn(const M matrix, const B b, const X dst, const 
     });
 }
 
-// Wider registers for so many vectors only that it pays to set them up.
-template <class T>
-constexpr int manyVectors = 4 * Wide<T>::width;
 template <int n, class T, class M, class B, class X>
 VORM_INLINE void luSolveVectors(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int count)
 {
-    // Three floats fill wide registers too slowly.
-    using Widest = UpTo<T, isAdjacent<B> && n == 3 && sizeof(T) == sizeof(float) ? 1 : 4>;
-    if constexpr (Widest::parts > 1 && (isAdjacent<B> || isInPlanes<B>))
-        if (count >= manyVectors<T>) return luSolveVectorsIn<n, Widest>(matrix, b, dst, pivotIndex, count);
-    luSolveVectorsIn<n, Lanes<T>>(matrix, b, dst, pivotIndex, count);
+    inRegistersThatPay<WidestOfVectors<n, T, B>>(
+        count, [&]<class L>() VORM_INLINE_LAMBDA { luSolveVectorsIn<n, L>(matrix, b, dst, pivotIndex, count); });
 }
 
 }  // namespace vorm::factor

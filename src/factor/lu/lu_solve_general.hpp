@@ -112,9 +112,8 @@ VORM_SHARED void luSolveVectorsIn(const M& matrix, const B& b, const X& dst, con
 template <class T, class M, class B, class X>
 VORM_INLINE void luSolveVectors(const M& matrix, const B& b, const X& dst, const int* pivotIndex, int n, int count)
 {
-    if constexpr (Wide<T>::parts > 1)
-        if (count >= manyVectors<T>) return luSolveVectorsIn<Wide<T>>(matrix, b, dst, pivotIndex, n, count);
-    luSolveVectorsIn<Lanes<T>>(matrix, b, dst, pivotIndex, n, count);
+    inRegistersThatPay<Wide<T>>(
+        count, [&]<class L>() VORM_INLINE_LAMBDA { luSolveVectorsIn<L>(matrix, b, dst, pivotIndex, n, count); });
 }
 
 }  // namespace vorm::factor

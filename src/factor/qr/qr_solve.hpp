@@ -3,6 +3,7 @@
 #pragma once
 
 #include "factor/qr/qr_object.hpp"
+#include "factor/right_sides.hpp"
 #include "factor/sums.hpp"
 #include "frame/blocks.hpp"
 #include "frame/object_rows.hpp"
@@ -239,22 +240,18 @@ VORM_SHARED void qrSolveVectorsIn(const M& matrix, const B& b, const X& dst, T* 
     });
 }
 
-// Wider registers for so many vectors only that it pays to set them up.
-template <class T>
-constexpr int manyQrVectors = 4 * Wide<T>::width;
 template <int n, class T, class M, class B, class X>
 VORM_INLINE void qrSolveVectors(const M& matrix, const B& b, const X& dst, int count)
 {
-    if constexpr (Wide<T>::parts > 1)
-        if (count >= manyQrVectors<T>) return qrSolveVectorsIn<n, Wide<T>>(matrix, b, dst, count);
-    qrSolveVectorsIn<n, Lanes<T>>(matrix, b, dst, count);
+    inRegistersThatPay<Wide<T>>(count,
+                                [&]<class L>() VORM_INLINE_LAMBDA { qrSolveVectorsIn<n, L>(matrix, b, dst, count); });
 }
 template <class T, class M, class B, class X>
 VORM_INLINE void qrSolveVectors(const M& matrix, const B& b, const X& dst, T* buffer, int width, int height, int count)
 {
-    if constexpr (Wide<T>::parts > 1)
-        if (count >= manyQrVectors<T>) return qrSolveVectorsIn<Wide<T>>(matrix, b, dst, buffer, width, height, count);
-    qrSolveVectorsIn<Lanes<T>>(matrix, b, dst, buffer, width, height, count);
+    inRegistersThatPay<Wide<T>>(count, [&]<class L>() VORM_INLINE_LAMBDA {
+        qrSolveVectorsIn<L>(matrix, b, dst, buffer, width, height, count);
+    });
 }
 
 }  // namespace vorm::factor

@@ -4,6 +4,7 @@
 // (x, y, ...) in place, in the same order of operations however wide the register is. It returns a status.
 #pragma once
 
+#include "frame/packed_lanes.hpp"
 #include "math3d/matrices/matrix4.hpp"
 #include "math3d/vectors.hpp"
 
@@ -26,40 +27,6 @@ struct Elements {
 };
 
 // A register of points, each register of v one coordinate of all of them. -------------------------------------------
-
-// Packed.
-template <int Len, class L>
-VORM_INLINE void loadPacked(const float* p, L (&v)[Len])
-{
-    const auto from = [p](int first) VORM_INLINE_LAMBDA {
-        return joined<L>([&](int q) VORM_INLINE_LAMBDA { return Lanes<float>::load(p + 4 * Len * q + first); });
-    };
-    if constexpr (Len == 2) {
-        const L a = from(0), b = from(4);  // x0 y0 x1 y1, x2 y2 x3 y3
-        v[0] = shuffle<0, 2, 0, 2>(a, b);
-        v[1] = shuffle<1, 3, 1, 3>(a, b);
-    } else {  // x0 y0 z0 x1, x2 y2 z2 x3, and so on: more loads than registers, but a shuffle for each only
-        for (int i = 0; i < 3; ++i) v[i] = shuffle<0, 3, 0, 3>(from(i), from(i + 6));
-    }
-}
-template <int Len, class L>
-VORM_INLINE void storePacked(float* p, const L (&v)[Len])
-{
-    L out[Len];
-    if constexpr (Len == 2) {
-        out[0] = interleaveLow(v[0], v[1]);
-        out[1] = interleaveHigh(v[0], v[1]);
-    } else {
-        const L xy = shuffle<0, 2, 0, 2>(v[0], v[1]);  // x0 x2 y0 y2
-        const L yz = shuffle<1, 3, 1, 3>(v[1], v[2]);  // y1 y3 z1 z3
-        const L zx = shuffle<0, 2, 1, 3>(v[2], v[0]);  // z0 z2 x1 x3
-        out[0] = shuffle<0, 2, 0, 2>(xy, zx);
-        out[1] = shuffle<0, 2, 1, 3>(yz, xy);
-        out[2] = shuffle<1, 3, 1, 3>(zx, yz);
-    }
-    for (int i = 0; i < Len; ++i)
-        eachPart(out[i], [&](int q, Lanes<float> part) VORM_INLINE_LAMBDA { part.store(p + 4 * (q * Len + i)); });
-}
 
 // Anywhere: point k of the register is point number(k) of the array.
 template <int Len, class L, class View, class Number>

@@ -1,0 +1,18 @@
+// Values and vectors of general matrices of the orders 6 and 10 in double precision.
+
+#include "eigen_vectors.hpp"
+
+namespace bench {
+
+void eigenvectors::addLarger64f(eigenvectors::Sections& s)
+{
+    const auto add = [&](auto order) {
+        addOrder<order(), double>(s, BENCH_MEMBERS(vormEigenValuesVectorsRight_ma_64f),
+                                  BENCH_MEMBERS(vormEigenValuesVectorsLeft_ma_64f),
+                                  BENCH_MEMBERS(vormEigenValuesVectors_ma_64f));
+    };
+    add(std::integral_constant<int, 6>{});
+    add(std::integral_constant<int, 10>{});
+}
+
+}  // namespace bench

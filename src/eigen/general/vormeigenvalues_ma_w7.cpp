@@ -1,0 +1,22 @@
+// vormEigenValues_ma: the kernels, one for each layout, double precision.
+
+#include "eigen/general/eigen_values_calls.hpp"
+
+using namespace vorm;
+using namespace vorm::eigen;
+
+extern "C" {
+
+VormStatus n8_ownvormEigenValues_ma_64f(EIGEN_VALUES_MA_PARAMS(double))
+{
+    return eigenValuesKernel(eigenValuesMa(EIGEN_VALUES_MA_ARGS));
+}
+VormStatus n8_ownvormEigenValues_ma_64f_L(EIGEN_VALUES_MA_PARAMS_L(double))
+{
+    return eigenValuesKernel(eigenValuesMaL(EIGEN_VALUES_MA_ARGS_L));
+}
+VormStatus n8_ownvormEigenValues_ma_64f_P(EIGEN_VALUES_MA_PARAMS_P(double))
+{
+    return eigenValuesKernel(eigenValuesMaP(EIGEN_VALUES_MA_ARGS_P));
+}
+}

@@ -1,0 +1,35 @@
+// vormEigenValuesVectorsRight_ma: team-parallel drivers.
+
+#include "eigen/general/eigen_vectors.hpp"
+#include "frame/driver.hpp"
+
+using namespace vorm;
+using namespace vorm::eigen;
+
+extern "C" {
+
+VormStatus n8_ownOMP_vormEigenValuesVectorsRight_ma_32f(EIGEN_SIDE_MA_PARAMS(float))
+{
+    return team<Kernels::canFail>(eigenSideMa(EIGEN_SIDE_MA_ARGS), n8_ownvormEigenValuesVectorsRight_ma_32f);
+}
+VormStatus n8_ownOMP_vormEigenValuesVectorsRight_ma_64f(EIGEN_SIDE_MA_PARAMS(double))
+{
+    return team<Kernels::canFail>(eigenSideMa(EIGEN_SIDE_MA_ARGS), n8_ownvormEigenValuesVectorsRight_ma_64f);
+}
+VormStatus n8_ownOMP_vormEigenValuesVectorsRight_ma_32f_L(EIGEN_SIDE_MA_PARAMS_L(float))
+{
+    return team<Kernels::canFail>(eigenSideMaL(EIGEN_SIDE_MA_ARGS_L), n8_ownvormEigenValuesVectorsRight_ma_32f_L);
+}
+VormStatus n8_ownOMP_vormEigenValuesVectorsRight_ma_64f_L(EIGEN_SIDE_MA_PARAMS_L(double))
+{
+    return team<Kernels::canFail>(eigenSideMaL(EIGEN_SIDE_MA_ARGS_L), n8_ownvormEigenValuesVectorsRight_ma_64f_L);
+}
+VormStatus n8_ownOMP_vormEigenValuesVectorsRight_ma_32f_P(EIGEN_SIDE_MA_PARAMS_P(float))
+{
+    return team<Kernels::canFail>(eigenSideMaP(EIGEN_SIDE_MA_ARGS_P), n8_ownvormEigenValuesVectorsRight_ma_32f_P);
+}
+VormStatus n8_ownOMP_vormEigenValuesVectorsRight_ma_64f_P(EIGEN_SIDE_MA_PARAMS_P(double))
+{
+    return team<Kernels::canFail>(eigenSideMaP(EIGEN_SIDE_MA_ARGS_P), n8_ownvormEigenValuesVectorsRight_ma_64f_P);
+}
+}

@@ -1,0 +1,16 @@
+// vormCrossProduct_vva: the kernels for contiguous elements, single precision.
+
+#include "measures/cross.hpp"
+#include "measures/cross_product.hpp"
+
+using namespace vorm;
+using namespace vorm::measures;
+
+extern "C" {
+
+VormStatus n8_ownvormCrossProduct_vva_32f(CROSS_VVA_PARAMS(float)) { return contiguousCross(crossVva(CROSS_VVA_ARGS)); }
+VormStatus n8_ownvormCrossProduct_vva_32f_L(CROSS_VVA_PARAMS_L(float))
+{
+    return contiguousCross(crossVvaL(CROSS_VVA_ARGS_L));
+}
+}

@@ -1,0 +1,16 @@
+// vormFrobNorm_ma: the kernels for contiguous elements, single precision.
+
+#include "measures/calls.hpp"
+#include "measures/norms/frobnorm.hpp"
+
+using namespace vorm;
+using namespace vorm::measures;
+
+extern "C" {
+
+VormStatus n8_ownvormFrobNorm_ma_32f(FROB_MA_PARAMS(float)) { return contiguousKernel<Norm>(frobNormMa(FROB_MA_ARGS)); }
+VormStatus n8_ownvormFrobNorm_ma_32f_L(FROB_MA_PARAMS_L(float))
+{
+    return contiguousKernel<Norm>(frobNormMaL(FROB_MA_ARGS_L));
+}
+}

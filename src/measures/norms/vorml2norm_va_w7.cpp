@@ -1,0 +1,13 @@
+// vormL2Norm_va: the kernels for contiguous elements, double precision.
+
+#include "measures/calls.hpp"
+#include "measures/norms/l2norm.hpp"
+
+using namespace vorm;
+using namespace vorm::measures;
+
+extern "C" {
+
+VormStatus n8_ownvormL2Norm_va_64f(L2_VA_PARAMS(double)) { return contiguousKernel<Norm>(l2NormVa(L2_VA_ARGS)); }
+VormStatus n8_ownvormL2Norm_va_64f_L(L2_VA_PARAMS_L(double)) { return contiguousKernel<Norm>(l2NormVaL(L2_VA_ARGS_L)); }
+}

@@ -1,0 +1,14 @@
+// vormExtract_m: the kernel for contiguous elements, double precision.
+
+#include "movement/shapes/extract_m.hpp"
+
+using namespace vorm;
+using namespace vorm::movement;
+
+extern "C" {
+
+VormStatus n8_ownvormExtract_m_64f(EXTRACT_M_PARAMS(double))
+{
+    return extractKernel(withAdjacent(extractM<AsStored>(EXTRACT_M_ARGS)));
+}
+}

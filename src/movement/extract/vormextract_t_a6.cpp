@@ -1,0 +1,14 @@
+// vormExtract_t: the kernel for contiguous elements, single precision.
+
+#include "movement/shapes/extract_m.hpp"
+
+using namespace vorm;
+using namespace vorm::movement;
+
+extern "C" {
+
+VormStatus n8_ownvormExtract_t_32f(EXTRACT_M_PARAMS(float))
+{
+    return extractKernel(withAdjacent(extractM<AsTransposed>(EXTRACT_M_ARGS)));
+}
+}

@@ -1,0 +1,63 @@
+// vormExtract_ta: public layers, and the kernels for elements anywhere.
+
+#include "movement/shapes/extract_ma.hpp"
+
+using namespace vorm;
+using namespace vorm::movement;
+
+extern "C" {
+
+VormStatus n8_vormExtract_ta_32f(EXTRACT_MA_PARAMS(float))
+{
+    return checked(extractMa<AsTransposed>(EXTRACT_MA_ARGS), n8_ownvormExtract_ta_32f, n8_ownvormExtract_ta_32f_S2,
+                   EXTRACT_MA_ARGS);
+}
+VormStatus n8_vormExtract_ta_64f(EXTRACT_MA_PARAMS(double))
+{
+    return checked(extractMa<AsTransposed>(EXTRACT_MA_ARGS), n8_ownvormExtract_ta_64f, n8_ownvormExtract_ta_64f_S2,
+                   EXTRACT_MA_ARGS);
+}
+VormStatus n8_vormExtract_ta_32f_L(EXTRACT_MA_PARAMS_L(float))
+{
+    return checked(extractMaL<AsTransposed>(EXTRACT_MA_ARGS_L), n8_ownvormExtract_ta_32f_L,
+                   n8_ownvormExtract_ta_32f_LS2, EXTRACT_MA_ARGS_L);
+}
+VormStatus n8_vormExtract_ta_64f_L(EXTRACT_MA_PARAMS_L(double))
+{
+    return checked(extractMaL<AsTransposed>(EXTRACT_MA_ARGS_L), n8_ownvormExtract_ta_64f_L,
+                   n8_ownvormExtract_ta_64f_LS2, EXTRACT_MA_ARGS_L);
+}
+VormStatus n8_vormExtract_ta_32f_P(EXTRACT_MA_PARAMS_P(float))
+{
+    return checked(extractMaP<AsTransposed>(EXTRACT_MA_ARGS_P), n8_ownvormExtract_ta_32f_P, EXTRACT_MA_ARGS_P);
+}
+VormStatus n8_vormExtract_ta_64f_P(EXTRACT_MA_PARAMS_P(double))
+{
+    return checked(extractMaP<AsTransposed>(EXTRACT_MA_ARGS_P), n8_ownvormExtract_ta_64f_P, EXTRACT_MA_ARGS_P);
+}
+
+VormStatus n8_ownvormExtract_ta_32f_S2(EXTRACT_MA_PARAMS(float))
+{
+    return extractKernel(extractMa<AsTransposed>(EXTRACT_MA_ARGS));
+}
+VormStatus n8_ownvormExtract_ta_64f_S2(EXTRACT_MA_PARAMS(double))
+{
+    return extractKernel(extractMa<AsTransposed>(EXTRACT_MA_ARGS));
+}
+VormStatus n8_ownvormExtract_ta_32f_LS2(EXTRACT_MA_PARAMS_L(float))
+{
+    return extractKernel(extractMaL<AsTransposed>(EXTRACT_MA_ARGS_L));
+}
+VormStatus n8_ownvormExtract_ta_64f_LS2(EXTRACT_MA_PARAMS_L(double))
+{
+    return extractKernel(extractMaL<AsTransposed>(EXTRACT_MA_ARGS_L));
+}
+VormStatus n8_ownvormExtract_ta_32f_P(EXTRACT_MA_PARAMS_P(float))
+{
+    return extractKernel(extractMaP<AsTransposed>(EXTRACT_MA_ARGS_P));
+}
+VormStatus n8_ownvormExtract_ta_64f_P(EXTRACT_MA_PARAMS_P(double))
+{
+    return extractKernel(extractMaP<AsTransposed>(EXTRACT_MA_ARGS_P));
+}
+}

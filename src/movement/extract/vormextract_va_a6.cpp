@@ -1,0 +1,18 @@
+// vormExtract_va: the kernels for contiguous elements, single precision.
+
+#include "movement/shapes/extract_va.hpp"
+
+using namespace vorm;
+using namespace vorm::movement;
+
+extern "C" {
+
+VormStatus n8_ownvormExtract_va_32f(EXTRACT_VA_PARAMS(float))
+{
+    return extractKernel(withAdjacent(extractVa(EXTRACT_VA_ARGS)));
+}
+VormStatus n8_ownvormExtract_va_32f_L(EXTRACT_VA_PARAMS_L(float))
+{
+    return extractKernel(withAdjacent(extractVaL(EXTRACT_VA_ARGS_L)));
+}
+}

@@ -1,0 +1,14 @@
+// vormTranspose_m: the kernel for contiguous elements, single precision.
+
+#include "movement/shapes/transpose_m.hpp"
+
+using namespace vorm;
+using namespace vorm::movement;
+
+extern "C" {
+
+VormStatus n8_ownvormTranspose_m_32f(TRANSPOSE_M_PARAMS(float))
+{
+    return transposeKernel(withAdjacent(transposeM(TRANSPOSE_M_ARGS)));
+}
+}

@@ -1,0 +1,18 @@
+// vormTranspose_ma: the kernels for contiguous elements, single precision.
+
+#include "movement/shapes/transpose_ma.hpp"
+
+using namespace vorm;
+using namespace vorm::movement;
+
+extern "C" {
+
+VormStatus n8_ownvormTranspose_ma_32f(TRANSPOSE_MA_PARAMS(float))
+{
+    return transposeKernel(withAdjacent(transposeMa(TRANSPOSE_MA_ARGS)));
+}
+VormStatus n8_ownvormTranspose_ma_32f_L(TRANSPOSE_MA_PARAMS_L(float))
+{
+    return transposeKernel(withAdjacent(transposeMaL(TRANSPOSE_MA_ARGS_L)));
+}
+}

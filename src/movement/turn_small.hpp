@@ -1,0 +1,66 @@
+// Small square matrices turned one after the other: orders 2 to 6, where each row of the source and each row of the
+// result lies side by side.
+#pragma once
+
+#include "elementwise/matrix_tiles.hpp"
+#include "movement/lines.hpp"
+
+namespace vorm::movement {
+
+// One object, tile by tile; numbers one by one where a tile would be a row or a column, and all nine of order 3.
+template <int order, class T>
+VORM_INLINE void turnSmall(const elementwise::RowsOfObject<const T>& src, const elementwise::RowsOfObject<T>& dst)
+{
+    const auto number = [&](int r, int c) VORM_INLINE_LAMBDA { entry(dst.from(c), r) = T{entry(src.from(r), c)}; };
+    if constexpr (order == 3) {
+        unrolled<9>([&](auto i) VORM_INLINE_LAMBDA { number(i / 3, i % 3); });
+    } else {
+        elementwise::inBands<narrow<T>>(order, order, [&]<int rows, int columns>(int r, int c) VORM_INLINE_LAMBDA {
+            if constexpr (rows == 1 || columns == 1)
+                unrolled<rows * columns>([&](auto i) VORM_INLINE_LAMBDA { number(r + i / columns, c + i % columns); });
+            else
+                elementwise::Tile<T, rows, columns>::load(src, r, c).turned().store(dst, c, r);
+        });
+    }
+}
+
+template <int order, class T, class S, class D>
+[[gnu::noinline]] void turnSmallObjects(const S src, const D dst, int first, int count)
+{
+    for (int n = first; n < count; ++n) turnSmall<order, T>({src.at(n), src.row}, {dst.at(n), dst.column});
+}
+
+// Arrays of order 3 without a gap fill registers some at a time.
+template <class T>
+[[gnu::noinline]] int turnPackedThrees(const T* src, T* dst, int count)
+{
+    using Threes = elementwise::PackedThrees<T>;
+    constexpr std::ptrdiff_t length = 9 * Threes::objects;
+    for (int n = 0; n < count / Threes::objects; ++n)
+        Threes::load(elementwise::RowsOfObject<const T>{src + n * length, 0}, 0, 0)
+            .turned()
+            .store({dst + n * length, 0}, 0, 0);
+    return count / Threes::objects * Threes::objects;
+}
+
+// Does what it can do, and says whether it could.
+template <class T, class S, class D>
+VORM_INLINE bool turnSmallSquares(const S& src, const D& dst, std::ptrdiff_t order, int count)
+{
+    int first = 0;
+    if constexpr (!isList<S> && !isList<D>) {
+        constexpr std::ptrdiff_t row = 3 * sizeof(T), object = 3 * row;
+        if (order == 3 && src.row == row && dst.column == row && src.object == object && dst.object == object)
+            first = turnPackedThrees(src.p, dst.p, count);
+    }
+    switch (order) {
+    case 2: return turnSmallObjects<2, T>(src, dst, first, count), true;
+    case 3: return turnSmallObjects<3, T>(src, dst, first, count), true;
+    case 4: return turnSmallObjects<4, T>(src, dst, first, count), true;
+    case 5: return turnSmallObjects<5, T>(src, dst, first, count), true;
+    case 6: return turnSmallObjects<6, T>(src, dst, first, count), true;
+    default: return false;
+    }
+}
+
+}  // namespace vorm::movement
