@@ -14,8 +14,8 @@ angles()
 # Pictures of flat things are small files.
 takes() { "$program" "$1" "$2" > out || fail "$1: exit code $?"; }
 
-# Points of a cubic lattice in a plane through it: many spreads that are the
-# same in two directions. lattice SIZE STRAY: so many points farther away are on a line, and no triangle has them.
+# Points of a cubic lattice in a plane through it: lattice SIZE STRAY. So many more, farther away, are on a line, and no
+# triangle has them.
 lattice()
 {
     awk -v size="$1" -v stray="$2" '
