@@ -348,7 +348,7 @@ TYPED_TEST(SymmetricEigenproblem, AloneAndInArrays)
                 ASSERT_EQ(0, std::memcmp(both.values.data(), &twice[at], bytes)) << n << " " << count;
                 ASSERT_EQ(0, std::memcmp(both.vectors.a.data(), &vectors[at * std::size_t(n)], bytes * std::size_t(n)));
             }
-            if (good == count) continue;
+            if (good == count || n > 8) continue;  // of more a team may do what is behind
             EXPECT_NE(status, StatusOk);
             EXPECT_NE(second, StatusOk);
             for (int i = 0; i < n; ++i) EXPECT_EQ(values[std::size_t((count - 1) * n + i)], 7);
