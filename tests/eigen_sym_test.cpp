@@ -16,12 +16,14 @@ struct Functions<float> {
     static constexpr auto values = vormEigenValuesSym_m_32f;
     static constexpr auto vectors = vormEigenValuesVectorsSym_m_32f;
     static constexpr auto arrayOfValues = vormEigenValuesSym_ma_32f;
+    static constexpr auto arrayOfVectors = vormEigenValuesVectorsSym_ma_32f;
 };
 template <>
 struct Functions<double> {
     static constexpr auto values = vormEigenValuesSym_m_64f;
     static constexpr auto vectors = vormEigenValuesVectorsSym_m_64f;
     static constexpr auto arrayOfValues = vormEigenValuesSym_ma_64f;
+    static constexpr auto arrayOfVectors = vormEigenValuesVectorsSym_ma_64f;
 };
 
 template <class T>
@@ -313,30 +315,45 @@ TYPED_TEST(SymmetricEigenproblem, TraceAndSquaresTellWhatIsOff)
     EXPECT_GT(tried, 2500);
 }
 
-// The values of an object do not depend on its place, nor on what it lies beside.
+// The values and vectors of an object do not depend on its place, nor on what it lies beside, nor on how many there
+// are: an array that fills no register goes beside copies of its last object, of which nothing shows.
 TYPED_TEST(SymmetricEigenproblem, AloneAndInArrays)
 {
     using T = TypeParam;
     Random lot(5);
-    for (int n = 1; n <= 17; ++n) {
-        constexpr int count = 37;
-        std::vector<T> all, values(std::size_t(count * n)), buffer(std::size_t(n * n));
-        for (int object = 0; object < count; ++object) {
-            const Matrix<T> m = random<T>(n, object % 5 ? 1 : 50, lot);
-            all.insert(all.end(), m.a.begin(), m.a.end());
+    for (int n = 1; n <= 17; ++n)
+        for (const int count : {2, 3, 5, 7, 11, 15, 37}) {
+            std::vector<T> all;
+            for (int object = 0; object < count; ++object) {
+                const Matrix<T> m = random<T>(n, object % 5 ? 1 : 50, lot);
+                all.insert(all.end(), m.a.begin(), m.a.end());
+            }
+            // The last but one fails in some: those before it are complete, nothing behind it is touched.
+            const int good = n > 1 && count % 4 == 3 ? count - 2 : count;
+            if (good < count) std::fill_n(all.begin() + good * n * n, n * n, T(0));
+            std::vector<T> values(std::size_t(count * n), 7), buffer(std::size_t(n * n)), vectors(all.size(), 7), twice;
+            const int e = sizeof(T), row = n * e;
+            const VormStatus status =
+                Functions<T>::arrayOfValues(all.data(), row * n, row, e, buffer.data(), values.data(), n, count);
+            twice = values;
+            const VormStatus second = Functions<T>::arrayOfVectors(
+                all.data(), row * n, row, e, buffer.data(), vectors.data(), row * n, row, e, twice.data(), n, count);
+            for (int object = 0; object < good; ++object) {
+                Matrix<T> m(n);
+                std::copy_n(all.begin() + object * n * n, n * n, m.a.begin());
+                const auto alone = valuesOf(m), both = vectorsOf(m);
+                if (alone.status != StatusOk || both.status != StatusOk) break;
+                const std::size_t bytes = std::size_t(n) * sizeof(T), at = std::size_t(object * n);
+                ASSERT_EQ(0, std::memcmp(alone.values.data(), &values[at], bytes)) << n << " " << count;
+                ASSERT_EQ(0, std::memcmp(both.values.data(), &twice[at], bytes)) << n << " " << count;
+                ASSERT_EQ(0, std::memcmp(both.vectors.a.data(), &vectors[at * std::size_t(n)], bytes * std::size_t(n)));
+            }
+            if (good == count || n > 8) continue;  // of more a team may do what is behind
+            EXPECT_NE(status, StatusOk);
+            EXPECT_NE(second, StatusOk);
+            for (int i = 0; i < n; ++i) EXPECT_EQ(values[std::size_t((count - 1) * n + i)], 7);
+            for (int i = 0; i < n * n; ++i) EXPECT_EQ(vectors[std::size_t((count - 1) * n * n + i)], 7);
         }
-        const int e = sizeof(T), row = n * e;
-        const VormStatus status =
-            Functions<T>::arrayOfValues(all.data(), row * n, row, e, buffer.data(), values.data(), n, count);
-        if (status != StatusOk) continue;
-        for (int object = 0; object < count; ++object) {
-            Matrix<T> m(n);
-            std::copy_n(all.begin() + object * n * n, n * n, m.a.begin());
-            const auto alone = valuesOf(m);
-            ASSERT_EQ(0,
-                      std::memcmp(alone.values.data(), &values[std::size_t(object * n)], std::size_t(n) * sizeof(T)));
-        }
-    }
 }
 
 }  // namespace

@@ -5,6 +5,10 @@
 // Number holds, from the first on, and returns their status. Of one object it stores what a failure is to leave; of
 // several it stores nothing unless all of them pass, as they are then done again one by one. It loads everything
 // before it stores, and may read objects behind a failing one, but stores nothing of them.
+//
+// Where one object takes nearly as long as a register of them, the last objects of an array can go as one number that
+// they do not fill: rest.template operator()<Number>(first, objects) does fewer than a Number holds, copies of the last
+// in the lanes left over, and stores their results in ascending order.
 #pragma once
 
 #include <type_traits>
@@ -39,29 +43,43 @@ VORM_INLINE bool registersApart(const View& view, int first, int rows, int len)
     return true;
 }
 
-// Whole numbers of objects, from done on, as far as they go.
-template <class Number, class Apart, class Method>
-VORM_INLINE void wholeBlocks(int& done, int count, const Apart& apart, const Method& method)
+// A rest goes through narrower numbers.
+struct NarrowerRest {};
+
+// Whether so few objects take less time as one number than as narrower ones.
+template <class Number>
+VORM_INLINE bool fillsEnough(int objects)
+{
+    return objects < objectsIn<Number> &&
+           (2 * objects > objectsIn<Number> || (objects > 1 && !inLanes<typename NarrowerThan<Number>::Type>));
+}
+
+// Whole numbers of objects, from done on, as far as they go, and a rest.
+template <class Number, class Apart, class Method, class Rest>
+VORM_INLINE void wholeBlocks(int& done, int count, const Apart& apart, const Method& method, const Rest& rest)
 {
     if constexpr (inLanes<Number>) {
         while (count - done >= objectsIn<Number> && apart.template operator()<Number>(done) &&
                method.template operator()<Number>(done) == StatusOk)
             done += objectsIn<Number>;
-        wholeBlocks<typename NarrowerThan<Number>::Type>(done, count, apart, method);
+        if constexpr (!std::is_same_v<Rest, NarrowerRest>)
+            if (fillsEnough<Number>(count - done) && rest.template operator()<Number>(done, count - done) == StatusOk)
+                done = count;
+        wholeBlocks<typename NarrowerThan<Number>::Type>(done, count, apart, method, rest);
     }
 }
 
 // Number is the widest that pays. A count that asks gets the number of the first object that fails, from 1, instead of
 // its status. apart.template operator()<Number>(first) says whether the results of the objects from
 // the first on may be stored in any order.
-template <class Number, class Apart, class Method>
-VORM_INLINE VormStatus inBlocks(int countOrAsking, const Apart& apart, const Method& method)
+template <class Number, class Apart, class Method, class Rest = NarrowerRest>
+VORM_INLINE VormStatus inBlocks(int countOrAsking, const Apart& apart, const Method& method, const Rest& rest = {})
 {
     using T = Element<Number>;
     const int count = Count{countOrAsking}.objects();
     for (int done = 0; done < count;) {
         const int before = done;
-        wholeBlocks<Number>(done, count, apart, method);
+        wholeBlocks<Number>(done, count, apart, method, rest);
         if (done > before) continue;
         for (const int end = done + min(narrow<T>, count - done); done < end; ++done)
             if (const VormStatus status = method.template operator()<T>(done); status != StatusOk)

@@ -23,16 +23,17 @@ template <class T, class Object>  // large enough that time goes into its loops,
 
 // Single objects. ------------------------------------------------------------------------------------------------
 
+// Elements of work space have a distance: that of one where objects lie in lanes.
 template <class T, class Src>
-VORM_SHARED void copyObject(const Src& src, int object, int n, T* to)
+VORM_SHARED void copyObject(const Src& src, int object, int n, T* to, int distance = 1)
 {
     for (int r = 0; r < n; ++r)
-        for (int c = 0; c < n; ++c) entry(to, r * std::ptrdiff_t{n} + c) = T(src(object, r, c));
+        for (int c = 0; c < n; ++c, to += distance) entry(to, 0) = T(src(object, r, c));
 }
 template <class T>
-VORM_INLINE void copyValues(const T* from, int n, T* dstValues)
+VORM_INLINE void copyValues(const T* from, int n, T* dstValues, int distance = 1)
 {
-    for (int i = 0; i < n; ++i) entry(dstValues, i) = T(entry(from, i));
+    for (int i = 0; i < n; ++i, from += distance) entry(dstValues, i) = T(entry(from, 0));
 }
 
 template <class T, class Src>
@@ -58,10 +59,10 @@ VORM_INLINE auto objectOf(const Dst& dst, int object)
     }
 }
 template <class T, class Dst>
-VORM_SHARED void storeEigenvectors(const Dst& dst, int object, int n, const T* v)
+VORM_SHARED void storeEigenvectors(const Dst& dst, int object, int n, const T* v, int distance = 1)
 {
     for (int r = 0; r < n; ++r)
-        for (int c = 0; c < n; ++c) dst(object, r, c) = v[c * n + r];
+        for (int c = 0; c < n; ++c) dst(object, r, c) = v[(c * n + r) * distance];
 }
 template <class T, class Src, class Dst>
 VORM_SHARED VormStatus vectorsOfSmall(const Src src, const Dst dst, int object, T* dstValues, int n, bool sortsFirst)
@@ -177,6 +178,43 @@ VORM_INLINE VormStatus vectorsInLanes(const Src& src, const Dst& dst, int first,
     return status;
 }
 
+// Fewer objects than a number holds: copies of the last fill its lanes.
+template <class Number, class Src>
+VORM_INLINE void loadRest(const Src& src, int first, int objects, int n, Number* w)
+{
+    for (int l = 0; l < objectsIn<Number>; ++l)
+        copyObject(src, first + min(l, objects - 1), n, reinterpret_cast<Element<Number>*>(w) + l, objectsIn<Number>);
+}
+template <class Number>
+VORM_INLINE void storeValuesOfRest(const Number* values, int objects, int n, Element<Number>* dstValues)
+{
+    using T = Element<Number>;
+    for (int l = 0; l < objects; ++l)
+        copyValues(reinterpret_cast<const T*>(values) + l, n, dstValues + l * n, objectsIn<Number>);
+}
+template <class Number, class Src>
+VORM_SHARED VormStatus valuesOfRest(const Src& src, int first, int objects, Element<Number>* dstValues, int n)
+{
+    Number w[stackOrder * stackOrder], u[stackOrder];
+    loadRest(src, first, objects, n, w);
+    const VormStatus status = solveValues(w, u, n);
+    if (status == StatusOk) storeValuesOfRest(w, objects, n, dstValues + first * std::ptrdiff_t{n});
+    return status;
+}
+template <class Number, class Src, class Dst>
+VORM_SHARED VormStatus vectorsOfRest(const Src& src, const Dst& dst, int first, int objects, Element<Number>* dstValues,
+                                     int n)
+{
+    Number w[stackOrder * stackOrder], v[stackOrder * stackOrder], u[stackOrder];
+    loadRest(src, first, objects, n, w);
+    const VormStatus status = solveVectors(w, u, v, n, false);
+    if (status != StatusOk) return status;
+    for (int l = 0; l < objects; ++l)
+        storeEigenvectors(dst, first + l, n, reinterpret_cast<const Element<Number>*>(v) + l, objectsIn<Number>);
+    storeValuesOfRest(w, objects, n, dstValues + first * std::ptrdiff_t{n});
+    return status;
+}
+
 // Orders 1 and 2. ------------------------------------------------------------------------------------------------
 
 template <class Number, class Src>
@@ -245,6 +283,10 @@ VORM_SHARED VormStatus valuesOfArray(const Src src, T* buffer, T* dstValues, int
                 return valuesInLanes<Number>(src, first, dstValues, n);
             else
                 return valuesOf<T>(src, first, buffer, dstValues + first * std::ptrdiff_t{n}, n);
+        },
+        [&]<class Number>(int first, int objects) VORM_INLINE_LAMBDA {
+            if (n > stackOrder) return VormStatus{StatusNoConvergence};  // one by one
+            return valuesOfRest<Number>(src, first, objects, dstValues, n);
         });
 }
 
@@ -281,6 +323,10 @@ VORM_SHARED VormStatus vectorsOfArray(const Src src, const Dst dst, T* buffer, T
                 return vectorsInLanes<Number>(src, dst, first, dstValues, n);
             else
                 return vectorsOfOne<T>(src, dst, first, buffer, dstValues + first * std::ptrdiff_t{n}, n, false);
+        },
+        [&]<class Number>(int first, int objects) VORM_INLINE_LAMBDA {
+            if (n > stackOrder) return VormStatus{StatusNoConvergence};  // one by one
+            return vectorsOfRest<Number>(src, dst, first, objects, dstValues, n);
         });
 }
 

@@ -24,7 +24,8 @@ namespace vorm::eigen::sym {
 template <class T>
 constexpr Work valuesWork(int order, int count)
 {
-    return workOf(wrapMul(wrapAdd(wrapMul(order, order), order), count), byType<T>(4000, 9000), order, order, count);
+    const int picoseconds = order <= 2 ? byType<T>(300, 550) : byType<T>(4900, 7500);
+    return workOf(wrapMul(wrapAdd(wrapMul(order, order), order), count), picoseconds, order, order, count);
 }
 
 template <class T>

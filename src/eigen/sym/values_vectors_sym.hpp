@@ -36,8 +36,9 @@ namespace vorm::eigen::sym {
 template <class T>
 constexpr Work vectorsWork(int order, int count)
 {
-    return workOf(wrapMul(wrapAdd(wrapMul(2, order, order), order), count), byType<T>(7000, 15000), order, order,
-                  count);
+    const int measure = wrapMul(wrapAdd(wrapMul(2, order, order), order), count);
+    if (order <= 2) return workOf(measure, byType<T>(750, 1500), order, order, count);
+    return workOf(measure, byType<T>(830, 1400), order, order, order + 4.0, count);
 }
 
 template <class T>
