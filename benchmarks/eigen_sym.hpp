@@ -10,8 +10,6 @@
 
 namespace bench::eigen {
 
-using lu::Array, lu::Layout, lu::LayoutOf;
-
 inline lapack_int syev(char job, int n, float* a, float* values, float* work)
 {
     return LAPACKE_ssyev_work(LAPACK_COL_MAJOR, job, 'L', n, a, n, values, work, 34 * n);
@@ -100,10 +98,10 @@ Task solution(auto valuesMembers, auto vectorsMembers, int count)
     Task task;
     const auto add = [&](const char* name, auto work) { task.contestants.push_back({name, work}); };
     const auto arguments = [=](const Array<T>& from, const Array<T>& to, auto as) {
-        const auto source = std::tuple_cat(lu::matrixArguments(from, as), std::tuple(buffer));
+        const auto source = std::tuple_cat(matrixArguments(from, as), std::tuple(buffer));
         const auto rest = std::tuple(values, n, count);
         if constexpr (vectors)
-            return std::tuple_cat(source, lu::matrixArguments(to, as), rest);
+            return std::tuple_cat(source, matrixArguments(to, as), rest);
         else
             return std::tuple_cat(source, rest);
     };

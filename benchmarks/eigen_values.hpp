@@ -9,8 +9,6 @@
 
 namespace bench::eigenvalues {
 
-using lu::Array, lu::Layout, lu::LayoutOf;
-
 inline lapack_int geev(int n, float* a, float* re, float* im, float* work, int size)
 {
     return LAPACKE_sgeev_work(LAPACK_COL_MAJOR, 'N', 'N', n, a, n, re, im, nullptr, 1, nullptr, 1, work, size);
@@ -42,12 +40,12 @@ Task values(auto members, int count)
     Task task;
     const auto add = [&](const char* name, auto work) { task.contestants.push_back({name, work}); };
     const auto rest = std::tuple(re, im, n, count, buffer);
-    const auto all = std::tuple_cat(lu::matrixArguments(a, LayoutOf<layout>{}), rest);
+    const auto all = std::tuple_cat(matrixArguments(a, LayoutOf<layout>{}), rest);
     if constexpr (layout == Layout::packed) add("vorm", [=] { std::apply(members.standard, all); });
     if constexpr (layout == Layout::planes) {
         add("vorm", [=] { std::apply(members.pointers, all); });
         const Array<T> packed(n, n, count, Layout::packed, 1);
-        add("vorm, standard layout", [=, all = std::tuple_cat(lu::matrixArguments(packed, LayoutOf<Layout::packed>{}),
+        add("vorm, standard layout", [=, all = std::tuple_cat(matrixArguments(packed, LayoutOf<Layout::packed>{}),
                                                               rest)] { std::apply(members.standard, all); });
         return task;
     }

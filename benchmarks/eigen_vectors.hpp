@@ -9,8 +9,6 @@
 
 namespace bench::eigenvectors {
 
-using lu::Array, lu::Layout, lu::LayoutOf;
-
 enum class Sides { right, left, both };
 
 inline lapack_int geev(char left, char right, int n, float* a, float* re, float* im, float* l, float* r, float* work)
@@ -48,10 +46,10 @@ Task vectorsOf(auto members, int count)
     const auto arguments = [=](const Array<T>& from, const Array<T>& to, const Array<T>& other, auto as) {
         const auto rest = std::tuple(re, im, n, count, buffer);
         if constexpr (sides == Sides::both)
-            return std::tuple_cat(lu::matrixArguments(from, as), lu::matrixArguments(to, as),
-                                  lu::matrixArguments(other, as), rest);
+            return std::tuple_cat(matrixArguments(from, as), matrixArguments(to, as),
+                                  matrixArguments(other, as), rest);
         else
-            return std::tuple_cat(lu::matrixArguments(from, as), lu::matrixArguments(to, as), rest);
+            return std::tuple_cat(matrixArguments(from, as), matrixArguments(to, as), rest);
     };
     const LayoutOf<layout> as;
     if constexpr (layout == Layout::packed)

@@ -7,7 +7,7 @@ extern const Family fixedForms, vectorSums, vectorScaling, matrixSums, vectorPro
     luDecomposition, luSubstitution, choleskyDecomposition, choleskySubstitution, determinants, inverses, curves,
     transformMatrices, matrixOperations, pointTransforms, affineTransform3DH, qrDecomposition, qrSubstitution,
     dotProducts, l2Norms, frobeniusNorms, traces, crossProducts, movement, symmetricEigenproblems, generalEigenvalues,
-    generalEigenvectors;
+    generalEigenvectors, bufferSizes;
 
 const std::vector<const Family*>& families()
 {
@@ -39,6 +39,7 @@ const std::vector<const Family*>& families()
                                                    &movement,
                                                    &symmetricEigenproblems,
                                                    &generalEigenvalues,
-                                                   &generalEigenvectors};
+                                                   &generalEigenvectors,
+                                                   &bufferSizes};
     return all;
 }

@@ -46,16 +46,16 @@ Sizes accepted(const Function& f, Sizes s)
 }
 
 // The largest measure below the limit and the smallest from it on, over sizes worth trying.
-std::pair<Hit, Hit> nearest(const Function& f, bool isContiguous)
+std::pair<Hit, Hit> searched(const Function& f, bool isContiguous)
 {
     Hit below{{}, 0, INT32_MIN}, above{{}, 0, INT32_MAX};
     const bool isProduct = f.isProduct(), isMatrix = f.indexOf("height") >= 0, isSquare = f.indexOf("order") >= 0;
-    const int most = isProduct ? 9 : isMatrix || isSquare ? 40 : 100;
+    const int most = isProduct ? 9 : isMatrix || isSquare ? 40 : 220;
     for (int n = 1; n <= most; ++n)
         for (int m = isProduct || isMatrix ? 1 : n; m <= (isProduct || isMatrix ? most : n); ++m)
             for (int k = isProduct ? 1 : n; k <= (isProduct ? most : n); ++k) {
                 const Sizes s = accepted(f, {m, n, k});
-                int low = 0, high = 8000;  // reached with high objects, not with low
+                int low = 0, high = 50000;  // reached with high objects, not with low
                 while (high - low > 1) {
                     const int middle = (low + high) / 2;
                     (limitOf(f, s, middle, isContiguous).isReached() ? high : low) = middle;
@@ -67,6 +67,24 @@ std::pair<Hit, Hit> nearest(const Function& f, bool isContiguous)
                     above = {s, high, l.measure};
             }
     return {below, above};
+}
+// Members with the same measure and limit have the same.
+const std::pair<Hit, Hit>& nearest(const Function& f, bool isContiguous)
+{
+    static std::map<std::pair<std::string, int>, std::pair<Hit, Hit>> known;
+    const auto key = std::pair(f.family + f.shape, limitOf(f, {}, 1, isContiguous).from);
+    const auto [found, isNew] = known.try_emplace(key);
+    if (isNew) found->second = searched(f, isContiguous);
+    return found->second;
+}
+
+// By how much the measure grows with an object of the smallest size that has work.
+std::int32_t smallestStep(const Function& f)
+{
+    std::int32_t step = 0;
+    for (int size = 1; step == 0; ++size)
+        step = limitOf(f, {size, size, size}, 2, true).measure - limitOf(f, {size, size, size}, 1, true).measure;
+    return step;
 }
 
 TEST_F(Limits, AtTheLimitAndAbove)
@@ -81,6 +99,9 @@ TEST_F(Limits, AtTheLimitAndAbove)
             const auto& [below, above] = nearest(f, isContiguous);
             const int from = limitOf(f, {}, 1, isContiguous).from;
             exact += (below.measure == from - 1) + (above.measure == from), hits += 2;
+            // Some measures are always even, or multiples of nine: as near as calls can come on both sides, a limit
+            // that is off by one in any call is seen.
+            EXPECT_LE(above.measure - below.measure, smallestStep(f)) << f.name << ", tried too few sizes";
             EXPECT_EQ(askedBy(f, below.sizes, below.count, 2, spread), 0) << f.name << ", measure " << below.measure;
             EXPECT_EQ(askedBy(f, above.sizes, above.count, 2, spread), 2) << f.name << ", measure " << above.measure;
             // The measure is the same function of all sizes: near the limit elsewhere.
@@ -107,7 +128,6 @@ TEST_F(Limits, AtTheLimitAndAbove)
     }
     std::printf("%d functions with a driver, %d of %d measures exactly at the limit or one above\n", drivers, exact,
                 hits);
-    EXPECT_GT(exact, hits * 3 / 4);  // some measures are always even, or multiples of three
 }
 
 // A single object never forks, however large it is, nor does what has no driver.

@@ -1,4 +1,4 @@
-// Covariances of neighbourhoods, their inverses, and the normals that these have.
+// Covariances of neighbourhoods, their principal axes and their inverses.
 #include "registration/surface.hpp"
 
 #include <vorm/vorm.h>
@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cmath>
 #include <utility>
+
+#include "common/principal_axes.hpp"
 
 using examples::expectOk;
 using examples::Stage;
@@ -63,22 +65,15 @@ Doubles covariancesOf(const Doubles& offsets, const Doubles& means, int count, S
     return result;
 }
 
-// The direction of the least variance is that of the largest of the inverse: multiplied by it again and again, a
-// vector turns there.
-Doubles normalsOf(const Doubles& inverses, const Vec& towards)
+// The last principal axes, on the side of the scanner.
+Doubles normalsOf(const Doubles& covariances, const Vec& towards, Stage stage)
 {
-    const int count = static_cast<int>(inverses.size() / 9);
-    Doubles normals, products(3 * index(count));
-    for (int n = 0; n < count; ++n) normals.insert(normals.end(), towards.begin(), towards.end());
-    for (int round = 0; round < 12; ++round) {
-        expectOk(vormMul_mava_64f(inverses.data(), matrix3, row3, element, 3, 3, normals.data(), row3, element, 3,
-                                  products.data(), row3, element, count),
-                 "vormMul_mava_64f");
-        for (std::size_t n = 0; n < products.size(); n += 3) {
-            const double length = std::hypot(products[n], products[n + 1], products[n + 2]);
-            const double side = dot(&products[n], towards.data()) < 0 ? -1 : 1;
-            for (std::size_t i = 0; i < 3; ++i) normals[n + i] = side * products[n + i] / length;
-        }
+    const Doubles axes = examples::principalAxes(covariances, stage).vectors;
+    Doubles normals;
+    for (std::size_t n = 0; n < axes.size(); n += 9) {
+        const double* const normal = &axes[n + 6];
+        const double side = dot(normal, towards.data()) < 0 ? -1 : 1;
+        for (std::size_t i = 0; i < 3; ++i) normals.push_back(side * normal[i]);
     }
     return normals;
 }
@@ -107,7 +102,7 @@ Surface::Surface(const Scan& scan, Stage stage) : points(scan.points), tree(poin
     const Doubles offsets = offsetsOf(points, tree), means = meansOf(offsets, count());
     covariances = covariancesOf(offsets, means, count(), stage);
     const Doubles inverses = inverted(covariances);
-    normals = normalsOf(inverses, scan.towards);
+    normals = normalsOf(covariances, scan.towards, stage);
     atBorder = bordersOf(means, inverses, normals);
 }
 
