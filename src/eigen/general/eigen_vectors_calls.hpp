@@ -9,6 +9,19 @@
 
 namespace vorm::eigen {
 
+template <class T, class Src>
+VORM_SHARED void readMatrix(const Src src, int n, int order, T* to)
+{
+    for (int i = 0; i < order; ++i)
+        for (int j = 0; j < order; ++j) *to++ = src(n, i, j);
+}
+template <class T, class Destination>
+VORM_SHARED void writeVectors(const Destination destination, int n, int side, int order, const T* vectors)
+{
+    for (int i = 0; i < order; ++i)
+        for (int j = 0; j < order; ++j) destination(n, side, i, j) = vectors[std::ptrdiff_t{j} * order + i];
+}
+
 // One object in the caller's work space, from its first aligned element on. destination(n, side, i, j) is an element of
 // the vectors of object n.
 template <Sides sides, class T, class Src, class Destination>
@@ -27,14 +40,11 @@ VORM_INLINE VormStatus eigenVectorsOne(const Src& src, const Destination& destin
         for (int side = 0; side < stores; ++side) destination(n, side, 0, 0) = 1;
         return StatusOk;
     }
-    for (int i = 0; i < order; ++i)
-        for (int j = 0; j < order; ++j) matrix[std::ptrdiff_t{i} * order + j] = src(n, i, j);
+    readMatrix(src, n, order, matrix);
     const Outcome outcome = eigenVectorsOf(sides, order, matrix, vectors, re, im, work);
     for (int k = outcome.firstValue; k < order; ++k) entry(dstRe, k) = re[k], entry(dstIm, k) = im[k];
     if (outcome.status != StatusOk) return outcome.status;
-    for (int side = 0; side < stores; ++side)
-        for (int i = 0; i < order; ++i)
-            for (int j = 0; j < order; ++j) destination(n, side, i, j) = vectors[side][std::ptrdiff_t{j} * order + i];
+    for (int side = 0; side < stores; ++side) writeVectors(destination, n, side, order, vectors[side]);
     return StatusOk;
 }
 
@@ -45,20 +55,14 @@ VORM_INLINE bool eigenVectorsGroup(const Src& src, const Destination& destinatio
 {
     constexpr int objects = Number::width;
     Group<T, objects> group;
-    T* to = group.matrices;
-    for (int n = first; n < first + objects; ++n)
-        for (int i = 0; i < order; ++i)
-            for (int j = 0; j < order; ++j) *to++ = src(n, i, j);
+    for (int l = 0; l < objects; ++l) readMatrix(src, first + l, order, group.matrices + l * order * order);
     if (!eigenVectorsSideBySide<Number>(sides, order, group)) return false;
     const T *re = group.re, *im = group.im;
     for (int l = 0; l < objects; ++l) {
         T *const dstRe = valuesRe.object(first + l), *const dstIm = valuesIm.object(first + l);
         for (int k = 0; k < order; ++k) entry(dstRe, k) = *re++, entry(dstIm, k) = *im++;
-        for (int side = 0; side < storesOf(sides); ++side) {
-            const T* const vectors = group.vectors[side] + l * order * order;
-            for (int i = 0; i < order; ++i)
-                for (int j = 0; j < order; ++j) destination(first + l, side, i, j) = vectors[j * order + i];
-        }
+        for (int side = 0; side < storesOf(sides); ++side)
+            writeVectors<T>(destination, first + l, side, order, group.vectors[side] + l * order * order);
     }
     return true;
 }
