@@ -161,6 +161,11 @@ TYPED_TEST(EigenVectors, Rotation)
         }
         EXPECT_EQ(exactlyReal, 1);
     }
+    // Of components of one size the first is made real.
+    for (const auto& solution : {right(std::vector<T>{0, -1, 1, 0}), left(std::vector<T>{0, -1, 1, 0})}) {
+        EXPECT_EQ(solution.element(0, 1), 0);
+        EXPECT_EQ(std::fabs(solution.element(1, 1)), std::fabs(solution.element(0, 0)));
+    }
 }
 
 TYPED_TEST(EigenVectors, JordanBlocksHaveNearlyParallelVectors)
