@@ -11,10 +11,10 @@
 
 namespace {
 
-std::string outputOf(const std::string& command)
+std::string outputOf(const std::string& command, const std::string& library = VORM_LIBRARY)
 {
     std::string text;
-    FILE* const pipe = popen((command + " " VORM_LIBRARY).c_str(), "r");
+    FILE* const pipe = popen((command + " " + library).c_str(), "r");
     if (!pipe) return text;
     char block[65536];
     for (std::size_t n; (n = std::fread(block, 1, sizeof block, pipe)) > 0;) text.append(block, n);
@@ -250,6 +250,24 @@ TEST(Binary, MachineCode)
         EXPECT_GT(layer.size(), 1u) << f.name;
         for (const std::string& line : layer)
             EXPECT_TRUE(!line.starts_with("call") || (f.isFixed() && isShared(line))) << f.name << ": " << line;
+    }
+}
+
+// The variants for higher levels have the instructions that round once for a product and a sum, and must not use them.
+TEST(Binary, VariantsFuseNothing)
+{
+    std::istringstream variants(VORM_VARIANTS);
+    for (std::string variant; variants >> variant;) {
+        std::istringstream lines(outputOf("objdump -d --no-show-raw-insn", variant));
+        std::string function;
+        std::size_t wide = 0;
+        for (std::string line; std::getline(lines, line);) {
+            if (line.ends_with(">:")) function = line.substr(line.find('<'));
+            wide += line.find("%ymm") != line.npos;
+            for (const char* fused : {"\tvfmadd", "\tvfmsub", "\tvfnmadd", "\tvfnmsub"})
+                EXPECT_EQ(line.find(fused), line.npos) << variant << ' ' << function << line;
+        }
+        EXPECT_GT(wide, 0u) << variant;
     }
 }
 

@@ -201,6 +201,12 @@ template <class Op, int whole, bool hasRest, class Rest, class T, class Elements
         return sumsAlong<Op, whole, hasRest>(runs, rest);
     });
 }
+template <int behind, class Op, class T, class Elements>
+[[gnu::noinline]] void longRunsOfRegisters(const Sources<Op, Elements> src, std::ptrdiff_t n, T* dst, int count)
+{
+    longRuns<Op>(src, dst, count,
+                 [n](const Runs<Op, T>& runs) VORM_INLINE_LAMBDA { return sumsOfRegisters<Op, behind>(runs, n); });
+}
 template <int n, class Op, class T, class Elements>
 VORM_INLINE void longRunsOfLength(const Sources<Op, Elements>& src, T* dst, int count)
 {
@@ -233,6 +239,9 @@ void measureRuns(const Sources<Op, Elements>& src, std::ptrdiff_t n, T* dst, int
         return withRegisters<T>(int(n), [&](auto whole, auto hasRest) VORM_INLINE_LAMBDA {
             longRunsOfLength<Op, whole, hasRest>(src, int(n) % narrow<T>, dst, count);
         });
+    // The commonest lengths that need no tests for each object, like 8x8 matrices and a dozen doubles.
+    if (n % sumsOf<T> == 0) return longRunsOfRegisters<0>(src, n, dst, count);
+    if (n % sumsOf<T> == sumsOf<T> / 2) return longRunsOfRegisters<sumRegisters / 2>(src, n, dst, count);
     longRuns<Op>(src, dst, count, [n](const Runs<Op, T>& runs) VORM_INLINE_LAMBDA { return sumsAlong<Op>(runs, n); });
 }
 

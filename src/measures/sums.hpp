@@ -62,6 +62,21 @@ VORM_INLINE Lanes<T> sumsAlong(const Runs<Op, T>& runs, std::ptrdiff_t n)
     }
     return united(sums);
 }
+// The same of whole registers, of which so many are behind the last group.
+template <class Op, int behind, class T>
+VORM_INLINE Lanes<T> sumsOfRegisters(const Runs<Op, T>& runs, std::ptrdiff_t n)
+{
+    constexpr int width = narrow<T>;
+    const auto term = [&](std::ptrdiff_t at) VORM_INLINE_LAMBDA {
+        return termOf<Op, Lanes<T>>([&](auto s) VORM_INLINE_LAMBDA { return Lanes<T>::load(runs.p[s] + at); });
+    };
+    Lanes<T> sums[sumRegisters];
+    for (int j = 0; j < sumRegisters; ++j) sums[j] = term(j * width);
+    std::ptrdiff_t i = sumsOf<T>;
+    if (n >= 2 * sumsOf<T>) addGroups<Op>(runs.p, n, i, sums);
+    unrolled<behind>([&](auto j) VORM_INLINE_LAMBDA { sums[j] = sums[j] + term(i + j * width); });
+    return united(sums);
+}
 // The same of a length that is known: whole registers and a rest of so many elements, of which only hasRest needs to be
 // known.
 template <class Op, int whole, bool hasRest, class T, class Rest>

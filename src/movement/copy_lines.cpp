@@ -12,58 +12,70 @@ namespace {
 
 struct Bytes16 {
     static constexpr int size = 16;
-    __m128i v;
-    VORM_INLINE static Bytes16 load(const char* p) { return {_mm_loadu_si128(reinterpret_cast<const __m128i*>(p))}; }
-    VORM_INLINE void store(char* p) const { _mm_storeu_si128(reinterpret_cast<__m128i*>(p), v); }
+    VORM_INLINE static void copy(const char* from, char* to)
+    {
+        const __m128i v = _mm_loadu_si128(reinterpret_cast<const __m128i*>(from));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(to), v);
+    }
 };
 template <class T>
 struct BytesOf {
     static constexpr int size = sizeof(T);
-    T v;
-    VORM_INLINE static BytesOf load(const char* p)
+    VORM_INLINE static void copy(const char* from, char* to)
     {
-        BytesOf b;
-        std::memcpy(&b.v, p, sizeof(T));
-        return b;
+        T v;
+        std::memcpy(&v, from, sizeof(T));
+        std::memcpy(to, &v, sizeof(T));
     }
-    VORM_INLINE void store(char* p) const { std::memcpy(p, &v, sizeof(T)); }
 };
+using Bytes8 = BytesOf<std::uint64_t>;
+using Bytes4 = BytesOf<std::uint32_t>;
 
-// So many parts of 16 bytes, then a last part, which may overlap the one before it.
-template <int parts, class Last, class S, class D>
-VORM_INLINE void copyInParts(const S& src, const D& dst, std::ptrdiff_t bytes, std::ptrdiff_t lines)
+// Parts are stored in the order of their addresses, each as soon as it is loaded: compilers keep to that, and stores
+// in another order take longer to leave the processor.
+template <class Part, int parts>
+VORM_INLINE void copyParts(const char* from, char* to)
 {
-    const std::ptrdiff_t last = Last::size < 16 ? parts * 16 : bytes - Last::size;  // a smaller one fits
-    for (std::ptrdiff_t j = 0; j < lines; ++j) {
-        const char* const from = src.at(j);
-        char* const to = dst.at(j);
-        Bytes16 part[parts + 1];
-        unrolled<parts>([&](auto k) VORM_INLINE_LAMBDA { part[k] = Bytes16::load(from + k * 16); });
-        const Last lastPart = Last::load(from + last);
-        unrolled<parts>([&](auto k) VORM_INLINE_LAMBDA { part[k].store(to + k * 16); });
-        lastPart.store(to + last);
-    }
+    unrolled<parts>([&](auto k) VORM_INLINE_LAMBDA { Part::copy(from + k * Part::size, to + k * Part::size); });
 }
-template <class S, class D>
-VORM_INLINE void copyTwelve(const S& src, const D& dst, std::ptrdiff_t lines)
+// So many parts, then a last one, which ends where the bytes do and may overlap the one before it.
+template <class Part, int parts, class Last>
+VORM_INLINE void copyPartsAndLast(const char* from, char* to, std::ptrdiff_t bytes)
 {
-    for (std::ptrdiff_t j = 0; j < lines; ++j) {
-        const char* const from = src.at(j);
-        char* const to = dst.at(j);
-        const auto first = BytesOf<std::uint64_t>::load(from);
-        const auto last = BytesOf<std::uint32_t>::load(from + 8);
-        first.store(to), last.store(to + 8);
-    }
+    copyParts<Part, parts>(from, to);
+    Last::copy(from + bytes - Last::size, to + bytes - Last::size);
 }
+// So many bytes, a multiple of 4.
+template <int bytes>
+VORM_INLINE void copyBytes(const char* from, char* to)
+{
+    constexpr int whole = bytes / 16 * 16;
+    copyParts<Bytes16, whole / 16>(from, to);
+    if constexpr (bytes & 8) Bytes8::copy(from + whole, to + whole);
+    if constexpr (bytes & 4) Bytes4::copy(from + bytes - 4, to + bytes - 4);
+}
+
+template <class S, class D, class CopyLine>
+VORM_INLINE void eachLine(const S& src, const D& dst, std::ptrdiff_t lines, const CopyLine& copyLine)
+{
+    for (std::ptrdiff_t j = 0; j < lines; ++j) copyLine(src.at(j), dst.at(j));
+}
+
+// Lines of more than so many parts of 16 bytes, and of one more at most.
 template <int parts, class S, class D>
 VORM_INLINE void copyInParts(const S& src, const D& dst, std::ptrdiff_t bytes, std::ptrdiff_t lines)
 {
+    const auto exactly = [&](auto rest) VORM_INLINE_LAMBDA {
+        eachLine(src, dst, lines, copyBytes<parts * 16 + decltype(rest)::value>);
+    };
     const std::ptrdiff_t rest = bytes - parts * 16;
-    if (rest == 4) return copyInParts<parts, BytesOf<std::uint32_t>>(src, dst, bytes, lines);
-    if (rest == 8) return copyInParts<parts, BytesOf<std::uint64_t>>(src, dst, bytes, lines);
+    if (rest == 4) return exactly(constant<4>);
+    if (rest == 8) return exactly(constant<8>);
     if constexpr (parts == 0)
-        if (rest == 12) return copyTwelve(src, dst, lines);
-    copyInParts<parts, Bytes16>(src, dst, bytes, lines);
+        if (rest == 12) return exactly(constant<12>);
+    eachLine(src, dst, lines, [bytes](const char* from, char* to) VORM_INLINE_LAMBDA {
+        copyPartsAndLast<Bytes16, parts, Bytes16>(from, to, bytes);
+    });
 }
 
 // Lines of more than 64 bytes: blocks of 64, the last of which overlaps the one before it.
@@ -71,58 +83,42 @@ template <class S, class D>
 VORM_INLINE void copyInBlocks(const S& src, const D& dst, std::ptrdiff_t bytes, std::ptrdiff_t lines)
 {
     constexpr int block = 64;
-    const auto copyBlock = [](const char* from, char* to) VORM_INLINE_LAMBDA {
-        Bytes16 part[4];
-        unrolled<4>([&](auto k) VORM_INLINE_LAMBDA { part[k] = Bytes16::load(from + k * 16); });
-        unrolled<4>([&](auto k) VORM_INLINE_LAMBDA { part[k].store(to + k * 16); });
-    };
-    for (std::ptrdiff_t j = 0; j < lines; ++j) {
-        const char* const from = src.at(j);
-        char* const to = dst.at(j);
-        for (std::ptrdiff_t i = 0; i < bytes - block; i += block) copyBlock(from + i, to + i);
-        copyBlock(from + bytes - block, to + bytes - block);
-    }
+    eachLine(src, dst, lines, [bytes](const char* from, char* to) VORM_INLINE_LAMBDA {
+        for (std::ptrdiff_t i = 0; i < bytes - block; i += block) copyBytes<block>(from + i, to + i);
+        copyBytes<block>(from + bytes - block, to + bytes - block);
+    });
 }
 
-// So many parts, the last of which may overlap the one before it.
-template <class Part, int parts>
-VORM_INLINE void copyParts(const char* from, char* to, std::ptrdiff_t bytes)
+template <class S, class D, class CopyRow>
+VORM_INLINE void eachRow(const S& src, const D& dst, const ShortRows& rows, std::ptrdiff_t objects,
+                         const CopyRow& copyRow)
 {
-    const std::ptrdiff_t last = bytes - Part::size;
-    Part part[parts];
-    unrolled<parts - 1>([&](auto k) VORM_INLINE_LAMBDA { part[k] = Part::load(from + k * Part::size); });
-    part[parts - 1] = Part::load(from + last);
-    unrolled<parts - 1>([&](auto k) VORM_INLINE_LAMBDA { part[k].store(to + k * Part::size); });
-    part[parts - 1].store(to + last);
+    eachLine(src, dst, objects, [&](const char* from, char* to) VORM_INLINE_LAMBDA {
+#pragma GCC unroll 1
+        for (std::ptrdiff_t r = 0; r < rows.count; ++r, from += rows.src, to += rows.dst) copyRow(from, to);
+    });
 }
+// Rows of several parts, the last of which may overlap the one before it.
 template <class Part, int parts, class S, class D>
 VORM_INLINE void copyRowsInParts(const S& src, const D& dst, const ShortRows& rows, std::ptrdiff_t objects)
 {
-    for (std::ptrdiff_t j = 0; j < objects; ++j) {
-        const char* from = src.at(j);
-        char* to = dst.at(j);
-#pragma GCC unroll 1
-        for (std::ptrdiff_t r = 0; r < rows.count; ++r, from += rows.src, to += rows.dst)
-            copyParts<Part, parts>(from, to, rows.bytes);
-    }
+    eachRow(src, dst, rows, objects, [bytes = rows.bytes](const char* from, char* to) VORM_INLINE_LAMBDA {
+        copyPartsAndLast<Part, parts - 1, Part>(from, to, bytes);
+    });
 }
 
 // Squares of elements of so many bytes, written out. Says whether that is what the rows are.
 template <int order, int element, class S, class D>
 VORM_INLINE bool copySquares(const S& src, const D& dst, const ShortRows& rows, std::ptrdiff_t objects)
 {
-    constexpr int bytes = order * element, whole = bytes / 16, rest = bytes % 16;
+    constexpr int bytes = order * element;
     if (rows.count != order || rows.bytes != bytes) return false;
-    for (std::ptrdiff_t j = 0; j < objects; ++j) {
-        const char* from = src.at(j);
-        char* to = dst.at(j);
+    eachLine(src, dst, objects, [&](const char* from, char* to) VORM_INLINE_LAMBDA {
         unrolled<order>([&](auto) VORM_INLINE_LAMBDA {
-            if constexpr (whole > 0) copyParts<Bytes16, whole>(from, to, 16 * whole);
-            if constexpr (rest >= 8) copyParts<BytesOf<std::uint64_t>, 1>(from + 16 * whole, to + 16 * whole, 8);
-            if constexpr (rest % 8 > 0) copyParts<BytesOf<std::uint32_t>, 1>(from + bytes - 4, to + bytes - 4, 4);
+            copyBytes<bytes>(from, to);
             from += rows.src, to += rows.dst;
         });
-    }
+    });
     return true;
 }
 
@@ -162,10 +158,10 @@ void copyShortRows(const S& source, const D& destination, const ShortRows& short
         copySquares<3, 8>(src, dst, rows, objects) || copySquares<4, 8>(src, dst, rows, objects) ||
         copySquares<5, 8>(src, dst, rows, objects) || copySquares<6, 8>(src, dst, rows, objects))
         return;
-    if (rows.bytes == 4) return copyRowsInParts<BytesOf<std::uint32_t>, 1>(src, dst, rows, objects);
-    if (rows.bytes == 8) return copyRowsInParts<BytesOf<std::uint64_t>, 1>(src, dst, rows, objects);
-    if (rows.bytes < 16) return copyRowsInParts<BytesOf<std::uint64_t>, 2>(src, dst, rows, objects);
-    if (rows.bytes == 16) return copyRowsInParts<Bytes16, 1>(src, dst, rows, objects);
+    if (rows.bytes == 4) return eachRow(src, dst, rows, objects, copyBytes<4>);
+    if (rows.bytes == 8) return eachRow(src, dst, rows, objects, copyBytes<8>);
+    if (rows.bytes < 16) return copyRowsInParts<Bytes8, 2>(src, dst, rows, objects);
+    if (rows.bytes == 16) return eachRow(src, dst, rows, objects, copyBytes<16>);
     if (rows.bytes <= 32) return copyRowsInParts<Bytes16, 2>(src, dst, rows, objects);
     copyRowsInParts<Bytes16, 3>(src, dst, rows, objects);
 }

@@ -1,7 +1,10 @@
 // Identities of any shape, for all layouts and types.
 
 #include "movement/identity.hpp"
+
 #include "frame/minmax.hpp"
+#include "frame/shuffles.hpp"
+#include "frame/unrolled.hpp"
 #include "movement/lines.hpp"
 #include "movement/move.hpp"
 
@@ -20,10 +23,55 @@ struct Window {
 template <class T>
 constexpr Window<T> window;
 
+// Small squares whose rows lie side by side, from registers that hold them.
+template <int order, class T>
+struct Identity {
+    T elements[order * order + narrow<T>] = {};  // a register may begin with any of them
+    constexpr Identity()
+    {
+        for (int i = 0; i < order; ++i) elements[i * order + i] = 1;
+    }
+};
+template <int order, class T>
+constexpr Identity<order, T> identityOf;
+
+template <int n, class T>
+VORM_INLINE void storeElements(const T* from, T* to)
+{
+    constexpr int whole = n / narrow<T>, rest = n % narrow<T>;
+    unrolled<whole>([&](auto k) VORM_INLINE_LAMBDA { Lanes<T>::load(from + k * narrow<T>).store(to + k * narrow<T>); });
+    if constexpr (rest > 0) storeFirst(to + whole * narrow<T>, Lanes<T>::load(from + whole * narrow<T>), rest);
+}
+template <int order, class T, class D>
+void loadSquares(const D dst, int count)
+{
+    constexpr const T* from = identityOf<order, T>.elements;
+    if (dst.row == order * std::ptrdiff_t{sizeof(T)})
+        for (int n = 0; n < count; ++n) storeElements<order * order>(from, dst.at(n));
+    else
+        for (int n = 0; n < count; ++n)
+            unrolled<order>([&, to = dst.at(n)](auto r) VORM_INLINE_LAMBDA {
+                storeElements<order>(from + r * order, advance(to, r * dst.row));
+            });
+}
+template <class T, class D>
+VORM_INLINE bool loadSmallSquares(const D& dst, int order, int count)
+{
+    switch (order) {
+    case 3: return loadSquares<3, T>(dst, count), true;
+    case 4: return loadSquares<4, T>(dst, count), true;
+    case 5: return loadSquares<5, T>(dst, count), true;
+    case 6: return loadSquares<6, T>(dst, count), true;
+    default: return false;
+    }
+}
+
 template <class T, class D>
 VormStatus load(const D& dst, int rows, int columns, int count)
 {
     constexpr std::ptrdiff_t one = sizeof(T);
+    if constexpr (!isTable<D>)
+        if (rows == columns && dst.column == one && loadSmallSquares<T>(dst, rows, count)) return StatusOk;
     constexpr int packed = 64;
     if (rows * std::int64_t{columns} <= packed) {
         T identity[packed];
@@ -43,35 +91,18 @@ VormStatus load(const D& dst, int rows, int columns, int count)
 
 }  // namespace
 
-template <>
-VormStatus loadIdentities(const StridedElements<float>& dst, int rows, int columns, int count)
+template <class D>
+VormStatus loadIdentities(const D& dst, int rows, int columns, int count)
 {
-    return load<float>(dst, rows, columns, count);
+    return load<ElementIn<D>>(dst, rows, columns, count);
 }
-template <>
-VormStatus loadIdentities(const StridedElements<double>& dst, int rows, int columns, int count)
-{
-    return load<double>(dst, rows, columns, count);
-}
-template <>
-VormStatus loadIdentities(const ListedElements<float>& dst, int rows, int columns, int count)
-{
-    return load<float>(dst, rows, columns, count);
-}
-template <>
-VormStatus loadIdentities(const ListedElements<double>& dst, int rows, int columns, int count)
-{
-    return load<double>(dst, rows, columns, count);
-}
-template <>
-VormStatus loadIdentities(const TabledElements<float>& dst, int rows, int columns, int count)
-{
-    return load<float>(dst, rows, columns, count);
-}
-template <>
-VormStatus loadIdentities(const TabledElements<double>& dst, int rows, int columns, int count)
-{
-    return load<double>(dst, rows, columns, count);
-}
+
+#define VORM_LOAD_IDENTITIES(Elements)                                         \
+    template VormStatus loadIdentities(const Elements<float>&, int, int, int); \
+    template VormStatus loadIdentities(const Elements<double>&, int, int, int);
+VORM_LOAD_IDENTITIES(StridedElements)
+VORM_LOAD_IDENTITIES(ListedElements)
+VORM_LOAD_IDENTITIES(TabledElements)
+#undef VORM_LOAD_IDENTITIES
 
 }  // namespace vorm::movement

@@ -11,9 +11,14 @@ namespace {
 // As many elements as a cache line has, so that each line of the destination, or of the source, is touched once.
 template <class T>
 constexpr int cacheLine = 64 / int{sizeof(T)};
-// Blocks of lines that are long both ways: so many elements each way, of both operands, stay in the first cache.
+// Lines that are long both ways are turned in strips: two cache lines of each of so many, which stay in the first
+// cache. What is stored then runs on for as long as it can.
+constexpr std::ptrdiff_t stripLines = 512;
 template <class T>
-constexpr std::ptrdiff_t blockEdge = 256 / sizeof(T);
+constexpr std::ptrdiff_t stripLength = 2 * cacheLine<T>;
+// Few lines are read along.
+template <class T>
+constexpr std::ptrdiff_t fewLines = 256 / sizeof(T);
 
 // So many elements of lines, or lines, at a time: their addresses are found once for a cache line of the others.
 constexpr int atOnce = 4;
@@ -33,12 +38,34 @@ VORM_INLINE L loaded(const T* p)
     return a;
 }
 
+// A cache line of doubles of n lines, an even number: each is stored from its beginning to its end.
+template <class S>
+VORM_INLINE void turnPairsIn(const S& src, double* const* to, std::ptrdiff_t x, std::ptrdiff_t y, int n)
+{
+    using L = Lanes<double>;
+    constexpr int registers = cacheLine<double> / 2;
+    const double* from[2 * registers];
+    for (int l = 0; l < 2 * registers; ++l) from[l] = src.at(y + l) + x;
+    for (int i = 0; i < n; i += 2) {
+        L lines[2][registers];
+        for (int k = 0; k < registers; ++k) {
+            L pair[] = {loaded<L>(from[2 * k] + i), loaded<L>(from[2 * k + 1] + i)};
+            transpose(pair);
+            lines[0][k] = pair[0], lines[1][k] = pair[1];
+        }
+        for (int line = 0; line < 2; ++line)
+            for (int k = 0; k < registers; ++k) lines[line][k].store(to[i + line] + 2 * k);
+    }
+}
+
 // n elements, at most as many as are done at once, of lines that fill some registers, from element x and line y on.
 template <class L, class T, class S, class D, class N>
 VORM_INLINE void turnIn(const S& src, const D& dst, std::ptrdiff_t x, std::ptrdiff_t y, int registers, N n)
 {
     T* to[atOnce];
     for (int i = 0; i < n; ++i) to[i] = dst.at(x + i) + y;
+    if constexpr (L::width == 2 && std::is_same_v<N, std::integral_constant<int, atOnce>>)
+        if (registers == cacheLine<double> / 2) return turnPairsIn(src, to, x, y, atOnce);
 #pragma GCC unroll 1
     for (int k = 0; k < registers; ++k, y += L::width) {
         const T* from[L::width];
@@ -139,11 +166,11 @@ VORM_INLINE void turnLongLines(const S& src, const D& dst, std::ptrdiff_t length
 template <class T, class S, class D>
 void turn(const S src, const D dst, std::ptrdiff_t length, std::ptrdiff_t lines)
 {
-    if (lines <= blockEdge<T> && lines < length) return turnLongLines<T>(src, dst, length, lines);
-    for (std::ptrdiff_t y = 0; y < lines; y += blockEdge<T>)
-        for (std::ptrdiff_t x = 0; x < length; x += blockEdge<T>)
-            turnManyLines<T>(src.from(y).ahead(x), dst.from(x).ahead(y), min(length - x, blockEdge<T>),
-                             min(lines - y, blockEdge<T>));
+    if (lines <= fewLines<T> && lines < length) return turnLongLines<T>(src, dst, length, lines);
+    for (std::ptrdiff_t y = 0; y < lines; y += stripLines)
+        for (std::ptrdiff_t x = 0; x < length; x += stripLength<T>)
+            turnManyLines<T>(src.from(y).ahead(x), dst.from(x).ahead(y), min(length - x, stripLength<T>),
+                             min(lines - y, stripLines));
 }
 
 }  // namespace

@@ -3,21 +3,40 @@
 #pragma once
 
 #include "elementwise/matrix_tiles.hpp"
+#include "frame/pin.hpp"
 #include "movement/lines.hpp"
 
 namespace vorm::movement {
 
-// One object, tile by tile; numbers one by one where a tile would be a row or a column, and all nine of order 3.
+// One object, in the order in which its rows are stored: whole ones as pairs of doubles, otherwise tile by tile;
+// numbers one by one where a tile would be a row or a column, and all nine of order 3.
 template <int order, class T>
 VORM_INLINE void turnSmall(const elementwise::RowsOfObject<const T>& src, const elementwise::RowsOfObject<T>& dst)
 {
     const auto number = [&](int r, int c) VORM_INLINE_LAMBDA { entry(dst.from(c), r) = T{entry(src.from(r), c)}; };
     if constexpr (order == 3) {
-        unrolled<9>([&](auto i) VORM_INLINE_LAMBDA { number(i / 3, i % 3); });
+        unrolled<9>([&](auto i) VORM_INLINE_LAMBDA { number(i % 3, i / 3); });
+    } else if constexpr (narrow<T> == 2) {
+        constexpr int pairs = order / 2;
+        unrolled<pairs>([&](auto k) VORM_INLINE_LAMBDA {
+            constexpr int c = 2 * decltype(k)::value;
+            Lanes<T> rows[2][pairs];
+            unrolled<pairs>([&](auto i) VORM_INLINE_LAMBDA {
+                Lanes<T> pair[] = {Lanes<T>::load(src.from(2 * i) + c), Lanes<T>::load(src.from(2 * i + 1) + c)};
+                for (Lanes<T>& row : pair) pin(row);  // or g++ loads halves again from memory instead of shuffling
+                transpose(pair);
+                rows[0][i] = pair[0], rows[1][i] = pair[1];
+            });
+            unrolled<2>([&](auto row) VORM_INLINE_LAMBDA {
+                unrolled<pairs>([&](auto i) VORM_INLINE_LAMBDA { rows[row][i].store(dst.from(c + row) + 2 * i); });
+                if constexpr (order % 2 == 1) number(order - 1, c + row);
+            });
+        });
+        if constexpr (order % 2 == 1) unrolled<order>([&](auto r) VORM_INLINE_LAMBDA { number(r, order - 1); });
     } else {
-        elementwise::inBands<narrow<T>>(order, order, [&]<int rows, int columns>(int r, int c) VORM_INLINE_LAMBDA {
+        elementwise::inBands<narrow<T>>(order, order, [&]<int columns, int rows>(int c, int r) VORM_INLINE_LAMBDA {
             if constexpr (rows == 1 || columns == 1)
-                unrolled<rows * columns>([&](auto i) VORM_INLINE_LAMBDA { number(r + i / columns, c + i % columns); });
+                unrolled<rows * columns>([&](auto i) VORM_INLINE_LAMBDA { number(r + i % rows, c + i / rows); });
             else
                 elementwise::Tile<T, rows, columns>::load(src, r, c).turned().store(dst, c, r);
         });

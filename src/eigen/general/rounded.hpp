@@ -1,5 +1,5 @@
 // A product that is rounded before it is added. Where a sum and a difference of products stand side by side GCC 12
-// fuses them on processors that can, also with -ffp-contract=off.
+// fuses them on processors with AVX-512, also with -ffp-contract=off.
 #pragma once
 
 #include <type_traits>
