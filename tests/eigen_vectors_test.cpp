@@ -161,6 +161,11 @@ TYPED_TEST(EigenVectors, Rotation)
         }
         EXPECT_EQ(exactlyReal, 1);
     }
+    // Of components of one size the first is made real.
+    for (const auto& solution : {right(std::vector<T>{0, -1, 1, 0}), left(std::vector<T>{0, -1, 1, 0})}) {
+        EXPECT_EQ(solution.element(0, 1), 0);
+        EXPECT_EQ(std::fabs(solution.element(1, 1)), std::fabs(solution.element(0, 0)));
+    }
 }
 
 TYPED_TEST(EigenVectors, JordanBlocksHaveNearlyParallelVectors)
@@ -336,6 +341,47 @@ TYPED_TEST(EigenVectors, BothSidesAtOnceAndValuesAloneHaveTheSameBits)
             EXPECT_EQ(re, r.re);
             EXPECT_EQ(im, r.im);
         }
+}
+
+// Neighbours whose sweeps differ in number and length, some with exceptional shifts, change nothing.
+TYPED_TEST(EigenVectors, ObjectsOfArraysHaveTheBitsOfEachAlone)
+{
+    using T = TypeParam;
+    constexpr int count = 53, e = sizeof(T);
+    Random random(5);
+    for (int n = 2; n <= 12; ++n) {
+        const auto size = std::size_t(n), square = size * size;
+        std::vector<std::vector<T>> objects;
+        std::vector<T> all;
+        for (int k = 0; k < count; ++k) {
+            objects.push_back(matrixOf<T>(n, spectra[std::size_t(k) % std::size(spectra)], random));
+            auto& a = objects.back();
+            const int kind = pick(random, 0, 9);
+            for (std::size_t i = 0; i < size; ++i)
+                for (std::size_t j = 0; j < size; ++j) {
+                    T& element = a[i * size + j];
+                    if (kind == 0) element = T(j == (i + 1) % size);
+                    if (kind == 1 && j > i) element = 0;
+                    if (kind == 2 && (i + 2 < size) != (j + 2 < size)) element = 0;
+                }
+            all.insert(all.end(), a.begin(), a.end());
+        }
+        std::vector<T> buffer(size * (3 * size + 5)), re(count * size), im = re, rights(all.size()), lefts(all.size());
+        ASSERT_EQ(
+            Functions<T>::bothArray(all.data(), n * n * e, n * e, e, rights.data(), n * n * e, n * e, e, lefts.data(),
+                                    n * n * e, n * e, e, re.data(), im.data(), n, count, buffer.data()),
+            StatusOk);
+        for (std::size_t k = 0; k < count; ++k) {
+            const auto r = right(objects[k]), l = left(objects[k]);
+            const auto expectPart = [&](const std::vector<T>& from, const std::vector<T>& alone, std::size_t length) {
+                for (std::size_t i = 0; i < length; ++i) ASSERT_EQ(from[k * length + i], alone[i]) << n << ": " << k;
+            };
+            expectPart(re, r.re, size);
+            expectPart(im, r.im, size);
+            expectPart(rights, r.vectors, square);
+            expectPart(lefts, l.vectors, square);
+        }
+    }
 }
 
 // A second opinion on vectors of values that lie apart.

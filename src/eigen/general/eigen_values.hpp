@@ -29,12 +29,13 @@ namespace vorm::eigen {
 
 using EigenValuesTests = Tests<Test::null, Test::size, Test::count, Test::shift, Test::stride>;
 
-// (order order + order) count
+// (order order + order) count. The time grows with the square of the order, as more elements keep registers busier;
+// order 2 needs no sweeps.
 template <class T>
 constexpr Work eigenValuesWork(int order, int count)
 {
-    return workOf(wrapMul(wrapAdd(wrapMul(order, order), order), count), byType<T>(3000, 6000), order, order, order,
-                  count);
+    const int picoseconds = order <= 2 ? byType<T>(2300, 3500) : byType<T>(17000, 38000);
+    return workOf(wrapMul(wrapAdd(wrapMul(order, order), order), count), picoseconds, order, order, count);
 }
 // order (order + 5) elements
 template <class T>

@@ -107,7 +107,7 @@ template <class T>
 VORM_INLINE auto eigenSideMa(EIGEN_SIDE_MA_PARAMS(T))
 {
     return arrayCallOf<T, EigenVectorsTests>(
-        eigenVectorsWork(order, count, byType<T>(55000, 70000)), MatrixArray{src, srcStride0, srcStride1, srcStride2},
+        eigenVectorsWork(order, count, byType<T>(30000, 52000)), MatrixArray{src, srcStride0, srcStride1, srcStride2},
         MatrixArray{dstVectors, dstStride0, dstStride1, dstStride2}, ObjectTable{dstValuesRe, order},
         ObjectTable{dstValuesIm, order}, Size{order}, Count{count}, eigenVectorsBuffer(buffer, order));
 }
@@ -115,14 +115,14 @@ template <class T>
 VORM_INLINE auto eigenSideMaL(EIGEN_SIDE_MA_PARAMS_L(T))
 {
     return arrayCallOf<T, EigenVectorsTests>(
-        eigenVectorsWork(order, count, byType<T>(55000, 70000)), MatrixList{srcList, srcShift, srcStride1, srcStride2},
+        eigenVectorsWork(order, count, byType<T>(30000, 52000)), MatrixList{srcList, srcShift, srcStride1, srcStride2},
         MatrixList{dstVectorList, dstShift, dstStride1, dstStride2}, ObjectTable{dstValuesRe, order},
         ObjectTable{dstValuesIm, order}, Size{order}, Count{count}, eigenVectorsBuffer(buffer, order));
 }
 template <class T>
 VORM_INLINE auto eigenSideMaP(EIGEN_SIDE_MA_PARAMS_P(T))
 {
-    return arrayCallOf<T, EigenVectorsTests>(eigenVectorsWork(order, count, byType<T>(55000, 70000)),
+    return arrayCallOf<T, EigenVectorsTests>(eigenVectorsWork(order, count, byType<T>(30000, 52000)),
                                              MatrixArrayPointers{srcPointers, srcShift, srcStride0, order},
                                              MatrixArrayPointers{dstVectorPointers, dstShift, dstStride0, order},
                                              ObjectTable{dstValuesRe, order}, ObjectTable{dstValuesIm, order},
@@ -152,7 +152,7 @@ VORM_INLINE auto eigenSidesMP(EIGEN_SIDES_M_PARAMS_P(T))
 template <class T>
 VORM_INLINE auto eigenSidesMa(EIGEN_SIDES_MA_PARAMS(T))
 {
-    return arrayCallOf<T, EigenVectorsTests>(eigenVectorsWork(order, count, byType<T>(65000, 80000)),
+    return arrayCallOf<T, EigenVectorsTests>(eigenVectorsWork(order, count, byType<T>(40000, 65000)),
                                              MatrixArray{src, srcStride0, srcStride1, srcStride2},
                                              Together{MatrixArray{dstVectors1, dst1Stride0, dst1Stride1, dst1Stride2},
                                                       MatrixArray{dstVectors2, dst2Stride0, dst2Stride1, dst2Stride2}},
@@ -162,7 +162,7 @@ VORM_INLINE auto eigenSidesMa(EIGEN_SIDES_MA_PARAMS(T))
 template <class T>
 VORM_INLINE auto eigenSidesMaL(EIGEN_SIDES_MA_PARAMS_L(T))
 {
-    return arrayCallOf<T, EigenVectorsTests>(eigenVectorsWork(order, count, byType<T>(65000, 80000)),
+    return arrayCallOf<T, EigenVectorsTests>(eigenVectorsWork(order, count, byType<T>(40000, 65000)),
                                              MatrixList{srcList, srcShift, srcStride1, srcStride2},
                                              Together{MatrixList{dstVectorList1, dst1Shift, dst1Stride1, dst1Stride2},
                                                       MatrixList{dstVectorList2, dst2Shift, dst2Stride1, dst2Stride2}},
@@ -173,7 +173,7 @@ template <class T>
 VORM_INLINE auto eigenSidesMaP(EIGEN_SIDES_MA_PARAMS_P(T))
 {
     return arrayCallOf<T, EigenVectorsTests>(
-        eigenVectorsWork(order, count, byType<T>(65000, 80000)),
+        eigenVectorsWork(order, count, byType<T>(40000, 65000)),
         MatrixArrayPointers{srcPointers, srcShift, srcStride0, order},
         Together{MatrixArrayPointers{dstVectorPointers1, dst1Shift, dst1Stride0, order},
                  MatrixArrayPointers{dstVectorPointers2, dst2Shift, dst2Stride0, order}},

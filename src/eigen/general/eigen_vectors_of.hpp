@@ -1,6 +1,7 @@
-// The values and vectors of one matrix, compiled once, in eigen_vectors.cpp.
+// The values and vectors of one matrix, and of several side by side: compiled once, in eigen_vectors.cpp.
 #pragma once
 
+#include "frame/lanes.hpp"
 #include "frame/layers.hpp"
 #include "vorm/status.h"
 
@@ -19,5 +20,20 @@ struct Outcome {
 // elements, and matrix is lost.
 template <class T>
 VORM_HIDDEN Outcome eigenVectorsOf(Sides sides, int order, T* matrix, T* const* stores, T* re, T* im, T* work);
+
+// Orders of which several objects lie side by side.
+constexpr int mostVectorsSideBySide = 10;
+
+// A few objects side by side: their matrices by rows, and what becomes of them, one after the other without gaps.
+template <class T, int objects>
+struct Group {
+    static constexpr int square = mostVectorsSideBySide * mostVectorsSideBySide;
+    T matrices[objects * square], vectors[2][objects * square];
+    T re[objects * mostVectorsSideBySide], im[objects * mostVectorsSideBySide];
+};
+
+// The same of as many objects as a number has lanes, and whether none of them fails.
+template <class Number>
+VORM_HIDDEN bool eigenVectorsSideBySide(Sides sides, int order, Group<Element<Number>, Number::width>& group);
 
 }  // namespace vorm::eigen

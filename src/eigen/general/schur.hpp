@@ -71,16 +71,19 @@ VORM_INLINE void hessenberg(Number* matrix, int n, Number* tau, Number* work)
 }
 
 // The product of the reflections of a reduction.
-template <class T>
-void formTransformation(const T* matrix, const T* tau, int n, T* transformation)
+template <class Number>
+VORM_INLINE void formTransformation(const Number* matrix, const Number* tau, int n, Number* transformation)
 {
-    const Columns<const T> m{matrix, n};
-    const Columns<T> q{transformation, n};
+    using T = Element<Number>;
+    const Columns<const Number> m{matrix, n};
+    const Columns<Number> q{transformation, n};
     for (int c = 0; c < n; ++c)
-        for (int r = 0; r < n; ++r) q(r, c) = r == c ? T(1) : T(0);
-    for (int k = n - 3; k >= 0; --k)
-        if (abs(tau[k]) > tiny<T>)
-            for (int c = k + 1; c < n; ++c) reflectColumn(m.column(k), tau[k], true, q.column(c), k, n);
+        for (int r = 0; r < n; ++r) q(r, c) = Number(r == c ? T(1) : T(0));
+    for (int k = n - 3; k >= 0; --k) {
+        const auto isTurned = abs(tau[k]) > Number(tiny<T>);
+        if (!any(isTurned)) continue;
+        for (int c = k + 1; c < n; ++c) reflectColumn(m.column(k), tau[k], isTurned, q.column(c), k, n);
+    }
 }
 
 // What a reduction leaves below the subdiagonal.
@@ -240,31 +243,29 @@ VORM_INLINE void sweep(const Columns<T>& m, const Columns<T>& q, Active<T> activ
     }
 }
 
-// The pair at last - 1 and last leaves.
-template <bool keeps, class T>
-VORM_INLINE void leavePair(const Columns<T>& m, const Columns<T>& q, int last, T* re, T* im)
+// The pair at last - 1 and last leaves: its block in standard form. M(i, j) is m(i, j).
+template <bool keeps, class M>
+VORM_INLINE auto leavePair(const M& m, const M& q, int n, int last)
 {
+    using T = std::remove_cvref_t<decltype(m(0, 0))>;
     const int other = last - 1;
     Block<T> block{m(other, other), m(other, last), m(last, other), m(last, last)};
     const Turn<T> turn = standardise<keeps>(block);
-    re[other] = block.a;
-    re[last] = block.d;
-    im[other] = imaginaryOf(block);
-    im[last] = conjugateOf(block, im[other]);
     if constexpr (keeps) {
         const auto rotate = [&](T& x, T& y) VORM_INLINE_LAMBDA {
             const T turned = rounded(turn.cs * x) + rounded(turn.sn * y);
             y = rounded(turn.cs * y) - rounded(turn.sn * x);
             x = turned;
         };
-        for (int c = last + 1; c < m.n; ++c) rotate(m(other, c), m(last, c));
+        for (int c = last + 1; c < n; ++c) rotate(m(other, c), m(last, c));
         for (int r = 0; r < other; ++r) rotate(m(r, other), m(r, last));
-        for (int r = 0; r < m.n; ++r) rotate(q(r, other), q(r, last));
+        for (int r = 0; r < n; ++r) rotate(q(r, other), q(r, last));
         m(other, other) = block.a;
         m(other, last) = block.b;
         m(last, other) = block.c;
         m(last, last) = block.d;
     }
+    return block;
 }
 
 // From a Hessenberg matrix, with zeros below the subdiagonal, to the values re + i im, which leave from the last to the
@@ -290,7 +291,11 @@ int iterate(T* matrix, T* transformation, int n, T* re, T* im)
             re[last] = m(last, last);
             im[last] = T(0);
         } else {
-            leavePair<keeps>(m, q, last, re, im);
+            const Block<T> block = leavePair<keeps>(m, q, n, last);
+            re[first] = block.a;
+            re[last] = block.d;
+            im[first] = imaginaryOf(block);
+            im[last] = conjugateOf(block, im[first]);
         }
         budget -= sweeps;
         last = first - 1;

@@ -1,6 +1,7 @@
-// The values of as many objects as a number has lanes, whose sweeps run at once. Each lane has a block of its own to
-// sweep, so that a step may be none of some lanes, or one of two rows in some and of three in others. Only what lies
-// outside of a lane's block, which no value comes from any more, may come out otherwise than for an object alone.
+// The values, or the Schur forms as well, of as many objects as a number has lanes, whose sweeps run at once. Each lane
+// has a block of its own to sweep, so that a step may be none of some lanes, or one of two rows in some and of three in
+// others. For values alone what lies outside of a lane's block, which no value comes from any more, may come out
+// otherwise than for an object alone.
 #pragma once
 
 #include "eigen/general/schur.hpp"
@@ -47,7 +48,13 @@ struct StepFactors {
     }
 };
 
-template <class Number, class N>
+// Where the Schur form and the transformation of lane l go, by columns: from element l order order on.
+template <class T>
+struct SchurForms {
+    T *form, *transformation;
+};
+
+template <bool keeps, class Number, class N>
 class SideBySide {
     using T = Element<Number>;
     using Mask = decltype(Number() < Number());
@@ -58,42 +65,61 @@ class SideBySide {
     };
 
 public:
-    // Brings the matrices, of which only the first objects count, to Hessenberg form, and iterates. Value k of lane l
-    // is re[k] + i im[k] from left[l] on; the others have not left when its sweeps are spent.
-    VORM_INLINE SideBySide(Number* matrix, N n, int objects, Number* re, Number* im, int* left)
-        : matrix_(matrix), n_(n), re_(re), im_(im)
+    // Brings the matrices to Hessenberg form, and iterates. Value k of a lane is re[k] + i im[k].
+    VORM_INLINE SideBySide(Number* matrix, N n, Number* re, Number* im, SchurForms<T> forms = {})
+        : matrix_(matrix), n_(n), re_(re), im_(im), forms_(forms)
     {
         const int order = n;
         Number work[2 * mostSideBySide];
         hessenberg(matrix, order, work, work + mostSideBySide);
+        if constexpr (keeps) formTransformation(matrix, work, order, transformation_);
         clearBelowSubdiagonal(matrix, order);
-        for (int l = 0; l < lanes; ++l) {
-            lane_[l] = {order - 1, 0, 0, 30 * order};
-            left[l] = 0;
-            if (l >= objects) retire(l);
-        }
+        for (State& lane : lane_) lane = {order - 1, 0, 0, 30 * order};
         for (int k = 0; k < order; ++k) pairs_[k] = re[k] = im[k] = Number(T(0));
-        while (settle(left)) sweep();
-        for (int k = 0; k + 1 < order; ++k) standardisePairs(k);
+        while (settle()) sweep();
+        if constexpr (!keeps)
+            for (int k = 0; k + 1 < order; ++k) standardisePairs(k);
     }
+    // Whether all values have left before the sweeps were spent.
+    VORM_INLINE bool isComplete() const { return isComplete_; }
 
 private:
     struct State {
         int last, first, sweeps, budget;
     };
 
+    // The elements of a matrix in one lane.
+    struct LaneColumns {
+        T* p;
+        int n;
+        VORM_INLINE T& operator()(int i, int j) const { return p[(j * n + i) * lanes]; }
+    };
+
     VORM_INLINE Number& m(int i, int j) { return matrix_[j * int{n_} + i]; }
+    VORM_INLINE Number& q(int i, int j) { return transformation_[j * int{n_} + i]; }
     VORM_INLINE T& inLane(Number& a, int l) { return reinterpret_cast<T*>(&a)[l]; }
 
-    // Zeros, which stay what they are: of what is left numbers might become so small that they take long.
+    // A lane is done. Its place is filled with zeros, which stay what they are: of what is left numbers might become so
+    // small that they take long.
     VORM_INLINE void retire(int l)
     {
         lane_[l].last = -1;
+        if constexpr (keeps) {
+            const int square = n_ * n_;
+            T *const form = forms_.form + l * square, *const transformation = forms_.transformation + l * square;
+            for (int e = 0; e < square; ++e) {
+                form[e] = inLane(matrix_[e], l);
+                transformation[e] = inLane(transformation_[e], l);
+            }
+            // Lanes with NaNs may have turned zeros outside of their blocks.
+            for (int k = 0; k + 1 < n_; ++k)
+                if (inLane(pairs_[k], l) == 0) form[k * n_ + k + 1] = 0;
+        }
         for (int e = 0; e < n_ * n_; ++e) inLane(matrix_[e], l) = 0;
     }
 
     // Lets leave what has been split off. Returns whether a lane has to go on.
-    VORM_INLINE bool settle(int* left)
+    VORM_INLINE bool settle()
     {
         unsigned negligible[mostSideBySide];
         for (int k = 1; k < n_; ++k) negligible[k] = laneBits(abs(m(k, k - 1)) <= Number(ulp<T>));
@@ -108,7 +134,7 @@ private:
                     if (k > 0) inLane(m(k, k - 1), l) = 0;
                     if (k < s.last - 1) break;
                 } else if (s.first < s.last - 1) {
-                    left[l] = s.last + 1;
+                    isComplete_ = false;
                     retire(l);
                     break;
                 }
@@ -128,12 +154,24 @@ private:
     VORM_INLINE void leave(State& s, int l)
     {
         const int k = s.last;
-        inLane(re_[k], l) = inLane(m(k, k), l);
-        if (s.first < k) {
+        if (s.first == k) {
+            inLane(re_[k], l) = inLane(m(k, k), l);
+        } else {
             inLane(pairs_[k - 1], l) = 1;
-            inLane(re_[k - 1], l) = inLane(m(k - 1, k - 1), l);
-            inLane(im_[k - 1], l) = inLane(m(k - 1, k), l);
-            inLane(im_[k], l) = inLane(m(k, k - 1), l);
+            Block<T> block;
+            if constexpr (keeps) {
+                const LaneColumns own{&inLane(matrix_[0], l), n_}, turned{&inLane(transformation_[0], l), n_};
+                block = leavePair<true>(own, turned, n_, k);
+                const T imaginary = imaginaryOf(block);
+                block.b = imaginary, block.c = conjugateOf(block, imaginary);
+            } else {
+                block = {inLane(m(k - 1, k - 1), l), inLane(m(k - 1, k), l), inLane(m(k, k - 1), l),
+                         inLane(m(k, k), l)};
+            }
+            inLane(re_[k - 1], l) = block.a;
+            inLane(im_[k - 1], l) = block.b;
+            inLane(im_[k], l) = block.c;
+            inLane(re_[k], l) = block.d;
         }
         s = {s.first - 1, 0, 0, s.budget - s.sweeps};
     }
@@ -212,17 +250,17 @@ private:
             }
             const Mask allOn = on | idle, allThree = three | idle;
             if (all(allThree))
-                step<Rows::three>(k, lowestStart, highestStart, x, start, first, on, three);
+                step<Rows::three>(k, highestStart, x, start, first, on, three);
             else if (!someThree && all(allOn))
-                step<Rows::two>(k, lowestStart, highestStart, x, start, first, on, three);
+                step<Rows::two>(k, highestStart, x, start, first, on, three);
             else
-                step<Rows::mixed>(k, lowestStart, highestStart, x, start, first, on, three);
+                step<Rows::mixed>(k, highestStart, x, start, first, on, three);
         }
     }
 
     template <Rows rows>
-    VORM_INLINE void step(int k, int lowestStart, int highestStart, const Start<Number>& x, const Number& start,
-                          const Number& first, const Mask& on, const Mask& three)
+    VORM_INLINE void step(int k, int highestStart, const Start<Number>& x, const Number& start, const Number& first,
+                          const Mask& on, const Mask& three)
     {
         const Number zero(T(0));
         const bool hasThird = rows == Rows::three || (rows == Rows::mixed && k + 2 < n_);
@@ -244,16 +282,19 @@ private:
             m(k + 1, k - 1) = select(later, zero, m(k + 1, k - 1));
             if (hasThird) m(k + 2, k - 1) = select(later & three, zero, m(k + 2, k - 1));
         }
-        static_cast<void>(lowestStart);
         const StepFactors<rows, Number> factors{v2, v3,   reflection.tau, reflection.tau * v2, reflection.tau * v3,
                                                 on, three};
-        const int rowsEnd = min(k + 3, high_) + 1;
+        const int columnsEnd = keeps ? int{n_} : high_ + 1, rowsEnd = min(k + 3, high_) + 1;
         if (hasThird) {
-            for (int c = k; c <= high_; ++c) factors.turn(m(k, c), m(k + 1, c), m(k + 2, c));
-            for (int r = low_; r < rowsEnd; ++r) factors.turn(m(r, k), m(r, k + 1), m(r, k + 2));
+            for (int c = k; c < columnsEnd; ++c) factors.turn(m(k, c), m(k + 1, c), m(k + 2, c));
+            for (int r = keeps ? 0 : low_; r < rowsEnd; ++r) factors.turn(m(r, k), m(r, k + 1), m(r, k + 2));
+            if constexpr (keeps)
+                for (int r = 0; r < n_; ++r) factors.turn(q(r, k), q(r, k + 1), q(r, k + 2));
         } else {
-            for (int c = k; c <= high_; ++c) turnTwo(factors, m(k, c), m(k + 1, c));
-            for (int r = low_; r < rowsEnd; ++r) turnTwo(factors, m(r, k), m(r, k + 1));
+            for (int c = k; c < columnsEnd; ++c) turnTwo(factors, m(k, c), m(k + 1, c));
+            for (int r = keeps ? 0 : low_; r < rowsEnd; ++r) turnTwo(factors, m(r, k), m(r, k + 1));
+            if constexpr (keeps)
+                for (int r = 0; r < n_; ++r) turnTwo(factors, q(r, k), q(r, k + 1));
         }
     }
     // At the end of the matrix no lane has a third row.
@@ -272,11 +313,13 @@ private:
     Number* const matrix_;
     const N n_;
     Number *const re_, *const im_;
+    const SchurForms<T> forms_;
+    Number transformation_[keeps ? mostSideBySide * mostSideBySide : 1];
     Number pairs_[mostSideBySide];
     State lane_[lanes];
     PerLane last_, first_, exceptional_;
     int low_, high_, lowestLast_;  // of the lanes' blocks
-    bool isExceptional_;
+    bool isExceptional_, isComplete_ = true;
 };
 
 }  // namespace vorm::eigen

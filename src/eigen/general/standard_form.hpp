@@ -72,8 +72,8 @@ VORM_INLINE Turn<Number> standardise(Block<Number>& block)
                 if (any(foundReal)) {
                     const Number rootB = sqrt(abs(b1)), rootC = sqrt(abs(c1)), norm = sqrt(abs(b1 + c1));
                     const Number cs1 = rootB / norm, sn1 = rootC / norm;
-                    const Number turned = cs * cs1 - sn * sn1;
-                    sn = select(foundReal, cs * sn1 + sn * cs1, sn);
+                    const Number turned = rounded(cs * cs1) - rounded(sn * sn1);
+                    sn = select(foundReal, rounded(cs * sn1) + rounded(sn * cs1), sn);
                     cs = select(foundReal, turned, cs);
                 }
                 const Number quarter = select(noB, -sn, cs);

@@ -19,10 +19,7 @@ namespace {
 template <class Number, class N>
 VORM_SHARED bool iterateSideBySide(Number* matrix, N n, Number* re, Number* im)
 {
-    int left[objectsIn<Number>], all = 0;
-    const SideBySide<Number, N> iteration(matrix, n, objectsIn<Number>, re, im, left);
-    for (const int one : left) all |= one;
-    return all == 0;
+    return SideBySide<false, Number, N>(matrix, n, re, im).isComplete();
 }
 
 // Without reduction or sweep.
