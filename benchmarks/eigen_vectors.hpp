@@ -46,8 +46,7 @@ Task vectorsOf(auto members, int count)
     const auto arguments = [=](const Array<T>& from, const Array<T>& to, const Array<T>& other, auto as) {
         const auto rest = std::tuple(re, im, n, count, buffer);
         if constexpr (sides == Sides::both)
-            return std::tuple_cat(matrixArguments(from, as), matrixArguments(to, as),
-                                  matrixArguments(other, as), rest);
+            return std::tuple_cat(matrixArguments(from, as), matrixArguments(to, as), matrixArguments(other, as), rest);
         else
             return std::tuple_cat(matrixArguments(from, as), matrixArguments(to, as), rest);
     };
