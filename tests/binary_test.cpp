@@ -170,7 +170,7 @@ TEST(Binary, SizeOfTheCode)
     GTEST_SKIP() << "not an optimised build without sanitizers";
 #endif
 #ifdef __clang__
-    constexpr long budget = 5250000;
+    constexpr long budget = 5400000;
 #else
     constexpr long budget = 5600000;
 #endif
