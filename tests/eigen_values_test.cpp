@@ -158,7 +158,7 @@ void checkKnown()
 {
     using Values = std::vector<Value>;
     using Elements = std::vector<T>;
-    EXPECT_EQ(valuesOf<T>({-7}, 1), (Values{-7}));
+    EXPECT_EQ(valuesOf<T>({-7}, 1), (Values{Value(-7)}));
     EXPECT_EQ(valuesOf<T>({0, 0, 0, 0}, 2), (Values{0, 0}));
     EXPECT_EQ(valuesOf<T>(Elements(25, 0), 5), (Values{0, 0, 0, 0, 0}));
     EXPECT_EQ(valuesOf<T>({0, -1, 1, 0}, 2), (Values{{0, 1}, {0, -1}}));
