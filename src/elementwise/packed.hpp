@@ -94,20 +94,20 @@ template <int Len, class Op, class T, class A, class B>
 VORM_INLINE void packedBlocks(const Op& op, const A& a, const B& b, const VectorArray<T, Adjacent>& dst, int count)
 {
     constexpr int width = Lanes<T>::width;
-    const int inBlocks = count / width * width;
-    if (inBlocks > 0) {
+    int done = 0;
+    if (count >= width) {
         Block<T, Len, A> blockA(a);
         Block<T, Len, B> blockB(b);
         Block<T, Len, VectorArray<T, Adjacent>> blockDst(dst);
-        for (int n = 0; n < inBlocks; n += width) {
-            blockA.enter(n), blockB.enter(n);
+        for (; done <= count - width; done += width) {
+            blockA.enter(done), blockB.enter(done);
             unrolled<Len>([&](auto j) VORM_INLINE_LAMBDA {
                 blockDst.template put<j>(op.apply(blockA.template get<j>(), blockB.template get<j>()));
             });
             blockA.leave(), blockB.leave(), blockDst.leave();
         }
     }
-    eachObject<SmallVector<T, Len>>(op, a, b, dst, inBlocks, count);
+    eachObject<SmallVector<T, Len>>(op, a, b, dst, done, count);
 }
 
 // Packed arrays with nothing that repeats: one run through all objects.

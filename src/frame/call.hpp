@@ -98,11 +98,11 @@ requires(... || std::is_same_v<Part, Count>) VORM_INLINE
 
 // Public layers. -------------------------------------------------------------------------------------------------
 
-// Over plain numbers, so that compilers make comparisons and jumps of them.
+// A comparison and a jump for each number.
 template <class... Int>
 VORM_INLINE bool anyBelowOne(Int... numbers)
 {
-    return (... || (numbers < 1));
+    return (... || (testHere(), numbers < 1));
 }
 template <class T, class... Int>
 VORM_INLINE bool anyBadStride(Int... strides)
@@ -120,7 +120,7 @@ template <Test test, class T, class... Argument>
 VORM_INLINE VormStatus outcome(Argument... argument)
 {
     if constexpr (test == Test::null)
-        if ((... || argument.isNull())) return StatusNullPointer;
+        if ((... || (testHere(), argument.isNull()))) return StatusNullPointer;
     if constexpr (test == Test::count)
         if ((... || (argument.countOr(1) < 1))) return StatusBadCount;
     if constexpr (test == Test::size)
@@ -184,14 +184,11 @@ VORM_INLINE VormStatus tested(const Call<T, PartByPart<OfTheCall, OfEachPart>, P
 template <class T, class TheTests, class Parts>
 VORM_INLINE bool isContiguous(const Call<T, TheTests, Parts>& call)
 {
-    const int gaps = call.parts.with([](const auto&... part) VORM_INLINE_LAMBDA {
-        return withTested([](auto... argument) VORM_INLINE_LAMBDA { return (... | argument.gap(sizeof(T))); }, part...);
+    return call.parts.with([](const auto&... part) VORM_INLINE_LAMBDA {
+        return withTested([](auto... argument)
+                              VORM_INLINE_LAMBDA { return (... && (testHere(), argument.gap(sizeof(T)) == 0)); },
+                          part...);
     });
-#ifdef __clang__
-    return opaque(gaps) == 0;  // or clang learns the strides, and writes constants in their place; g++ does better
-#else                          // without
-    return gaps == 0;
-#endif
 }
 
 // A member whose order of tests is not that of its shape.

@@ -9,6 +9,7 @@
 
 #include "frame/planes.hpp"
 #include "frame/shuffles.hpp"
+#include "frame/small_vector.hpp"
 
 namespace vorm {
 
@@ -198,6 +199,14 @@ VORM_INLINE void storeVectors(const View& view, int first, const Number* x, N n)
         scatterVectors(view, first, objectsIn<Number>, n, reinterpret_cast<const T*>(x));
 }
 
+// n adjacent elements of one object.
+template <int n, class T>
+VORM_INLINE void copyRow(const T* from, T* to)
+{
+    using Row = SmallVector<T, n>;
+    unrolled<Row::parts>([&](auto k) VORM_INLINE_LAMBDA { Row::template putPart<k>(to, Row::template part<k>(from)); });
+}
+
 // Element (r, c) of each matrix is at a[r][c].
 template <class Number, class View, int n>
 VORM_INLINE void loadMatrices(const View& view, int first, Number (&a)[n][n])
@@ -215,6 +224,8 @@ VORM_INLINE void loadMatrices(const View& view, int first, Number (&a)[n][n])
         unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
             for (int c = 0; c < n; ++c) a[r][c] = Number::load(view.element(r, c) + first);
         });
+    else if constexpr (!inLanes<Number> && isAdjacent<View>)
+        unrolled<n>([&](auto r) VORM_INLINE_LAMBDA { copyRow<n, T>(rowAt(view, first, r), a[r]); });
     else
         gatherMatrices(view, first, objectsIn<Number>, n, reinterpret_cast<T*>(a));
 }
@@ -255,6 +266,8 @@ VORM_INLINE void storeMatrices(const View& view, int first, const Number (&a)[n]
         unrolled<n>([&](auto r) VORM_INLINE_LAMBDA {
             for (int c = 0; c < n; ++c) a[r][c].store(view.element(r, c) + first);
         });
+    else if constexpr (!inLanes<Number> && isAdjacent<View>)
+        unrolled<n>([&](auto r) VORM_INLINE_LAMBDA { copyRow<n, T>(a[r], rowAt(view, first, r)); });
     else
         scatterMatrices(view, first, objectsIn<Number>, n, reinterpret_cast<const T*>(a));
 }
@@ -280,6 +293,8 @@ VORM_INLINE void storeMatrices(const View& view, int first, const Number (&a)[n]
                 for (int c = 0; c < n; ++c) elementAt(planes[c] + l, offset) = lane<l>(a[r][c]);
             });
         });
+    else if constexpr (!inLanes<Number> && isAdjacent<View>)
+        unrolled<n>([&](auto r) VORM_INLINE_LAMBDA { copyRow<n, T>(a[r], rowAt(view, first, row(0, r))); });
     else
         scatterRows(view, first, objectsIn<Number>, n, n, rows, reinterpret_cast<const T*>(a));
 }

@@ -24,4 +24,7 @@ VORM_INLINE Integer opaque(Integer value)
     return value;
 }
 
+// Before a test that is to stay a comparison and a jump: g++ else works out several at once as flags, and adds those.
+VORM_INLINE void testHere() { __asm__ volatile(""); }
+
 }  // namespace vorm

@@ -235,21 +235,36 @@ VORM_INLINE void storeCross(double* p, const PackedResults<L>& r)
 }
 
 template <class A, class B, class T>
-VORM_INLINE void contiguousCross(const A& a, const B& b, const VectorArray<T, Adjacent>& dst, int count)
+VORM_INLINE void packedCross(const A& a, const B& b, const VectorArray<T, Adjacent>& dst, int count)
 {
+    using L = Lanes<T>;
     using Packed = typename Loads<T>::Packed;
     using Shared = typename Loads<T>::Shared;
-    using Single = typename Loads<T>::Single;
+    const std::conditional_t<A::isCommon, Shared, Packed> ofA(a);
+    const std::conditional_t<B::isCommon, Shared, Packed> ofB(b);
+    const auto store = [&](int n, const auto& r) VORM_INLINE_LAMBDA { storeCross(dst.object(n), r); };
     int done = 0;
-    if (isPacked(a, 3) && isPacked(b, 3) && isPacked(dst, 3))
-        registersOfCross<Wide<T>>(
-            std::conditional_t<A::isCommon, Shared, Packed>(a), std::conditional_t<B::isCommon, Shared, Packed>(b),
-            [&](int n, const auto& r) VORM_INLINE_LAMBDA { storeCross(dst.object(n), r); }, done, count);
-    if constexpr (std::is_same_v<T, float>) {
-        eachCross<InSlot>(a, b, dst, done, count - 1);
-        done = max(done, count - 1);
+    if constexpr (L::width > 2) {
+        // The last register of objects may overlap the one before, so that it is read before anything is stored.
+        const auto last = cross(ofA.template load<L>(count - L::width), ofB.template load<L>(count - L::width));
+        registersOfCross<Wide<T>>(ofA, ofB, store, done, count - 1);
+        store(count - L::width, last);
+    } else {  // of pairs, one object is left at most
+        registersOfCross<Wide<T>>(ofA, ofB, store, done, count);
+        if (done < count) eachCross<typename Loads<T>::Single>(a, b, dst, count - 1, count);
     }
-    eachCross<Single>(a, b, dst, done, count);
+}
+template <class A, class B, class T>
+VORM_INLINE void contiguousCross(const A& a, const B& b, const VectorArray<T, Adjacent>& dst, int count)
+{
+    if (isPacked(a, 3) && isPacked(b, 3) && isPacked(dst, 3) && count >= Lanes<T>::width)
+        return packedCross(a, b, dst, count);
+    int done = 0;
+    if constexpr (std::is_same_v<T, float>) {
+        done = count - 1;
+        eachCross<InSlot>(a, b, dst, 0, done);
+    }
+    eachCross<typename Loads<T>::Single>(a, b, dst, done, count);
 }
 // Of a list, or single vectors.
 template <class A, class B, class T, template <class, class> class Dst>
@@ -260,19 +275,29 @@ VORM_INLINE void contiguousCross(const A& a, const B& b, const Dst<T, Adjacent>&
 
 // Pointer tables. --------------------------------------------------------------------------------------------
 
+// Whole lines of the destination come first, and are fetched before their turn: where they have left the first cache,
+// stores to three planes would wait for one line after the other.
 template <class T, class A, class B>
 VORM_INLINE void pointerCross(const A& a, const B& b, const VectorArrayPointers<T>& dst, int count)
 {
     int done = 0;
     if (inPlanes(a) && inPlanes(b) && storableAsPlanes(dst, 3, 1, count)) {
+        using L = Wide<T>;
+        constexpr int line = 64 / int{sizeof(T)}, linesAhead = 2;
+        const std::conditional_t<A::isCommon, InAllLanes<T>, Planes<T>> ofA(a);
+        const std::conditional_t<B::isCommon, InAllLanes<T>, Planes<T>> ofB(b);
         T* const to[3] = {dst.element(0), dst.element(1), dst.element(2)};
-        registersOfCross<Wide<T>>(
-            std::conditional_t<A::isCommon, InAllLanes<T>, Planes<T>>(a),
-            std::conditional_t<B::isCommon, InAllLanes<T>, Planes<T>>(b),
-            [&](int n, const auto& r) VORM_INLINE_LAMBDA {
-                for (int i = 0; i < 3; ++i) r.v[i].store(to[i] + n);
-            },
-            done, count);
+        const auto store = [&](int n, const auto& r) VORM_INLINE_LAMBDA {
+            for (int i = 0; i < 3; ++i) r.v[i].store(to[i] + n);
+        };
+        for (; done <= count - line; done += line) {
+            for (int i = 0; i < 3; ++i) __builtin_prefetch(to[i] + done + linesAhead * line);
+            unrolled<line / L::width>([&](auto k) VORM_INLINE_LAMBDA {
+                const int n = done + k * L::width;
+                store(n, cross(ofA.template load<L>(n), ofB.template load<L>(n)));
+            });
+        }
+        registersOfCross<L>(ofA, ofB, store, done, count);
     }
     eachCross<Three<T>>(a, b, dst, done, count);
 }
