@@ -13,7 +13,7 @@ ensurePackages()
     if [ "$(id -u)" -ne 0 ]; then
         asRoot=(sudo)
         if ! command -v sudo >/dev/null; then
-            echo "Missing, and only root can install them: ${missing[*]}" >&2
+            echo "Packages are missing, and without sudo only root can install them: apt-get install ${missing[*]}" >&2
             return 1
         fi
     fi

@@ -34,13 +34,15 @@ using Wide = long double;
 
 enum class Kind { random, graded, permuted, nearlySingular, integers };
 
-// G G', whose last row is nearly another one or whose rows grow by 2^4 each, downwards or in any order.
+// G G', whose last row is nearly another one or whose rows grow by 2^4 each, downwards or in any order; by 2 each where
+// there are so many that the squares would be infinite in single precision.
 template <class T>
 std::vector<T> definite(int n, Kind kind, Random& random)
 {
     std::vector<Wide> g(std::size_t(n * n));
     std::vector<int> grade(static_cast<std::size_t>(n));
-    for (int r = 0; r < n; ++r) grade[std::size_t(r)] = kind == Kind::graded || kind == Kind::permuted ? 4 * r : 0;
+    const int step = n > 12 ? 1 : 4;
+    for (int r = 0; r < n; ++r) grade[std::size_t(r)] = kind == Kind::graded || kind == Kind::permuted ? step * r : 0;
     if (kind == Kind::permuted) shuffle(grade, random);
     for (int k = 0; k < n * n; ++k)
         g[std::size_t(k)] = kind == Kind::integers

@@ -95,9 +95,8 @@ std::uint64_t digestOf(const Function& f)
             constexpr int teams[] = {1, 1, 1, 2, 3, 8};
             p.count = call == 0 ? largeCount(f, sizes) : isLong ? pick(random, 100, 900) : pick(random, 1, 40);
             p.threads = call == 0 ? 3 : teams[pick(random, 0, 5)];
-            // Results that overlap each other are written in ascending order on one thread; not in sums of
-            // vectors, in which older builds of the library differ there.
-            if (f.family != "Add" && f.family != "Sub" && !f.isMovement() && chance(random, 15)) {
+            // Results that overlap each other are written in ascending order on one thread.
+            if (!f.isMovement() && chance(random, 15)) {
                 p.threads = 1;
                 letResultsOverlap(f, p, pick(random, f.layout == "P" ? 0 : 1, 4), random);
             }

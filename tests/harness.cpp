@@ -1,3 +1,5 @@
+// Lays out the operands of a call, makes it, and holds all that it touched against the model of its family.
+
 #include "harness.hpp"
 
 #include <set>

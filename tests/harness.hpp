@@ -1,5 +1,5 @@
 // The one harness: a call of any function of the catalogue, each operand laid out for itself, beside the
-// model of its family. A family brings what it differs in, see families.hpp.
+// model of its family. A family brings what it differs in; families.cpp names them all.
 #pragma once
 
 #include <functional>

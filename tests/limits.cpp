@@ -1,3 +1,5 @@
+// The measures and limits of all drivers, a row for the shapes that share them, and what they say of a call.
+
 #include "limits.hpp"
 
 #include <sstream>
