@@ -33,6 +33,13 @@ VORM_INLINE void turnSmall(const RowsOfObject<const T>& src, const RowsOfObject<
             });
         });
         if constexpr (order % 2 == 1) unrolled<order>([&](auto r) VORM_INLINE_LAMBDA { number(r, order - 1); });
+    } else if constexpr (order == 5) {
+        const auto tile = Tile<T, 4, 4>::load(src, 0, 0).turned();
+        unrolled<4>([&](auto c) VORM_INLINE_LAMBDA {
+            tile.v[c].store(dst.from(c));
+            number(4, c);
+        });
+        unrolled<5>([&](auto r) VORM_INLINE_LAMBDA { number(r, 4); });
     } else {
         inBands<narrow<T>>(order, order, [&]<int columns, int rows>(int c, int r) VORM_INLINE_LAMBDA {
             if constexpr (rows == 1 || columns == 1)
@@ -56,9 +63,7 @@ template <class T>
     using Threes = PackedThrees<T>;
     constexpr std::ptrdiff_t length = 9 * Threes::objects;
     for (int n = 0; n < count / Threes::objects; ++n)
-        Threes::load(RowsOfObject<const T>{src + n * length, 0}, 0, 0)
-            .turned()
-            .store({dst + n * length, 0}, 0, 0);
+        Threes::load(RowsOfObject<const T>{src + n * length, 0}, 0, 0).turned().store({dst + n * length, 0}, 0, 0);
     return count / Threes::objects * Threes::objects;
 }
 
