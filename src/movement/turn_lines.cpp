@@ -64,8 +64,9 @@ VORM_INLINE void turnIn(const S& src, const D& dst, std::ptrdiff_t x, std::ptrdi
 {
     T* to[atOnce];
     for (int i = 0; i < n; ++i) to[i] = dst.at(x + i) + y;
-    // The lines of the destination are too many for the processor to foresee what comes of each of them.
-    if (registers > 1)
+    // The lines of the destination are too many for the processor to foresee what comes of each of them. Nothing is
+    // read by this, wherever it leads.
+    if (registers * L::width == cacheLine<T>)
         for (int i = 0; i < n; ++i) _mm_prefetch(reinterpret_cast<const char*>(to[i] + 2 * cacheLine<T>), _MM_HINT_T0);
     if constexpr (L::width == 2 && std::is_same_v<N, std::integral_constant<int, atOnce>>)
         if (registers == cacheLine<double> / 2) return turnPairsIn(src, to, x, y, atOnce);
@@ -166,9 +167,10 @@ VORM_INLINE void turnLongLines(const S& src, const D& dst, std::ptrdiff_t length
     turnCorner<T>(src, dst, x, length, y, lines);
 }
 
-// Few lines of many elements, eight lines at a time: what is stored runs on in each line of the destination.
+// Few lines of many elements, eight lines at a time: what is stored runs on in each line of the destination. Returns
+// the first of the elements that are left.
 template <class T, class S, class D, class N>
-VORM_INLINE void turnFewLines(const S& src, const D& dst, std::ptrdiff_t length, N lines)
+VORM_INLINE std::ptrdiff_t turnFewLines(const S& src, const D& dst, std::ptrdiff_t length, N lines)
 {
     using L = Lanes<T>;
     const T* from[fewLines<T>];
@@ -192,17 +194,21 @@ VORM_INLINE void turnFewLines(const S& src, const D& dst, std::ptrdiff_t length,
         for (; y < lines; ++y)
             for (int i = 0; i < L::width; ++i) entry(to[i], y) = T{entry(from[y], x + i)};
     }
-    turnCorner<T>(src, dst, x, length, 0, lines);
+    return x;
 }
 
 template <class T, class S, class D>
 void turn(const S src, const D dst, std::ptrdiff_t length, std::ptrdiff_t lines)
 {
+    if (lines <= 4 && lines < length) return turnLongLines<T>(src, dst, length, lines);
     if (lines <= fewLines<T> && lines < length) {
-        if (lines <= 4) return turnLongLines<T>(src, dst, length, lines);
-        if (lines == 9) return turnFewLines<T>(src, dst, length, constant<9>);
-        if (lines == 16) return turnFewLines<T>(src, dst, length, constant<16>);
-        return turnFewLines<T>(src, dst, length, static_cast<int>(lines));
+        const std::ptrdiff_t x = [&]() VORM_INLINE_LAMBDA {
+            if (lines == 9) return turnFewLines<T>(src, dst, length, constant<9>);
+            if constexpr (sizeof(T) == 8)
+                if (lines == 16) return turnFewLines<T>(src, dst, length, constant<16>);
+            return turnFewLines<T>(src, dst, length, static_cast<int>(lines));
+        }();
+        return turnCorner<T>(src, dst, x, length, 0, lines);
     }
     for (std::ptrdiff_t y = 0; y < lines; y += stripLines)
         for (std::ptrdiff_t x = 0; x < length; x += stripLength<T>)
