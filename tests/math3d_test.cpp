@@ -148,6 +148,16 @@ TEST(Matrices, Inverses)
     EXPECT_EQ(det, 0);
     EXPECT_EQ(dst, identity);
     EXPECT_EQ(vormInvert_m4_32f(m.data(), nullptr, dst.data()), StatusOk);
+    const auto statusOf = [&](float determinant) {
+        const Matrix scaled = made(vormScaling_m4_32f, 1.0f, determinant, 1.0f);
+        return vormInvert_m4_32f(scaled.data(), &det, dst.data());
+    };
+    for (const float limit : {0x1p-119f, -0x1p-119f}) {
+        EXPECT_EQ(statusOf(limit), StatusOk);
+        EXPECT_EQ(det, limit);
+        EXPECT_EQ(statusOf(std::nextafter(limit, 0.0f)), StatusSingular);
+    }
+    EXPECT_EQ(statusOf(std::numeric_limits<float>::quiet_NaN()), StatusOk);
     for (float scale : {1e-8f, 1e-5f, 1e5f, 1e9f}) {  // the square of 1 / det leaves the range
         for (std::size_t k = 0; k < 16; ++k) m[k] = identity[k] * scale;
         EXPECT_EQ(vormInvert_m4_32f(m.data(), &det, dst.data()), StatusOk);

@@ -6,7 +6,7 @@ typedef int VormStatus;
 
 enum {
     StatusOk = 0,
-    StatusBadArgument = -2,           /* a general eigenvector of a small matrix cannot be computed  */
+    StatusBadArgument = -2,           /* a general eigenvector cannot be computed                    */
     StatusBadSize = -6,               /* len, width, height or another size is below 1               */
     StatusNullPointer = -8,           /* a required pointer is null                                  */
     StatusDivisionByZero = -10,       /* a divisor is zero to working accuracy                       */
