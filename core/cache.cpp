@@ -3,6 +3,7 @@
 #include <cpuid.h>
 
 #include <algorithm>
+#include <atomic>
 #include <climits>
 #include <cstdint>
 
@@ -26,14 +27,23 @@ int64_t largestCache(unsigned leaf)
     return largest;
 }
 
+// 0 before the first question, below 0 where the processor does not tell. In a virtual machine each cpuid takes
+// microseconds, all of them together longer than the work that asks.
+std::atomic<int64_t> sizeKnown{0};
+
 }  // namespace
 
 extern "C" int vorGetMaxCacheSizeB(int* sizeBytes)
 {
     if (!sizeBytes) return VorCoreNullPointer;
-    constexpr unsigned leaf = 4, extendedLeaf = 0x8000001d;  // the same format under two numbers
-    const int64_t size = std::max(largestCache(leaf), largestCache(extendedLeaf));
-    if (size == 0) return VorCoreUnknown;
+    int64_t size = sizeKnown.load(std::memory_order_relaxed);
+    if (size == 0) {
+        constexpr unsigned leaf = 4, extendedLeaf = 0x8000001d;  // the same format under two numbers
+        size = std::max(largestCache(leaf), largestCache(extendedLeaf));
+        if (size == 0) size = -1;
+        sizeKnown.store(size, std::memory_order_relaxed);
+    }
+    if (size < 0) return VorCoreUnknown;
     *sizeBytes = static_cast<int>(std::min<int64_t>(size, INT_MAX));
     return VorCoreOk;
 }

@@ -285,6 +285,9 @@ TEST(Core, LargestCache)
     EXPECT_EQ(vorGetMaxCacheSizeB(nullptr), VorCoreNullPointer);
     ASSERT_EQ(vorGetMaxCacheSizeB(&bytes), VorCoreOk);
     EXPECT_GE(bytes, 16 * 1024);
+    int again = 0;
+    ASSERT_EQ(vorGetMaxCacheSizeB(&again), VorCoreOk);
+    EXPECT_EQ(again, bytes);
     // What the kernel says of the first processor's caches, where it does.
     long largest = 0;
     for (int index = 0; index < 8; ++index) {

@@ -4,6 +4,7 @@
 #include "frame/lanes.hpp"
 #include "frame/operands.hpp"
 #include "frame/operations.hpp"
+#include "frame/tiles.hpp"
 
 namespace vorm::elementwise {
 
@@ -11,21 +12,7 @@ namespace vorm::elementwise {
 template <class T>
 using RunRegister = UpTo<T, 2>;
 
-// A source of a run: elements side by side, or one value everywhere.
-template <class T>
-struct Along {
-    const T* p;
-    template <int Count = Lanes<T>::width>
-    VORM_INLINE Lanes<T> lanes(std::ptrdiff_t i) const
-    {
-        return loadFirst<Count>(p + i);
-    }
-    template <class L>
-    VORM_INLINE L lanes(std::ptrdiff_t i) const
-    {
-        return L::load(p + i);
-    }
-};
+// A source of a run: elements side by side (Along), or one value everywhere.
 template <class T>
 struct Everywhere {
     RunRegister<T> value;

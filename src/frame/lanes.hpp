@@ -23,6 +23,8 @@ struct LaneMask {
     friend LaneMask without(LaneMask a, LaneMask b) { return {R::without(a.bits, b.bits)}; }  // a and not b
     friend bool any(LaneMask mask) { return R::maskBits(mask.bits) != 0; }
     friend bool all(LaneMask mask) { return R::maskBits(mask.bits) == (1 << W) - 1; }
+    // A bit for each lane.
+    friend unsigned laneBits(LaneMask mask) { return static_cast<unsigned>(R::maskBits(mask.bits)); }
 };
 
 // Integers as large as an element.

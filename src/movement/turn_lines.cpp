@@ -16,9 +16,9 @@ constexpr int cacheLine = 64 / int{sizeof(T)};
 constexpr std::ptrdiff_t stripLines = 512;
 template <class T>
 constexpr std::ptrdiff_t stripLength = 2 * cacheLine<T>;
-// Few lines are read along.
+// Few lines, as many as a small matrix has elements, are all read at once.
 template <class T>
-constexpr std::ptrdiff_t fewLines = 256 / sizeof(T);
+constexpr int fewLines = sizeof(T) == 4 ? 64 : 36;
 
 // So many elements of lines, or lines, at a time: their addresses are found once for a cache line of the others.
 constexpr int atOnce = 4;
@@ -64,6 +64,10 @@ VORM_INLINE void turnIn(const S& src, const D& dst, std::ptrdiff_t x, std::ptrdi
 {
     T* to[atOnce];
     for (int i = 0; i < n; ++i) to[i] = dst.at(x + i) + y;
+    // The lines of the destination are too many for the processor to foresee what comes of each of them. Nothing is
+    // read by this, wherever it leads.
+    if (registers * L::width == cacheLine<T>)
+        for (int i = 0; i < n; ++i) _mm_prefetch(reinterpret_cast<const char*>(to[i] + 2 * cacheLine<T>), _MM_HINT_T0);
     if constexpr (L::width == 2 && std::is_same_v<N, std::integral_constant<int, atOnce>>)
         if (registers == cacheLine<double> / 2) return turnPairsIn(src, to, x, y, atOnce);
 #pragma GCC unroll 1
@@ -148,7 +152,7 @@ VORM_INLINE void turnManyLines(const S& src, const D& dst, std::ptrdiff_t length
         turnOut<Lanes<T>, T>(src, dst, x, y, 1, static_cast<int>(lines - y));
     turnCorner<T>(src, dst, x, length, y, lines);
 }
-// Few lines of many elements: along the lines of the source.
+// Hardly any lines of many elements: along the lines of the source.
 template <class T, class S, class D>
 VORM_INLINE void turnLongLines(const S& src, const D& dst, std::ptrdiff_t length, std::ptrdiff_t lines)
 {
@@ -163,10 +167,49 @@ VORM_INLINE void turnLongLines(const S& src, const D& dst, std::ptrdiff_t length
     turnCorner<T>(src, dst, x, length, y, lines);
 }
 
+// Few lines of many elements, eight lines at a time: what is stored runs on in each line of the destination. Returns
+// the first of the elements that are left.
+template <class T, class S, class D, class N>
+VORM_INLINE std::ptrdiff_t turnFewLines(const S& src, const D& dst, std::ptrdiff_t length, N lines)
+{
+    using L = Lanes<T>;
+    const T* from[fewLines<T>];
+    for (int y = 0; y < lines; ++y) from[y] = src.at(y);
+    std::ptrdiff_t x = 0;
+    for (; x + L::width <= length; x += L::width) {
+        T* to[L::width];
+        for (int i = 0; i < L::width; ++i) to[i] = dst.at(x + i);
+        const auto turnBlocks = [&](auto blocks, int y) VORM_INLINE_LAMBDA {
+            L block[blocks][L::width];
+            for (int k = 0; k < blocks; ++k) {
+                for (int l = 0; l < L::width; ++l) block[k][l] = loaded<L>(from[y + k * L::width + l] + x);
+                transpose(block[k]);
+            }
+            for (int i = 0; i < L::width; ++i)
+                for (int k = 0; k < blocks; ++k) block[k][i].store(to[i] + y + k * L::width);
+        };
+        int y = 0;
+        for (; y + 8 <= lines; y += 8) turnBlocks(constant<8 / L::width>, y);
+        for (; y + L::width <= lines; y += L::width) turnBlocks(constant<1>, y);
+        for (; y < lines; ++y)
+            for (int i = 0; i < L::width; ++i) entry(to[i], y) = T{entry(from[y], x + i)};
+    }
+    return x;
+}
+
 template <class T, class S, class D>
 void turn(const S src, const D dst, std::ptrdiff_t length, std::ptrdiff_t lines)
 {
-    if (lines <= fewLines<T> && lines < length) return turnLongLines<T>(src, dst, length, lines);
+    if (lines <= 4 && lines < length) return turnLongLines<T>(src, dst, length, lines);
+    if (lines <= fewLines<T> && lines < length) {
+        const std::ptrdiff_t x = [&]() VORM_INLINE_LAMBDA {
+            if (lines == 9) return turnFewLines<T>(src, dst, length, constant<9>);
+            if constexpr (sizeof(T) == 8)
+                if (lines == 16) return turnFewLines<T>(src, dst, length, constant<16>);
+            return turnFewLines<T>(src, dst, length, static_cast<int>(lines));
+        }();
+        return turnCorner<T>(src, dst, x, length, 0, lines);
+    }
     for (std::ptrdiff_t y = 0; y < lines; y += stripLines)
         for (std::ptrdiff_t x = 0; x < length; x += stripLength<T>)
             turnManyLines<T>(src.from(y).ahead(x), dst.from(x).ahead(y), min(length - x, stripLength<T>),

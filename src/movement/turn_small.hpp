@@ -2,8 +2,8 @@
 // result lies side by side.
 #pragma once
 
-#include "elementwise/matrix_tiles.hpp"
 #include "frame/pin.hpp"
+#include "frame/tiles.hpp"
 #include "movement/lines.hpp"
 
 namespace vorm::movement {
@@ -11,7 +11,7 @@ namespace vorm::movement {
 // One object, in the order in which its rows are stored: whole ones as pairs of doubles, otherwise tile by tile;
 // numbers one by one where a tile would be a row or a column, and all nine of order 3.
 template <int order, class T>
-VORM_INLINE void turnSmall(const elementwise::RowsOfObject<const T>& src, const elementwise::RowsOfObject<T>& dst)
+VORM_INLINE void turnSmall(const RowsOfObject<const T>& src, const RowsOfObject<T>& dst)
 {
     const auto number = [&](int r, int c) VORM_INLINE_LAMBDA { entry(dst.from(c), r) = T{entry(src.from(r), c)}; };
     if constexpr (order == 3) {
@@ -33,12 +33,19 @@ VORM_INLINE void turnSmall(const elementwise::RowsOfObject<const T>& src, const 
             });
         });
         if constexpr (order % 2 == 1) unrolled<order>([&](auto r) VORM_INLINE_LAMBDA { number(r, order - 1); });
+    } else if constexpr (order == 5) {
+        const auto tile = Tile<T, 4, 4>::load(src, 0, 0).turned();
+        unrolled<4>([&](auto c) VORM_INLINE_LAMBDA {
+            tile.v[c].store(dst.from(c));
+            number(4, c);
+        });
+        unrolled<5>([&](auto r) VORM_INLINE_LAMBDA { number(r, 4); });
     } else {
-        elementwise::inBands<narrow<T>>(order, order, [&]<int columns, int rows>(int c, int r) VORM_INLINE_LAMBDA {
+        inBands<narrow<T>>(order, order, [&]<int columns, int rows>(int c, int r) VORM_INLINE_LAMBDA {
             if constexpr (rows == 1 || columns == 1)
                 unrolled<rows * columns>([&](auto i) VORM_INLINE_LAMBDA { number(r + i % rows, c + i / rows); });
             else
-                elementwise::Tile<T, rows, columns>::load(src, r, c).turned().store(dst, c, r);
+                Tile<T, rows, columns>::load(src, r, c).turned().store(dst, c, r);
         });
     }
 }
@@ -53,12 +60,10 @@ template <int order, class T, class S, class D>
 template <class T>
 [[gnu::noinline]] int turnPackedThrees(const T* src, T* dst, int count)
 {
-    using Threes = elementwise::PackedThrees<T>;
+    using Threes = PackedThrees<T>;
     constexpr std::ptrdiff_t length = 9 * Threes::objects;
     for (int n = 0; n < count / Threes::objects; ++n)
-        Threes::load(elementwise::RowsOfObject<const T>{src + n * length, 0}, 0, 0)
-            .turned()
-            .store({dst + n * length, 0}, 0, 0);
+        Threes::load(RowsOfObject<const T>{src + n * length, 0}, 0, 0).turned().store({dst + n * length, 0}, 0, 0);
     return count / Threes::objects * Threes::objects;
 }
 

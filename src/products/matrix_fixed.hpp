@@ -164,7 +164,7 @@ struct CommonFactors {
 // The rows of B: get<p, k> is part p of row k. Those of a transposed matrix are made several at a time,
 // when the first of them is asked for.
 template <class T, int n, class View>
-struct RowsOfObject {
+struct RowsInParts {
     using Small = SmallMatrix<T, n>;
     const View& view;
     Lanes<T> block[Small::parts][Small::width];
@@ -184,7 +184,7 @@ template <class T, int n, class View>
 struct Rows {
     static constexpr bool isCommon = false, inRows = !isTransposed<View>;
     View view;
-    VORM_INLINE RowsOfObject<T, n, View> operator()() const { return {view, {}}; }
+    VORM_INLINE RowsInParts<T, n, View> operator()() const { return {view, {}}; }
 };
 template <class T, int n>
 struct CommonRows {

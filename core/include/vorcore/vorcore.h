@@ -54,7 +54,8 @@ VORCORE_API int vorSetNumThreads(int32_t threads);
 VORCORE_API int vorSetNumThreadsLocal(int32_t threads);
 
 /* Size in bytes of the largest data or unified cache. VorCoreNullPointer without a place to put
- * it, VorCoreUnknown (and nothing stored) where the processor does not tell. */
+ * it, VorCoreUnknown (and nothing stored) where the processor does not tell. It is found out
+ * at the first question. */
 VORCORE_API int vorGetMaxCacheSizeB(int* sizeBytes);
 
 #ifdef __cplusplus

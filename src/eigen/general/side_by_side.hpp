@@ -9,13 +9,6 @@
 
 namespace vorm::eigen {
 
-// A bit for each lane.
-template <class T, int W>
-VORM_INLINE unsigned laneBits(const LaneMask<T, W>& mask)
-{
-    return static_cast<unsigned>(Register<T, W>::maskBits(mask.bits));
-}
-
 // Which rows and columns a step turns.
 enum class Rows { two, three, mixed };
 
