@@ -6,6 +6,7 @@
 
 #include "eigen/general/schur.hpp"
 #include "eigen/general/values_of.hpp"
+#include "frame/several_masks.hpp"
 
 namespace vorm::eigen {
 
@@ -14,6 +15,13 @@ template <class T, int W>
 VORM_INLINE unsigned laneBits(const LaneMask<T, W>& mask)
 {
     return static_cast<unsigned>(Register<T, W>::maskBits(mask.bits));
+}
+template <class L, int registers>
+VORM_INLINE unsigned laneBits(const SeveralMask<L, registers>& mask)
+{
+    unsigned bits = 0;
+    unrolled<registers>([&](auto k) VORM_INLINE_LAMBDA { bits |= laneBits(mask.part[k]) << (k * L::width); });
+    return bits;
 }
 
 // Which rows and columns a step turns.
@@ -61,7 +69,14 @@ class SideBySide {
     static constexpr int lanes = objectsIn<Number>;
     struct alignas(64) PerLane {
         T lane[lanes];
-        VORM_INLINE Number load() const { return Number::load(lane); }
+        VORM_INLINE Number load() const
+        {
+            using One = RegisterIn<Number>;
+            Number a;
+            unrolled<registersIn<Number>>(
+                [&](auto k) VORM_INLINE_LAMBDA { registerOf(a, k) = One::load(lane + k * One::width); });
+            return a;
+        }
     };
 
 public:
