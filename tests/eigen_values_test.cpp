@@ -167,6 +167,33 @@ TEST(EigenValues, KnownCases)
     checkKnown<double>();
 }
 
+// An element of just ulp is nothing, whatever stands across from it, alone and in lanes; the next larger one is not.
+template <class T>
+void checkDeflation()
+{
+    constexpr int count = 21, e = sizeof(T);
+    const T ulp = std::numeric_limits<T>::epsilon();
+    for (int n : {2, 3, 6})
+        for (const T small : {ulp, std::nextafter(ulp, T(1))}) {
+            std::vector<T> a(std::size_t(n * n)), all, re(std::size_t(n * count)), im = re,
+                                                                                   buffer(std::size_t(n * (n + 5)));
+            for (int i = 0; i < n; ++i) a[std::size_t(i * n + i)] = T(2 * i + 1);
+            a[1] = small, a[std::size_t(n)] = 1 << 20;
+            const auto alone = valuesOf(a, n);
+            EXPECT_EQ(alone[0] == Value(1) && alone[1] == Value(3), small == ulp) << n;
+            for (int k = 0; k < count; ++k) all.insert(all.end(), a.begin(), a.end());
+            EXPECT_EQ(
+                Functions<T>::array(all.data(), n * n * e, n * e, e, re.data(), im.data(), n, count, buffer.data()),
+                StatusOk);
+            for (std::size_t i = 0; i < re.size(); ++i) EXPECT_EQ(Value(re[i], im[i]), alone[i % alone.size()]) << n;
+        }
+}
+TEST(EigenValues, AbsoluteDeflation)
+{
+    checkDeflation<float>();
+    checkDeflation<double>();
+}
+
 // What an object gives alone it gives in arrays of any layout, whatever its neighbours are; NaNs and infinities end
 // within the limits.
 template <class T>
