@@ -5,6 +5,7 @@
 #include <lapacke.h>
 
 #include "operands.hpp"
+#include "square_matrix.hpp"
 
 namespace {
 
@@ -30,20 +31,6 @@ struct Functions<double> {
     static constexpr auto theirInverse = LAPACKE_dgetri;
 };
 
-template <class T>
-struct Matrix {
-    int n;
-    std::vector<T> a;
-    explicit Matrix(int order) : n(order), a(std::size_t(order * order)) {}
-    T& operator()(int r, int c) { return a[std::size_t(r * n + c)]; }
-    T operator()(int r, int c) const { return a[std::size_t(r * n + c)]; }
-    long double largest() const
-    {
-        long double most = 0;
-        for (T x : a) most = std::max(most, std::fabs(static_cast<long double>(x)));
-        return most;
-    }
-};
 template <class T>
 Matrix<T> identity(int n)
 {
@@ -125,7 +112,7 @@ double residual(const Matrix<T>& a, const Matrix<T>& x)
         for (int c = 0; c < a.n; ++c) {
             long double sum = r == c ? -1 : 0;
             for (int k = 0; k < a.n; ++k) sum += static_cast<long double>(a(r, k)) * static_cast<long double>(x(k, c));
-            worst = std::max(worst, std::fabs(sum));
+            worst = worse(worst, std::fabs(sum));
         }
     return double(worst /
                   (a.n * static_cast<long double>(std::numeric_limits<T>::epsilon()) * a.largest() * x.largest()));
@@ -155,10 +142,10 @@ void checkInverses(std::initializer_list<int> orders, Layout layout, double gate
                 ++compared;
                 ASSERT_EQ(invert(a, x, layout), StatusOk);
                 const double own = residual(a, x);
-                worst = std::max(worst, own), worstByKind[kind] = std::max(worstByKind[kind], own);
+                worst = worse(worst, own), worstByKind[kind] = worse(worstByKind[kind], own);
                 for (std::size_t i = 0; i < x.a.size(); ++i)
                     worstAgainst =
-                        std::max(worstAgainst, double(std::fabs(x.a[i] - theirs.a[i]) / theirs.largest()) / unit);
+                        worse(worstAgainst, double(std::fabs(x.a[i] - theirs.a[i]) / theirs.largest()) / unit);
                 ASSERT_NEAR(det(a), theirDet, unit * std::fabs(theirDet)) << "order " << n << ", kind " << kind;
             }
     std::printf("%.2f of", worst);

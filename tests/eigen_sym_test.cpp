@@ -5,6 +5,7 @@
 #include <lapacke.h>
 
 #include "operands.hpp"
+#include "square_matrix.hpp"
 
 namespace {
 
@@ -26,14 +27,6 @@ struct Functions<double> {
     static constexpr auto arrayOfVectors = vormEigenValuesVectorsSym_ma_64f;
 };
 
-template <class T>
-struct Matrix {
-    int n;
-    std::vector<T> a;
-    explicit Matrix(int order) : n(order), a(std::size_t(order * order)) {}
-    T& operator()(int r, int c) { return a[std::size_t(r * n + c)]; }
-    T operator()(int r, int c) const { return a[std::size_t(r * n + c)]; }
-};
 template <class T>
 constexpr double epsilon = double(std::numeric_limits<T>::epsilon());
 
@@ -117,7 +110,7 @@ struct Worst : Errors {
     void take(const Errors& e)
     {
         ++tried, off += e.isOff();
-        orthogonality = std::max(orthogonality, e.orthogonality);
+        orthogonality = worse(orthogonality, e.orthogonality);
         if (e.isOff()) return;
         values = std::max(values, e.values), residual = std::max(residual, e.residual);
     }
@@ -135,8 +128,7 @@ Errors errorsOf(const Matrix<T>& m)
         if (each.status == StatusNoConvergence) return {.values = 1e9};
         EXPECT_TRUE(each.status == StatusOk || each.status == StatusSingular);
         const std::vector<double> ours = descending(each.values);
-        for (std::size_t i = 0; i < ours.size(); ++i)
-            e.values = std::max(e.values, std::fabs(ours[i] - theirs[i]) / unit);
+        for (std::size_t i = 0; i < ours.size(); ++i) e.values = worse(e.values, std::fabs(ours[i] - theirs[i]) / unit);
     }
     EXPECT_TRUE(std::is_sorted(s.values.rbegin(), s.values.rend()));
     for (int i = 0; i < n; ++i)
@@ -146,8 +138,8 @@ Errors errorsOf(const Matrix<T>& m)
                 product += double(m(i, k)) * double(s.vectors(k, j));
                 dot += double(s.vectors(k, i)) * double(s.vectors(k, j));
             }
-            e.residual = std::max(e.residual, std::fabs(product) / unit);
-            e.orthogonality = std::max(e.orthogonality, std::fabs(dot) / (epsilon<T> * n));
+            e.residual = worse(e.residual, std::fabs(product) / unit);
+            e.orthogonality = worse(e.orthogonality, std::fabs(dot) / (epsilon<T> * n));
         }
     return e;
 }
@@ -305,7 +297,7 @@ TYPED_TEST(SymmetricEigenproblem, TraceAndSquaresTellWhatIsOff)
             if (s.status != StatusOk) continue;
             const auto theirs = theirValues(m), ours = descending(s.values);
             double worst = 0;
-            for (std::size_t i = 0; i < ours.size(); ++i) worst = std::max(worst, std::fabs(ours[i] - theirs[i]));
+            for (std::size_t i = 0; i < ours.size(); ++i) worst = worse(worst, std::fabs(ours[i] - theirs[i]));
             const double norm = normOf(theirs), unit = n * epsilon<T> * norm;
             ++tried, off += worst > 100 * unit;
             missed += worst > 100 * unit && fits(m, s.values, norm);

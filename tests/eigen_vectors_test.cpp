@@ -7,6 +7,7 @@
 #include <complex>
 
 #include "eigen_matrices.hpp"
+#include "square_matrix.hpp"
 #include "standin_core.hpp"
 
 namespace {
@@ -231,8 +232,8 @@ void check(const std::vector<T>& a, const Solution<T>& s, bool isRight, Worst& w
         for (int i = 0; i < n; ++i)
             real += s.component(i, j).imag() == 0 && std::norm(s.component(i, j)) >= most * (1 - 20 * eps);
         worst.unlikely += real < 1;  // the largest component of a pair is real
-        worst.residual = std::max(worst.residual, std::sqrt(rest) / (eps * n * norm));
-        worst.length = std::max(worst.length, std::fabs(std::sqrt(squares) - 1) / eps);
+        worst.residual = worse(worst.residual, std::sqrt(rest) / (eps * n * norm));
+        worst.length = worse(worst.length, std::fabs(std::sqrt(squares) - 1) / eps);
         ++worst.vectors;
     }
 }
@@ -317,6 +318,72 @@ TYPED_TEST(EigenVectors, ExtremeScales)
     std::printf("%d matrices: residual %.2f, length %.2f\n", worst.tried, double(worst.residual), double(worst.length));
     EXPECT_GT(worst.tried, 700);
     EXPECT_LT(worst.residual, 5.6);
+}
+
+// Lower matrices, also with their sides changing places, whose vectors leave the range on the way. No sweep changes
+// them.
+TYPED_TEST(EigenVectors, GrowthOnTheWay)
+{
+    using T = TypeParam;
+    struct Element {
+        int r, c;
+        T value;
+    };
+    const auto power = [](double part) { return std::ldexp(T(1), int(part * std::numeric_limits<T>::max_exponent)); };
+    const T h = power(0.6), huge = std::ldexp(T(1), std::numeric_limits<T>::max_exponent - 10);
+    const T near = power(-0.7), apart = power(-0.33), t = T(1) / (1 << 20), s = 8 * std::numeric_limits<T>::epsilon();
+    const std::vector<std::vector<Element>> cases = {
+        // Large elements one after the other: behind a single value, either one of a pair, and before either of them.
+        {{1, 0, h}, {1, 1, 1}, {2, 1, h}, {2, 2, 2}},
+        {{1, 0, h}, {2, 0, -h}, {1, 1, 1}, {1, 2, -1}, {2, 1, 1}, {2, 2, 1}, {3, 2, h}, {3, 3, 3}},
+        {{1, 0, h}, {2, 0, h}, {1, 1, 1}, {1, 2, -1}, {2, 1, 1}, {2, 2, 1}, {3, 1, h}, {3, 3, 3}},
+        {{1, 0, h}, {1, 1, 1}, {2, 1, h}, {2, 2, 2}, {2, 3, -1}, {3, 2, 1}, {3, 3, 2}},
+        {{1, 0, h}, {1, 1, 1}, {3, 1, h}, {2, 2, 2}, {2, 3, -1}, {3, 2, 1}, {3, 3, 2}},
+        // What has been brought back once is not brought back for each large element that follows.
+        {{1, 1, 1}, {2, 0, h}, {2, 2, 2}, {3, 1, h}, {3, 3, 3}, {4, 1, h}, {4, 4, 4}, {5, 1, h}, {5, 5, 5}, {6, 6, 6}},
+        // Small differences of values: of single ones, of one and a pair.
+        {{1, 0, 1}, {1, 1, near}, {2, 1, 1}, {2, 2, apart}},
+        {{1, 0, 1}, {1, 1, near}, {3, 1, 1}, {2, 3, -1}, {3, 2, apart}},
+        {{1, 0, huge}, {1, 2, -s}, {2, 1, apart}},
+        {{2, 0, huge}, {1, 1, 1 << 7}, {1, 2, -(1 << 18)}, {2, 1, t}, {2, 2, 1 << 7}},
+        // Pairs with elements far apart.
+        {{0, 1, -h}, {1, 0, near}, {2, 0, h}, {2, 2, 1}},
+        {{0, 1, -s}, {1, 0, huge}, {2, 1, h}, {2, 2, 1}},
+        // The same of a pair, and a pair that is there twice.
+        {{0, 1, -1}, {1, 0, 1}, {2, 0, h}, {2, 2, 1}, {3, 2, h}, {3, 3, 2}},
+        {{0, 1, -1}, {1, 0, 1}, {2, 0, h}, {2, 2, 1}, {2, 3, -1}, {3, 2, 1}, {3, 3, 1}, {4, 2, h}, {4, 4, 2}},
+        {{0, 1, -1}, {1, 0, apart * apart}, {2, 0, 1}, {3, 2, 1}, {4, 3, power(0.1)}},
+        {{0, 1, -1},
+         {1, 0, 1},
+         {2, 0, 1},
+         {2, 2, near},
+         {2, 3, -1},
+         {3, 2, 1},
+         {3, 3, near},
+         {4, 2, 1},
+         {4, 4, apart},
+         {4, 5, -1},
+         {5, 4, 1},
+         {5, 5, apart}},
+        {{0, 1, -1}, {1, 0, 1}, {3, 0, huge}, {2, 2, 1 << 7}, {2, 3, -(1 << 18)}, {3, 2, t}, {3, 3, 1 << 7}},
+        {{0, 1, -1}, {1, 0, 1}, {2, 0, 1}, {2, 3, -1}, {3, 2, 1}},
+    };
+    for (const auto& elements : cases) {
+        Worst worst;
+        int n = 0;
+        for (const Element& e : elements) n = std::max(n, e.r + 1);
+        std::vector<T> a(std::size_t(n * n)), flipped = a;
+        for (const Element& e : elements) {
+            a[std::size_t(e.r * n + e.c)] = e.value;
+            flipped[std::size_t((n - 1 - e.c) * n + n - 1 - e.r)] = e.value;
+        }
+        const auto r = right(a), l = left(flipped);
+        EXPECT_TRUE(r.status == StatusOk && l.status == StatusOk);
+        check(a, r, true, worst);
+        check(flipped, l, false, worst);
+        EXPECT_LT(worst.residual, 5.6) << &elements - cases.data();
+        EXPECT_LT(worst.length, 6) << &elements - cases.data();
+    }
 }
 
 TYPED_TEST(EigenVectors, BothSidesAtOnceAndValuesAloneHaveTheSameBits)

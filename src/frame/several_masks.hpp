@@ -10,6 +10,16 @@ VORM_INLINE Several<L, registers> abs(const Several<L, registers>& a)
 {
     return Several<L, registers>::each([&](auto k) VORM_INLINE_LAMBDA { return abs(a.part[k]); });
 }
+template <class L, int registers>
+VORM_INLINE Several<L, registers> larger(const Several<L, registers>& a, const Several<L, registers>& b)
+{
+    return Several<L, registers>::each([&](auto k) VORM_INLINE_LAMBDA { return larger(a.part[k], b.part[k]); });
+}
+template <class L, int registers>
+VORM_INLINE Several<L, registers> timesSignOf(const Several<L, registers>& a, const Several<L, registers>& b)
+{
+    return Several<L, registers>::each([&](auto k) VORM_INLINE_LAMBDA { return timesSignOf(a.part[k], b.part[k]); });
+}
 
 template <class L, int registers, class Each>
 VORM_INLINE SeveralMask<L, registers> eachMask(const Each& register_)
@@ -22,6 +32,11 @@ template <class L, int registers>
 VORM_INLINE SeveralMask<L, registers> operator<=(const Several<L, registers>& a, const Several<L, registers>& b)
 {
     return eachMask<L, registers>([&](auto k) VORM_INLINE_LAMBDA { return a.part[k] <= b.part[k]; });
+}
+template <class L, int registers>
+VORM_INLINE SeveralMask<L, registers> operator>=(const Several<L, registers>& a, const Several<L, registers>& b)
+{
+    return b <= a;
 }
 template <class L, int registers>
 VORM_INLINE SeveralMask<L, registers> operator==(const Several<L, registers>& a, const Several<L, registers>& b)
@@ -37,6 +52,21 @@ template <class L, int registers>
 VORM_INLINE SeveralMask<L, registers> operator|(const SeveralMask<L, registers>& a, const SeveralMask<L, registers>& b)
 {
     return eachMask<L, registers>([&](auto k) VORM_INLINE_LAMBDA { return a.part[k] | b.part[k]; });
+}
+template <class L, int registers>
+VORM_INLINE bool all(const SeveralMask<L, registers>& mask)
+{
+    auto joint = mask.part[0];
+    unrolled<registers, 1>([&](auto k) VORM_INLINE_LAMBDA { joint = joint & mask.part[k]; });
+    return all(joint);
+}
+// A bit for each lane, those of the first register first.
+template <class L, int registers>
+VORM_INLINE unsigned laneBits(const SeveralMask<L, registers>& mask)
+{
+    unsigned bits = 0;
+    unrolled<registers>([&](auto k) VORM_INLINE_LAMBDA { bits |= laneBits(mask.part[k]) << (k * L::width); });
+    return bits;
 }
 template <class L, int registers>
 VORM_INLINE SeveralMask<L, registers> without(const SeveralMask<L, registers>& a, const SeveralMask<L, registers>& b)

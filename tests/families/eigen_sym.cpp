@@ -2,15 +2,9 @@
 // that does not converge leave. The two directions of the iteration are written out, as the list has them.
 
 #include "harness.hpp"
+#include "square_matrix.hpp"
 
 namespace {
-
-template <class T>
-struct Matrix {
-    int n;
-    std::vector<T> elements = std::vector<T>(std::size_t(n * n));
-    T& operator()(int r, int c) { return elements[std::size_t(r * n + c)]; }
-};
 
 template <class T>
 struct Solver {
@@ -221,11 +215,11 @@ VormStatus model(const Call& call, int n)
     const bool wantsVectors = call.f.family == "EigenValuesVectorsSym";
     const int order = src.columns;
     Solver<T> solver{order, wantsVectors};
-    for (int e = 0; e < src.size(); ++e) solver.w.elements[std::size_t(e)] = src.get<T>(n, e);
+    for (int e = 0; e < src.size(); ++e) solver.w.a[std::size_t(e)] = src.get<T>(n, e);
     const VormStatus status = solver.solve(wantsVectors && !call.f.isArray());
     if (order == 2 && status != StatusOk) return status;
     for (int i = 0; i < order; ++i) values.set(n, i, solver.value(i));
-    for (int e = 0; e < src.size() && wantsVectors; ++e) call["dst"].set(n, e, solver.v.elements[std::size_t(e)]);
+    for (int e = 0; e < src.size() && wantsVectors; ++e) call["dst"].set(n, e, solver.v.a[std::size_t(e)]);
     return status;
 }
 

@@ -67,17 +67,10 @@ template <class Number, class T>
     const Number b1 = x[first], b2 = x[second] - multiplier * b1;
     const T one = magnitude(b1) * (magnitude(rest) / most), other = magnitude(b2);
     scale = scaleOf(one > other ? one : other, magnitude(rest));
-    Number x2 = b2 * scale / rest;
-    Number x1 = (b1 * scale - l[beside] * x2) / l[own];
-
-    // The block times the solution is not to overflow either.
-    const T size = magnitude(x1) > magnitude(x2) ? magnitude(x1) : magnitude(x2);
-    if (size > 1 && most > 1 && size > largestQuotient<T> / most) {
-        const T smaller = most / largestQuotient<T>;
-        x1 = x1 * smaller, x2 = x2 * smaller, scale *= smaller;
-    }
+    const Number x2 = b2 * scale / rest;
     const int column = pivot >> 1;
-    x[column] = x1, x[1 - column] = x2;
+    x[column] = b1 * scale / l[own] - l[beside] / l[own] * x2;  // a product with an element might overflow
+    x[1 - column] = x2;
     return true;
 }
 

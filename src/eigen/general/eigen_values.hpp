@@ -34,7 +34,7 @@ using EigenValuesTests = Tests<Test::null, Test::size, Test::count, Test::shift,
 template <class T>
 constexpr Work eigenValuesWork(int order, int count)
 {
-    const int picoseconds = order <= 2 ? byType<T>(2300, 3500) : byType<T>(17000, 38000);
+    const int picoseconds = order <= 2 ? byType<T>(2300, 3500) : byType<T>(14000, 30000);
     return workOf(wrapMul(wrapAdd(wrapMul(order, order), order), count), picoseconds, order, order, count);
 }
 // order (order + 5) elements

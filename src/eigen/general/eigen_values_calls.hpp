@@ -4,8 +4,8 @@
 #include "eigen/general/aligned.hpp"
 #include "eigen/general/eigen_values.hpp"
 #include "eigen/general/values_of.hpp"
+#include "eigen/registers_of_objects.hpp"
 #include "frame/blocks.hpp"
-#include "frame/object_lanes.hpp"
 
 namespace vorm::eigen {
 
@@ -28,21 +28,17 @@ VORM_SHARED VormStatus eigenValuesArray(const Src src, const ObjectTable<T> re, 
                                         T* buffer, int count)
 {
     const bool areSmall = order <= mostSideBySide;
-    return inBlocks<Wide<T>>(
-        count, [&]<class>(int) VORM_INLINE_LAMBDA { return areSmall; },
+    return inBlocks<TwoRegisters<T>>(
+        count,
+        [&]<class Number>(int) VORM_INLINE_LAMBDA { return areSmall && (order > 2 || registersIn<Number> == 1); },
         [&]<class Number>(int first) VORM_INLINE_LAMBDA -> VormStatus {
             if constexpr (!inLanes<Number>) {
                 return eigenValuesOne(src, first, re.object(first), im.object(first), order, buffer);
             } else {
                 Number matrix[mostSideBySide * mostSideBySide], values[2][mostSideBySide];
-                loadMatrices(src, first, matrix, order);
+                loadObjects(src, first, order, matrix);
                 if (!valuesSideBySide(matrix, order, values[0], values[1])) return StatusNoConvergence;
-                for (int part = 0; part < 2; ++part) {
-                    T* to[Number::width];
-                    for (int l = 0; l < Number::width; ++l) to[l] = (part == 0 ? re : im).object(first + l);
-                    storeRows(
-                        to, [&](int k) VORM_INLINE_LAMBDA { return values[part][k]; }, order);
-                }
+                for (int part = 0; part < 2; ++part) storeValues(values[part], first, order, part == 0 ? re.p : im.p);
                 return StatusOk;
             }
         });

@@ -79,8 +79,8 @@ VORM_INLINE bool substitute(const L& l, int first, int given, Lambda<Number> lam
 
 // Vectors of length 1. -------------------------------------------------------------------------------------------
 
-// The sum of the squares of all elements given. Where it does not tell the length, because squares are too large or too
-// small for numbers, the elements are divided by the largest of their magnitudes first.
+// The sum of the squares of all elements given. Where it is too large for a number the elements are divided by the
+// largest of their magnitudes first. It is never small: of each solution something is 1 or more.
 template <class T, int vectors>
 VORM_INLINE T sumOfSquares(T* const (&x)[vectors], int n)
 {
@@ -91,7 +91,7 @@ VORM_INLINE T sumOfSquares(T* const (&x)[vectors], int n)
         return s;
     };
     const T s = sum();
-    if (s >= tiny<T> / ulp<T> && s <= std::numeric_limits<T>::max()) return s;
+    if (s <= std::numeric_limits<T>::max()) return s;
     T most = 0;
     for (int i = 0; i < n; ++i)
         for (T* const one : x) most = larger(abs(one[i]), most);

@@ -6,6 +6,7 @@
 
 #include "eigen/general/schur.hpp"
 #include "eigen/general/values_of.hpp"
+#include "frame/several_masks.hpp"
 
 namespace vorm::eigen {
 
@@ -54,7 +55,14 @@ class SideBySide {
     static constexpr int lanes = objectsIn<Number>;
     struct alignas(64) PerLane {
         T lane[lanes];
-        VORM_INLINE Number load() const { return Number::load(lane); }
+        VORM_INLINE Number load() const
+        {
+            using One = RegisterIn<Number>;
+            Number a;
+            unrolled<registersIn<Number>>(
+                [&](auto k) VORM_INLINE_LAMBDA { registerOf(a, k) = One::load(lane + k * One::width); });
+            return a;
+        }
     };
 
 public:

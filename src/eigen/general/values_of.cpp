@@ -40,21 +40,24 @@ VORM_INLINE bool valuesOfOrderTwo(const Number* matrix, Number* re, Number* im)
 
 }  // namespace
 
+// Single registers are rests, but for orders 1 and 2, which come in no others.
 template <class Number>
 bool valuesSideBySide(Number* matrix, int n, Number* re, Number* im)
 {
-    switch (n) {
-    case 1: re[0] = matrix[0], im[0] = Number(Element<Number>(0)); return true;
-    case 2: return valuesOfOrderTwo(matrix, re, im);
-    case 3: return iterateSideBySide(matrix, constant<3>, re, im);
-    case 4: return iterateSideBySide(matrix, constant<4>, re, im);
-    default: return iterateSideBySide(matrix, n, re, im);
+    if constexpr (registersIn < Number >> 1) {
+        if (n == 3) return iterateSideBySide(matrix, constant<3>, re, im);
+        if (n == 4) return iterateSideBySide(matrix, constant<4>, re, im);
+    } else {
+        if (n == 1) return re[0] = matrix[0], im[0] = Number(Element<Number>(0)), true;
+        if (n == 2) return valuesOfOrderTwo(matrix, re, im);
     }
+    return iterateSideBySide(matrix, n, re, im);
 }
 
 #define EIGEN_VALUES_OF(T)                                          \
     template int valuesOf(T* matrix, int n, T* re, T* im, T* work); \
     EIGEN_SIDE_BY_SIDE(Lanes<T>)                                    \
+    EIGEN_SIDE_BY_SIDE(TwoRegisters<T>)                             \
     EIGEN_WIDE_SIDE_BY_SIDE(T)
 #define EIGEN_SIDE_BY_SIDE(L) template bool valuesSideBySide(L* matrix, int n, L* re, L* im);
 #ifdef VORM_WIDER_REGISTERS
