@@ -69,8 +69,9 @@ VORM_INLINE VormStatus contiguousKernel(const Call<T, TheTests, Parts>& call)
         if (!(... && isRun(view, rows, columns))) return measureOneAnywhere<Op>(dst, rows, columns, view...);
         const Runs<Op, T> runs{{view.p...}};
         const std::ptrdiff_t n = std::ptrdiff_t{rows} * columns;
-        if (n > shortTerms) return longMeasure(runs, n, dst);
-        entry(dst, 0) = shortMeasure(runs, n);
+        if (n > shortTerms) [[unlikely]]
+            return longMeasure(runs, n, dst);
+        entry(dst, 0) = shortMeasure(runs, int(n));
         return VormStatus{StatusOk};
     });
 }

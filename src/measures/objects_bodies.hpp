@@ -111,7 +111,7 @@ template <class Op, class T, class Elements>
         Runs<Op, T> runs;
         for (int s = 0; s < Op::sources; ++s) runs.p[s] = src.of[s].at(object);
         if (n <= shortTerms)
-            entry(dst, object) = shortMeasure(runs, n);
+            entry(dst, object) = shortMeasure(runs, int(n));
         else
             longMeasure(runs, n, dst + object);
     }
@@ -368,6 +368,17 @@ template <int registers, bool hasGroups, bool secondIsCommon, class Op, class T>
         },
         [&] { Planes<Op, T>::few(planes, dst, count); });
 }
+template <class Op, int n, class T>
+[[gnu::noinline]] void longPlanesOfLength(const Planes<Op, T> planes, T* dst, int count)
+{
+    storeResults<Several<Wide<T>, 2>>(
+        dst, count,
+        [&]<class Number>(int first) VORM_INLINE_LAMBDA {
+            return Op::result(sumOfNumbers<Op, n>(
+                [&](auto k) VORM_INLINE_LAMBDA { return planes.template term<Number, false>(k, first); }));
+        },
+        [&] { Planes<Op, T>::few(planes, dst, count); });
+}
 template <bool secondIsCommon, class Op, class T>
 VORM_INLINE void planesOfAnyLength(const Planes<Op, T>& planes, T* dst, int count)
 {
@@ -393,6 +404,15 @@ void measurePlanes(const Sources<Op, TabledElements<const T>>& src, int rows, in
     const Planes<Op, T> planes{src, rows, columns};
     if constexpr (Op::sources == 2)
         if (src.of[1].isCommon()) return planesOfAnyLength<true>(planes, dst, count);
+    if constexpr (Op::sources == 1) {  // square matrices of order 3 to 6
+        switch (planes.terms()) {
+        case 9: return longPlanesOfLength<Op, 9>(planes, dst, count);
+        case 16: return longPlanesOfLength<Op, 16>(planes, dst, count);
+        case 25: return longPlanesOfLength<Op, 25>(planes, dst, count);
+        case 36: return longPlanesOfLength<Op, 36>(planes, dst, count);
+        default: break;
+        }
+    }
     planesOfAnyLength<false>(planes, dst, count);
 }
 
@@ -408,9 +428,11 @@ template <int n, class T, class Elements>
             leftToRight(constant<n>, [&](auto i) VORM_INLINE_LAMBDA { return T(elementAt(p, i * step)); });
     };
     int object = 0;
-    for (; object + 4 <= count; object += 4)
-        unrolled<4>([&](auto l) VORM_INLINE_LAMBDA { trace(src.at(object + l), object + l); });
-    for (; object < count; ++object) trace(src.at(object), object);
+    for (; object + 4 <= count; object += 4) {
+        const auto beginning = beginnings<false>(src, object);
+        unrolled<4>([&](auto l) VORM_INLINE_LAMBDA { trace(beginning(l), object + l); });
+    }
+    for (; object < count; ++object) trace(beginnings<false>(src, object)(0), object);
 }
 
 // Four sums that do not wait for each other.
@@ -421,7 +443,8 @@ VORM_INLINE void tracesOfAnyOrder(const Elements& src, int n, T* dst, int count)
     const auto some = [&](auto objects, int object) VORM_INLINE_LAMBDA {
         const T* p[objects];
         T sums[objects];
-        for (int l = 0; l < objects; ++l) p[l] = src.at(object + l), sums[l] = elementAt(p[l], 0);
+        const auto beginning = beginnings<false>(src, object);
+        for (int l = 0; l < objects; ++l) p[l] = beginning(l), sums[l] = elementAt(p[l], 0);
         for (std::ptrdiff_t i = 1, at = step; i < n; ++i, at += step)
             for (int l = 0; l < objects; ++l) sums[l] = sums[l] + elementAt(p[l], at);
         for (int l = 0; l < objects; ++l) entry(dst, object + l) = sums[l];

@@ -230,6 +230,51 @@ VORM_INLINE Number sumOfNumbers(std::ptrdiff_t n, const Term& term)
         return Op::fromZero(first + pair(2));
 }
 
+// The same, where n is a constant: the sums without a term are left out.
+template <int n, int l, class Term>
+VORM_INLINE auto sumFrom(const Term& term)
+{
+    using T = Element<decltype(term(constant<0>))>;
+    auto sum = term(constant<l>);
+    unrolled<(n - l + sumsOf<T> - 1) / sumsOf<T>, 1>(
+        [&](auto k) VORM_INLINE_LAMBDA { sum = sum + term(constant<l + k * sumsOf<T>>); });
+    return sum;
+}
+template <int n, int l, int distance, class Term>
+VORM_INLINE auto sumOfPair(const Term& term)
+{
+    if constexpr (l + distance < n) {
+        const auto first = sumFrom<n, l>(term);
+        return settled(first + sumFrom<n, l + distance>(term));
+    } else {
+        return sumFrom<n, l>(term);
+    }
+}
+template <int n, int l, class Term>
+VORM_INLINE auto sumOfLane(const Term& term)
+{
+    constexpr int width = narrow<Element<decltype(term(constant<0>))>>;
+    if constexpr (l + 2 * width < n) {
+        const auto first = sumOfPair<n, l, width>(term);
+        return settled(first + sumOfPair<n, l + 2 * width, width>(term));
+    } else {
+        return sumOfPair<n, l, width>(term);
+    }
+}
+template <class Op, int n, class Term>
+VORM_INLINE auto sumOfNumbers(const Term& term)
+{
+    const auto pair = [&](auto l) VORM_INLINE_LAMBDA {
+        const auto first = sumOfLane<n, l>(term);
+        return settled(first + sumOfLane<n, l + 1>(term));
+    };
+    const auto first = pair(constant<0>);
+    if constexpr (narrow<Element<decltype(term(constant<0>))>> == 2)
+        return Op::fromZero(first);
+    else
+        return Op::fromZero(first + pair(constant<2>));
+}
+
 // The result of one object. ----------------------------------------------------------------------------------------
 
 // The elements of an object anywhere, row after row.
@@ -252,21 +297,12 @@ VORM_INLINE T shortMeasure(const Objects<Op, Object>& object, int rows, int colu
 template <class Op, class T, class Object>
 VORM_HIDDEN T longMeasureAnywhere(const Objects<Op, Object>& object, int rows, int columns);
 
-// Term by term, each behind a test: runs this short are over before a loop has begun.
-template <int k, class T, class Term>
-VORM_INLINE T leftToRightFrom(T sum, std::ptrdiff_t n, const Term& term)
-{
-    if constexpr (k < shortTerms)
-        if (n > k) return leftToRightFrom<k + 1>(sum + term(k), n, term);
-    return sum;
-}
 template <class Op, class T>
-VORM_INLINE T shortMeasure(const Runs<Op, T>& runs, std::ptrdiff_t n)
+VORM_INLINE T shortMeasure(const Runs<Op, T>& runs, int n)
 {
-    const auto term = [&](int k) VORM_INLINE_LAMBDA {
+    return Op::result(leftToRight(n, [&](int k) VORM_INLINE_LAMBDA {
         return termOf<Op, T>([&](auto s) VORM_INLINE_LAMBDA { return T(elementAt(runs.p[s] + k, 0)); });
-    };
-    return Op::result(leftToRightFrom<1>(term(0), n, term));
+    }));
 }
 template <class Op, class T>
 VORM_HIDDEN VormStatus longMeasure(Runs<Op, T> runs, std::ptrdiff_t n, T* dst);
