@@ -69,7 +69,9 @@ VORM_INLINE VormStatus contiguousKernel(const Call<T, TheTests, Parts>& call)
         if (!(... && isRun(view, rows, columns))) return measureOneAnywhere<Op>(dst, rows, columns, view...);
         const Runs<Op, T> runs{{view.p...}};
         const std::ptrdiff_t n = std::ptrdiff_t{rows} * columns;
-        entry(dst, 0) = n <= shortTerms ? shortMeasure(runs, int(n)) : longMeasure(runs, n);
+        if (n > shortTerms) [[unlikely]]
+            return longMeasure(runs, n, dst);
+        entry(dst, 0) = shortMeasure(runs, int(n));
         return VormStatus{StatusOk};
     });
 }
@@ -112,7 +114,7 @@ VORM_INLINE VormStatus pointerKernel(const ArrayCall<T, TheTests, Parts>& call)
     return ofCall(call, [&](T* dst, int rows, int columns, const auto&... view) VORM_INLINE_LAMBDA {
         const auto sources = sourcesIn<Op>(view...);
         if ((... && inPlanes(view)))
-            measurePlanes<Op>(sources, std::ptrdiff_t{rows} * columns, dst, call.count);
+            measurePlanes<Op>(sources, rows, columns, dst, call.count);
         else
             measureAnywhere<Op>(sources, rows, columns, dst, call.count);
         return VormStatus{StatusOk};

@@ -24,9 +24,10 @@ VORM_HIDDEN void measureRuns(const Sources<Op, Elements>& src, std::ptrdiff_t n,
 // Elements anywhere, row after row.
 template <class Op, class T, class Elements>
 VORM_HIDDEN void measureAnywhere(const Sources<Op, Elements>& src, int rows, int columns, T* dst, int count);
-// Planes, in the order of the tables.
+// Planes.
 template <class Op, class T>
-VORM_HIDDEN void measurePlanes(const Sources<Op, TabledElements<const T>>& src, std::ptrdiff_t n, T* dst, int count);
+VORM_HIDDEN void measurePlanes(const Sources<Op, TabledElements<const T>>& src, int rows, int columns, T* dst,
+                               int count);
 
 // The sum of a diagonal: of one object, of an array, of an array in planes.
 template <class T, class Elements>

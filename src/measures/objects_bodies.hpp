@@ -8,22 +8,26 @@
 
 namespace vorm::measures {
 
-// Objects in registers as long as there are enough; results never share memory, and no object fails. results(first)
-// makes a Number of them.
-template <class Widest, class T, class Results>
-VORM_INLINE void storeResults(T* dst, int count, const Results& results)
+// Objects a number at a time, results(first) makes a Number of them. The last number begins before the end of the one
+// before it if they do not fill it: these results are stored twice. Fewer objects than a register of 128 bits holds are
+// left to few(), which stores them itself.
+template <class Number, class T, class Results, class Few>
+VORM_INLINE void storeResults(T* dst, int count, const Results& results, const Few& few)
 {
-    inBlocks<Widest>(
-        count, []<class>(int) VORM_INLINE_LAMBDA { return true; },
-        [&]<class Number>(int first) VORM_INLINE_LAMBDA {
-            const Number result = results.template operator()<Number>(first);
-            if constexpr (inLanes<Number>)
+    if constexpr (!inLanes<Number>) {
+        few();
+    } else {
+        constexpr int objects = objectsIn<Number>;
+        if (count < objects) return storeResults<typename NarrowerThan<Number>::Type>(dst, count, results, few);
+        for (int first = 0; first < count; first = count - objects) {
+            for (; count - first >= objects; first += objects) {
+                const Number result = results.template operator()<Number>(first);
                 for (int k = 0; k < registersIn<Number>; ++k)
                     registerOf(result, k).store(dst + first + k * RegisterIn<Number>::width);
-            else
-                entry(dst, first) = result;
-            return VormStatus{StatusOk};
-        });
+            }
+            if (first == count) return;
+        }
+    }
 }
 
 // Fewer terms than there are sums, more than are added from left to right. body(whole, hasRest).
@@ -40,20 +44,17 @@ VORM_INLINE auto withRegisters(int n, const Body& body)
         return hasRest ? body(constant<3>, std::true_type{}) : body(constant<3>, std::false_type{});
     }
 }
-template <class Op, class T>
-VORM_INLINE Lanes<T> shortOfAGroup(const Runs<Op, T>& runs, int n)
-{
-    return withRegisters<T>(n, [&](auto whole, auto hasRest)
-                                   VORM_INLINE_LAMBDA { return sumsAlong<Op, whole, hasRest>(runs, n % narrow<T>); });
-}
-
 // Single objects. --------------------------------------------------------------------------------------------------
 
 template <class Op, class T>
-T longMeasure(const Runs<Op, T>& runs, std::ptrdiff_t n)
+VormStatus longMeasure(Runs<Op, T> runs, std::ptrdiff_t n, T* dst)
 {
-    const Lanes<T> sums = n < sumsOf<T> ? shortOfAGroup(runs, int(n)) : sumsAlong(runs, n);
-    return Op::result(Op::fromZero(folded(sums)));
+    const LastTerms<T> last(n);
+    const Lanes<T> sums = withLastRegisters<T>(n, [&](auto registers, auto hasGroups) VORM_INLINE_LAMBDA {
+        return sumsOfOne<Op, registers, hasGroups>(runs, n, last);
+    });
+    entry(dst, 0) = Op::result(Op::fromZero(folded(sums)));
+    return StatusOk;
 }
 
 template <class Op, class T, class Object>
@@ -84,60 +85,79 @@ T longMeasureAnywhere(const Objects<Op, Object>& object, int rows, int columns)
     return Op::result(folded(united(sums)));
 }
 
-template <class Op, class T, class Elements>
-VORM_INLINE Runs<Op, T> runsOf(const Sources<Op, Elements>& src, int n)
+// Runs. ------------------------------------------------------------------------------------------------------------
+
+// Where consecutive objects of a source begin. One that all share has a list with one entry.
+template <bool mayBeCommon, class T>
+VORM_INLINE auto beginnings(const StridedElements<const T>& e, int first)
 {
-    Runs<Op, T> runs;
-    for (int s = 0; s < Op::sources; ++s) runs.p[s] = src.of[s].at(n);
-    return runs;
+    return [p = e.at(first), object = e.object](int l) VORM_INLINE_LAMBDA { return advance(p, l * object); };
+}
+template <bool mayBeCommon, class T>
+VORM_INLINE auto beginnings(const ListedElements<const T>& e, int first)
+{
+    if constexpr (mayBeCommon)  // compilers would make a second loop for a step of 1
+        return [pp = opaque(e.pp + first * e.step), e](int l)
+                   VORM_INLINE_LAMBDA { return advance(pp[l * e.step], e.shift); };
+    else
+        return [pp = e.pp + first, shift = e.shift](int l) VORM_INLINE_LAMBDA { return advance(pp[l], shift); };
 }
 
-// Runs. ------------------------------------------------------------------------------------------------------------
+// Fewer objects than a register has lanes.
+template <class Op, class T, class Elements>
+[[gnu::noinline]] void fewRuns(const Sources<Op, Elements> src, std::ptrdiff_t n, T* dst, int count)
+{
+    for (int object = 0; object < count; ++object) {
+        Runs<Op, T> runs;
+        for (int s = 0; s < Op::sources; ++s) runs.p[s] = src.of[s].at(object);
+        if (n <= shortTerms)
+            entry(dst, object) = shortMeasure(runs, int(n));
+        else
+            longMeasure(runs, n, dst + object);
+    }
+}
 
 // The terms of a Number of objects.
 template <class Number, int n, class Op, class T, class Elements, class Common>
 VORM_INLINE void termsOf(const Sources<Op, Elements>& src, const Common& common, int first, Number (&terms)[n])
 {
-    if constexpr (!inLanes<Number>) {
-        const Runs<Op, T> runs = runsOf<Op, T>(src, first);
-        for (int k = 0; k < n; ++k)
-            terms[k] = termOf<Op, T>([&](auto s) VORM_INLINE_LAMBDA { return T(elementAt(runs.p[s] + k, 0)); });
+    const auto rows = [&](int s) VORM_INLINE_LAMBDA {
+        const auto object = beginnings<false>(src.of[s], first);
+        Rows<T, Number::width> r;
+        for (int l = 0; l < Number::width; ++l) r.at[l] = object(l);
+        return r;
+    };
+    if constexpr (Op::sources == 1) {
+        turn(rows(0), terms);
+        for (auto& term : terms) term = term * term;
+    } else if constexpr (std::is_same_v<Common, std::nullptr_t>) {
+        turn(ProductRows<Rows<T, Number::width>, Rows<T, Number::width>>{rows(0), rows(1)}, terms);
     } else {
-        const auto rows = [&](int s) VORM_INLINE_LAMBDA {
-            Rows<T, Number::width> r;
-            for (int l = 0; l < Number::width; ++l) r.at[l] = src.of[s].at(first + l);
-            return r;
-        };
-        if constexpr (Op::sources == 1) {
-            turn(rows(0), terms);
-            for (auto& term : terms) term = term * term;
-        } else if constexpr (std::is_same_v<Common, std::nullptr_t>) {
-            turn(ProductRows<Rows<T, Number::width>, Rows<T, Number::width>>{rows(0), rows(1)}, terms);
-        } else {
-            turn(ProductRows<Rows<T, Number::width>, Common>{rows(0), common}, terms);
-        }
+        turn(ProductRows<Rows<T, Number::width>, Common>{rows(0), common}, terms);
     }
 }
 
 template <class Op, int n, class T, class Elements, class Common>
 VORM_INLINE void shortRuns(const Sources<Op, Elements>& src, const Common& common, T* dst, int count)
 {
-    storeResults<Wide<T>>(dst, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
-        Number terms[n];
-        termsOf<Number, n, Op, T>(src, common, first, terms);
-        return Op::result(leftToRight(constant<n>, [&](auto k) VORM_INLINE_LAMBDA { return terms[k]; }));
-    });
+    storeResults<Wide<T>>(
+        dst, count,
+        [&]<class Number>(int first) VORM_INLINE_LAMBDA {
+            Number terms[n];
+            termsOf<Number, n, Op, T>(src, common, first, terms);
+            return Op::result(leftToRight(constant<n>, [&](auto k) VORM_INLINE_LAMBDA { return terms[k]; }));
+        },
+        [&] { fewRuns(src, n, dst, count); });
 }
 template <class Op, int n, class T, class Elements>
 VORM_INLINE void packedRuns(const Sources<Op, Elements>& src, T* dst, int count)
 {
     constexpr bool isProduct = Op::sources == 2;
     const bool isCommon = src.of[Op::sources - 1].isCommon();
-    storeResults<Wide<T>>(dst, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
-        Number terms[n];
-        if constexpr (!inLanes<Number>) {
-            termsOf<Number, n, Op, T>(src, nullptr, first, terms);
-        } else {
+    storeResults<Wide<T>>(
+        dst, count,
+        [&]<class Number>(int first) VORM_INLINE_LAMBDA {
+            Number terms[n];
             loadPacked<n>(src.of[0].at(first), terms);
             if constexpr (isProduct) {
                 Number others[n];
@@ -150,9 +170,9 @@ VORM_INLINE void packedRuns(const Sources<Op, Elements>& src, T* dst, int count)
                 for (auto& term : terms) term = term * term;
             }
             turnPacked(terms);
-        }
-        return Op::result(leftToRight(constant<n>, [&](auto k) VORM_INLINE_LAMBDA { return terms[k]; }));
-    });
+            return Op::result(leftToRight(constant<n>, [&](auto k) VORM_INLINE_LAMBDA { return terms[k]; }));
+        },
+        [&] { fewRuns(src, n, dst, count); });
 }
 
 // Each length in a function of its own.
@@ -167,58 +187,70 @@ template <class Op, int n, class T, class Elements>
         }
     }
     if constexpr (n < 3) {
-        Sources<Op, Elements> inRow = src;
-        for (auto& source : inRow.of) source.column = sizeof(T);
-        measureAnywhere<Op>(inRow, 1, n, dst, count);
-        return;
-    } else if constexpr (Op::sources == 2) {
-        if (src.of[1].isCommon()) {
-            shortRuns<Op, n>(src, CommonRow<T, n>(src.of[1].at(0)), dst, count);
-            return;
-        }
+        fewRuns(src, n, dst, count);
+    } else {
+        if constexpr (Op::sources == 2)
+            if (src.of[1].isCommon()) {
+                shortRuns<Op, n>(src, CommonRow<T, n>(src.of[1].at(0)), dst, count);
+                return;
+            }
+        shortRuns<Op, n>(src, nullptr, dst, count);
     }
-    if constexpr (n >= 3) shortRuns<Op, n>(src, nullptr, dst, count);
 }
 
-// More terms: a register of sums for each object, folded together.
+// More terms: a register of sums for each object, folded together. The next object's wait, or they would not fit the
+// registers.
 template <class Op, class T, class Sums, class Elements>
-VORM_INLINE void longRuns(const Sources<Op, Elements>& src, T* dst, int count, const Sums& sumsOfObject)
+VORM_INLINE void longRuns(const Sources<Op, Elements>& src, std::ptrdiff_t n, T* dst, int count,
+                          const Sums& sumsOfObject)
 {
-    storeResults<Lanes<T>>(dst, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
-        if constexpr (inLanes<Number>) {
+    storeResults<Lanes<T>>(
+        dst, count,
+        [&]<class Number>(int first) VORM_INLINE_LAMBDA {
             Number sums[Number::width];
-            for (int l = 0; l < Number::width; ++l) sums[l] = sumsOfObject(runsOf<Op, T>(src, first + l));
+            const auto a = beginnings<false>(src.of[0], first);
+            const auto b = beginnings<true>(src.of[Op::sources - 1], first);
+            unrolled<Number::width>([&](auto l) VORM_INLINE_LAMBDA {
+                Runs<Op, T> runs;
+                runs.p[0] = a(l);
+                if constexpr (Op::sources == 2) runs.p[1] = b(l);
+                sums[l] = settled(sumsOfObject(runs));
+            });
             return Op::result(Op::fromZero(folded(sums)));
-        } else {
-            return Op::result(Op::fromZero(folded(sumsOfObject(runsOf<Op, T>(src, first)))));
-        }
-    });
+        },
+        [&] { fewRuns(src, n, dst, count); });
 }
 template <class Op, int whole, bool hasRest, class Rest, class T, class Elements>
-[[gnu::noinline]] void longRunsOfLength(const Sources<Op, Elements> src, Rest rest, T* dst, int count)
+[[gnu::noinline]] void longRunsOfLength(const Sources<Op, Elements> src, Rest rest, std::ptrdiff_t n, T* dst, int count)
 {
-    longRuns<Op>(src, dst, count, [rest](const Runs<Op, T>& runs) VORM_INLINE_LAMBDA {
+    longRuns<Op>(src, n, dst, count, [rest](const Runs<Op, T>& runs) VORM_INLINE_LAMBDA {
         return sumsAlong<Op, whole, hasRest>(runs, rest);
     });
 }
 template <int behind, class Op, class T, class Elements>
 [[gnu::noinline]] void longRunsOfRegisters(const Sources<Op, Elements> src, std::ptrdiff_t n, T* dst, int count)
 {
-    longRuns<Op>(src, dst, count,
+    longRuns<Op>(src, n, dst, count,
                  [n](const Runs<Op, T>& runs) VORM_INLINE_LAMBDA { return sumsOfRegisters<Op, behind>(runs, n); });
+}
+template <class Op, class T, class Elements>
+[[gnu::noinline]] void longRunsOfAnyLength(const Sources<Op, Elements> src, std::ptrdiff_t n, T* dst, int count)
+{
+    longRuns<Op>(src, n, dst, count,
+                 [n](const Runs<Op, T>& runs) VORM_INLINE_LAMBDA { return sumsAlong<Op>(runs, n); });
 }
 template <int n, class Op, class T, class Elements>
 VORM_INLINE void longRunsOfLength(const Sources<Op, Elements>& src, T* dst, int count)
 {
     constexpr int width = narrow<T>;
-    longRunsOfLength<Op, n / width, n % width != 0>(src, constant<n % width>, dst, count);
+    longRunsOfLength<Op, n / width, n % width != 0>(src, constant<n % width>, n, dst, count);
 }
 
 template <class Op, class T, class Elements>
 void measureRuns(const Sources<Op, Elements>& src, std::ptrdiff_t n, T* dst, int count)
 {
     switch (n) {
-    case 1: return runsOfLength<Op, 1>(src, dst, count);
+    case 1: return fewRuns(src, 1, dst, count);
     case 2: return runsOfLength<Op, 2>(src, dst, count);
     case 3: return runsOfLength<Op, 3>(src, dst, count);
     case 4: return runsOfLength<Op, 4>(src, dst, count);
@@ -237,12 +269,12 @@ void measureRuns(const Sources<Op, Elements>& src, std::ptrdiff_t n, T* dst, int
     }
     if (n < sumsOf<T>)
         return withRegisters<T>(int(n), [&](auto whole, auto hasRest) VORM_INLINE_LAMBDA {
-            longRunsOfLength<Op, whole, hasRest>(src, int(n) % narrow<T>, dst, count);
+            longRunsOfLength<Op, whole, hasRest>(src, int(n) % narrow<T>, n, dst, count);
         });
     // The commonest lengths that need no tests for each object, like 8x8 matrices and a dozen doubles.
     if (n % sumsOf<T> == 0) return longRunsOfRegisters<0>(src, n, dst, count);
     if (n % sumsOf<T> == sumsOf<T> / 2) return longRunsOfRegisters<sumRegisters / 2>(src, n, dst, count);
-    longRuns<Op>(src, dst, count, [n](const Runs<Op, T>& runs) VORM_INLINE_LAMBDA { return sumsAlong<Op>(runs, n); });
+    longRunsOfAnyLength(src, n, dst, count);
 }
 
 // Elements anywhere. -----------------------------------------------------------------------------------------------
@@ -262,96 +294,126 @@ void measureAnywhere(const Sources<Op, Elements>& src, int rows, int columns, T*
 
 // Planes. ----------------------------------------------------------------------------------------------------------
 
-// The numbers of objects from the first on.
+// The numbers of objects along a plane, from p on.
 template <class Number, class T>
-VORM_INLINE Number loadAlong(const T* plane)
+VORM_INLINE Number loadAlong(const T* p)
 {
     if constexpr (registersIn < Number >> 1)
         return Number::each(
-            [&](auto k) VORM_INLINE_LAMBDA { return RegisterIn<Number>::load(plane + k * RegisterIn<Number>::width); });
-    else if constexpr (inLanes<Number>)
-        return Number::load(plane);
+            [&](auto k) VORM_INLINE_LAMBDA { return RegisterIn<Number>::load(p + k * RegisterIn<Number>::width); });
     else
-        return elementAt(plane, 0);
+        return Number::load(p);
 }
 
+// The planes of a call in the order of the tables, each object's elements in rows and columns.
 template <class Op, class T>
-using PlaneSources = Sources<Op, TabledElements<const T>>;
+struct Planes {
+    using Source = TabledElements<const T>;
+    Sources<Op, Source> src;
+    int rows, columns;
 
-// The k-th element of all objects of a number, of source s: of what all objects share, or along a plane.
-template <class Number, bool secondIsCommon, class Op, class T>
-VORM_INLINE Number planeTerm(const PlaneSources<Op, T>& src, std::ptrdiff_t k, int first)
-{
-    return termOf<Op, Number>([&](auto s) VORM_INLINE_LAMBDA {
-        const T* const plane = advance(src.of[s].pp[k], src.of[s].shift);
-        if constexpr (s == 1 && secondIsCommon)
-            return Number(T(elementAt(plane, 0)));
-        else
-            return loadAlong<Number>(plane + first);
-    });
-}
+    std::ptrdiff_t terms() const { return std::ptrdiff_t{rows} * columns; }
+    [[gnu::noinline]] static void few(Planes planes, T* dst, int count)
+    {
+        measureAnywhere<Op>(planes.src, planes.rows, planes.columns, dst, count);
+    }
+    // The k-th term of all objects of a number: source s is along a plane, or common to all.
+    template <class Number, bool secondIsCommon>
+    VORM_INLINE Number term(std::ptrdiff_t k, int first) const
+    {
+        return termOf<Op, Number>([&](auto s) VORM_INLINE_LAMBDA {
+            const Source& source = src.of[s];
+            if constexpr (s == 1 && secondIsCommon)
+                return Number(T(elementAt(source.pp[k], source.shift)));
+            else
+                return loadAlong<Number>(advance(source.pp[k], source.shift + first * std::ptrdiff_t{sizeof(T)}));
+        });
+    }
+};
 
 // Each short length in a function of its own, which finds the planes once.
 template <class Op, int n, bool secondIsCommon, class T>
-[[gnu::noinline]] void planesOfLength(const PlaneSources<Op, T> src, T* dst, int count)
+[[gnu::noinline]] void planesOfLength(const Planes<Op, T> planes, T* dst, int count)
 {
+    const auto& src = planes.src;
     const T* plane[Op::sources][n];
     for (int s = 0; s < Op::sources; ++s)
         for (int k = 0; k < n; ++k) plane[s][k] = advance(src.of[s].pp[k], src.of[s].shift);
     T common[n];
     if constexpr (secondIsCommon)
         for (int k = 0; k < n; ++k) common[k] = elementAt(plane[1][k], 0);
-    storeResults<Several<Wide<T>, 2>>(dst, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
-        return Op::result(leftToRight(constant<n>, [&](auto k) VORM_INLINE_LAMBDA {
-            return termOf<Op, Number>([&](auto s) VORM_INLINE_LAMBDA {
-                if constexpr (s == 1 && secondIsCommon)
-                    return Number(common[k]);
-                else
-                    return loadAlong<Number>(plane[s][k] + first);
-            });
-        }));
-    });
+    storeResults<Several<Wide<T>, 2>>(
+        dst, count,
+        [&]<class Number>(int first) VORM_INLINE_LAMBDA {
+            return Op::result(leftToRight(constant<n>, [&](auto k) VORM_INLINE_LAMBDA {
+                return termOf<Op, Number>([&](auto s) VORM_INLINE_LAMBDA {
+                    if constexpr (s == 1 && secondIsCommon)
+                        return Number(common[k]);
+                    else
+                        return loadAlong<Number>(plane[s][k] + first);
+                });
+            }));
+        },
+        [&] { Planes<Op, T>::few(planes, dst, count); });
+}
+template <int registers, bool hasGroups, bool secondIsCommon, class Op, class T>
+[[gnu::noinline]] void longPlanes(const Planes<Op, T> planes, std::ptrdiff_t n, T* dst, int count)
+{
+    storeResults<Several<Wide<T>, 2>>(
+        dst, count,
+        [&]<class Number>(int first) VORM_INLINE_LAMBDA {
+            return Op::result(sumOfNumbers<Op, Number, registers, hasGroups>(
+                n, [&](std::ptrdiff_t k)
+                       VORM_INLINE_LAMBDA { return planes.template term<Number, secondIsCommon>(k, first); }));
+        },
+        [&] { Planes<Op, T>::few(planes, dst, count); });
 }
 template <class Op, int n, class T>
-[[gnu::noinline]] void longPlanesOfLength(const PlaneSources<Op, T> src, T* dst, int count)
+[[gnu::noinline]] void longPlanesOfLength(const Planes<Op, T> planes, T* dst, int count)
 {
-    storeResults<Several<Wide<T>, 2>>(dst, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
-        return Op::result(
-            sumOfNumbers<Op, n>([&](auto k) VORM_INLINE_LAMBDA { return planeTerm<Number, false>(src, k, first); }));
-    });
+    storeResults<Several<Wide<T>, 2>>(
+        dst, count,
+        [&]<class Number>(int first) VORM_INLINE_LAMBDA {
+            return Op::result(sumOfNumbers<Op, n>(
+                [&](auto k) VORM_INLINE_LAMBDA { return planes.template term<Number, false>(k, first); }));
+        },
+        [&] { Planes<Op, T>::few(planes, dst, count); });
 }
 template <bool secondIsCommon, class Op, class T>
-VORM_INLINE void planesOfAnyLength(const PlaneSources<Op, T>& src, std::ptrdiff_t n, T* dst, int count)
+VORM_INLINE void planesOfAnyLength(const Planes<Op, T>& planes, T* dst, int count)
 {
+    const std::ptrdiff_t n = planes.terms();
     switch (n) {
-    case 3: return planesOfLength<Op, 3, secondIsCommon>(src, dst, count);
-    case 4: return planesOfLength<Op, 4, secondIsCommon>(src, dst, count);
-    case 5: return planesOfLength<Op, 5, secondIsCommon>(src, dst, count);
-    case 6: return planesOfLength<Op, 6, secondIsCommon>(src, dst, count);
+    case 1: return planesOfLength<Op, 1, secondIsCommon>(planes, dst, count);
+    case 2: return planesOfLength<Op, 2, secondIsCommon>(planes, dst, count);
+    case 3: return planesOfLength<Op, 3, secondIsCommon>(planes, dst, count);
+    case 4: return planesOfLength<Op, 4, secondIsCommon>(planes, dst, count);
+    case 5: return planesOfLength<Op, 5, secondIsCommon>(planes, dst, count);
+    case 6: return planesOfLength<Op, 6, secondIsCommon>(planes, dst, count);
     default: break;
     }
-    storeResults<Several<Wide<T>, 2>>(dst, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
-        const auto term = [&](std::ptrdiff_t k)
-                              VORM_INLINE_LAMBDA { return planeTerm<Number, secondIsCommon>(src, k, first); };
-        return Op::result(n <= shortTerms ? leftToRight(int(n), term) : sumOfNumbers<Op, Number>(n, term));
+    if (n > sumsOf<T>) return longPlanes<sumRegisters, true, secondIsCommon>(planes, n, dst, count);
+    withLastRegisters<T>(n, [&](auto registers, auto hasGroups) VORM_INLINE_LAMBDA {
+        if constexpr (!hasGroups) longPlanes<registers, false, secondIsCommon>(planes, n, dst, count);
     });
 }
 
 template <class Op, class T>
-void measurePlanes(const Sources<Op, TabledElements<const T>>& src, std::ptrdiff_t n, T* dst, int count)
+void measurePlanes(const Sources<Op, TabledElements<const T>>& src, int rows, int columns, T* dst, int count)
 {
-    if constexpr (Op::sources == 2) {
-        if (src.of[1].isCommon()) return planesOfAnyLength<true>(src, n, dst, count);
-    } else {  // matrices of order 3 to 6
-        switch (n) {
-        case 9: return longPlanesOfLength<Op, 9>(src, dst, count);
-        case 16: return longPlanesOfLength<Op, 16>(src, dst, count);
-        case 25: return longPlanesOfLength<Op, 25>(src, dst, count);
-        case 36: return longPlanesOfLength<Op, 36>(src, dst, count);
+    const Planes<Op, T> planes{src, rows, columns};
+    if constexpr (Op::sources == 2)
+        if (src.of[1].isCommon()) return planesOfAnyLength<true>(planes, dst, count);
+    if constexpr (Op::sources == 1) {  // square matrices of order 3 to 6
+        switch (planes.terms()) {
+        case 9: return longPlanesOfLength<Op, 9>(planes, dst, count);
+        case 16: return longPlanesOfLength<Op, 16>(planes, dst, count);
+        case 25: return longPlanesOfLength<Op, 25>(planes, dst, count);
+        case 36: return longPlanesOfLength<Op, 36>(planes, dst, count);
         default: break;
         }
     }
-    planesOfAnyLength<false>(src, n, dst, count);
+    planesOfAnyLength<false>(planes, dst, count);
 }
 
 // Traces. ----------------------------------------------------------------------------------------------------------
@@ -366,9 +428,11 @@ template <int n, class T, class Elements>
             leftToRight(constant<n>, [&](auto i) VORM_INLINE_LAMBDA { return T(elementAt(p, i * step)); });
     };
     int object = 0;
-    for (; object + 4 <= count; object += 4)
-        unrolled<4>([&](auto l) VORM_INLINE_LAMBDA { trace(src.at(object + l), object + l); });
-    for (; object < count; ++object) trace(src.at(object), object);
+    for (; object + 4 <= count; object += 4) {
+        const auto beginning = beginnings<false>(src, object);
+        unrolled<4>([&](auto l) VORM_INLINE_LAMBDA { trace(beginning(l), object + l); });
+    }
+    for (; object < count; ++object) trace(beginnings<false>(src, object)(0), object);
 }
 
 // Four sums that do not wait for each other.
@@ -379,7 +443,8 @@ VORM_INLINE void tracesOfAnyOrder(const Elements& src, int n, T* dst, int count)
     const auto some = [&](auto objects, int object) VORM_INLINE_LAMBDA {
         const T* p[objects];
         T sums[objects];
-        for (int l = 0; l < objects; ++l) p[l] = src.at(object + l), sums[l] = elementAt(p[l], 0);
+        const auto beginning = beginnings<false>(src, object);
+        for (int l = 0; l < objects; ++l) p[l] = beginning(l), sums[l] = elementAt(p[l], 0);
         for (std::ptrdiff_t i = 1, at = step; i < n; ++i, at += step)
             for (int l = 0; l < objects; ++l) sums[l] = sums[l] + elementAt(p[l], at);
         for (int l = 0; l < objects; ++l) entry(dst, object + l) = sums[l];
@@ -411,13 +476,16 @@ void traces(const Elements& src, int n, T* dst, int count)
 template <class T>
 void tracesOfPlanes(const TabledElements<const T>& src, int n, T* dst, int count)
 {
-    storeResults<Several<Wide<T>, 4>>(dst, count, [&]<class Number>(int first) VORM_INLINE_LAMBDA {
-        return leftToRight(n, [&](int i) VORM_INLINE_LAMBDA { return loadAlong<Number>(src.plane(i, i) + first); });
-    });
+    storeResults<Several<Wide<T>, 4>>(
+        dst, count,
+        [&]<class Number>(int first) VORM_INLINE_LAMBDA {
+            return leftToRight(n, [&](int i) VORM_INLINE_LAMBDA { return loadAlong<Number>(src.plane(i, i) + first); });
+        },
+        [&] { traces(src, n, dst, count); });
 }
 
 #define MEASURES_OF(Op, T)                                                                                 \
-    template T longMeasure(const Runs<Op, T>&, std::ptrdiff_t);                                            \
+    template VormStatus longMeasure(Runs<Op, T>, std::ptrdiff_t, T*);                                      \
     template T longMeasureAnywhere<Op, T>(const Objects<Op, StridedElements<const T>::Object>&, int, int); \
     template T longMeasureAnywhere<Op, T>(const Objects<Op, TabledElements<const T>::Object>&, int, int);  \
     template void measureRuns(const Sources<Op, StridedElements<const T>>&, std::ptrdiff_t, T*, int);      \
@@ -425,7 +493,7 @@ void tracesOfPlanes(const TabledElements<const T>& src, int n, T* dst, int count
     template void measureAnywhere(const Sources<Op, StridedElements<const T>>&, int, int, T*, int);        \
     template void measureAnywhere(const Sources<Op, ListedElements<const T>>&, int, int, T*, int);         \
     template void measureAnywhere(const Sources<Op, TabledElements<const T>>&, int, int, T*, int);         \
-    template void measurePlanes(const Sources<Op, TabledElements<const T>>&, std::ptrdiff_t, T*, int);
+    template void measurePlanes(const Sources<Op, TabledElements<const T>>&, int, int, T*, int);
 #define MEASURES_ALL(T)                                                  \
     MEASURES_OF(Dot, T)                                                  \
     MEASURES_OF(Norm, T)                                                 \

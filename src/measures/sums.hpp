@@ -31,6 +31,88 @@ VORM_INLINE void addGroups(const T* const (&p)[Op::sources], std::ptrdiff_t n, s
     for (int j = 0; j < registers; ++j)
         eachPart(wide[j], [&](int q, Lanes<T> part) VORM_INLINE_LAMBDA { sums[j * parts + q] = part; });
 }
+// The same of the groups that others or single terms follow, at least one, begun with their first terms.
+template <class Op, class T>
+VORM_INLINE void firstGroups(const Runs<Op, T>& runs, std::ptrdiff_t n, std::ptrdiff_t& i,
+                             Lanes<T> (&sums)[sumRegisters])
+{
+    for (int j = 0; j < sumRegisters; ++j)
+        sums[j] =
+            termOf<Op, Lanes<T>>([&](auto s) VORM_INLINE_LAMBDA { return Lanes<T>::load(runs.p[s] + j * narrow<T>); });
+    i = sumsOf<T>;
+    addGroups<Op>(runs.p, n - 1, i, sums);
+}
+
+// The last register of a run of n terms, more than fit a register, ends with its last term: the terms that were in a
+// register before are shifted out, and zeros stand behind the others.
+template <class T>
+class LastTerms {
+public:
+    VORM_INLINE explicit LastTerms(std::ptrdiff_t n)
+    {
+        static constexpr unsigned char bytes[32] = {0,   1,   2,   3,   4,   5,   6,   7,   8,   9,   10,
+                                                    11,  12,  13,  14,  15,  128, 128, 128, 128, 128, 128,
+                                                    128, 128, 128, 128, 128, 128, 128, 128, 128, 128};
+        const std::ptrdiff_t before = -n & (narrow<T> - 1);
+        order_ = _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes + before * int{sizeof(T)}));
+    }
+    VORM_INLINE Lanes<T> of(Lanes<T> a) const
+    {
+        if constexpr (narrow<T> == 4)
+            return _mm_castsi128_ps(_mm_shuffle_epi8(_mm_castps_si128(a.v), order_));
+        else
+            return _mm_castsi128_pd(_mm_shuffle_epi8(_mm_castpd_si128(a.v), order_));
+    }
+
+private:
+    __m128i order_;
+};
+// So many registers at the end of a run are added to the sums, or are their first terms. The last register holds one
+// term or more.
+template <class Op, int registers, bool isFirst, class T>
+VORM_INLINE void addLast(const Runs<Op, T>& runs, std::ptrdiff_t n, std::ptrdiff_t i, const LastTerms<T>& last,
+                         Lanes<T> (&sums)[sumRegisters])
+{
+    constexpr int width = narrow<T>;
+    unrolled<registers>([&](auto j) VORM_INLINE_LAMBDA {
+        const std::ptrdiff_t at = j < registers - 1 ? i + j * width : n - width;
+        auto terms = termOf<Op, Lanes<T>>([&](auto s) VORM_INLINE_LAMBDA { return Lanes<T>::load(runs.p[s] + at); });
+        if constexpr (j == registers - 1) terms = last.of(terms);
+        sums[j] = isFirst ? terms : sums[j] + terms;
+    });
+}
+// The sums of a run that ends with so many registers, with at least one whole group before them or with none; not yet
+// folded.
+template <class Op, int registers, bool hasGroups, class T>
+VORM_INLINE Lanes<T> sumsOfOne(const Runs<Op, T>& runs, std::ptrdiff_t n, const LastTerms<T>& last)
+{
+    Lanes<T> sums[sumRegisters];
+    std::ptrdiff_t i = 0;
+    if constexpr (hasGroups) firstGroups<Op>(runs, n, i, sums);
+    addLast<Op, registers, !hasGroups>(runs, n, i, last, sums);
+    if constexpr (!hasGroups && registers == 2) return sums[0] + sums[1];
+    if constexpr (!hasGroups && registers == 3) return (sums[0] + sums[1]) + sums[2];
+    return united(sums);
+}
+// Calls body(registers, hasGroups) for a run of n terms, more than are added from left to right.
+template <class T, class Body>
+VORM_INLINE auto withLastRegisters(std::ptrdiff_t n, const Body& body)
+{
+    const int registers = int((n - 1) % sumsOf<T>) / narrow<T> + 1;
+    if (n <= sumsOf<T>) {
+        if constexpr (narrow<T> == 4) {
+            if (registers == 2) return body(constant<2>, std::false_type{});
+            if (registers == 3) return body(constant<3>, std::false_type{});
+        }
+        return body(constant<4>, std::false_type{});
+    }
+    switch (registers) {
+    case 1: return body(constant<1>, std::true_type{});
+    case 2: return body(constant<2>, std::true_type{});
+    case 3: return body(constant<3>, std::true_type{});
+    default: return body(constant<4>, std::true_type{});
+    }
+}
 
 // The sums of a run of at least one group, not yet folded and begun with their first terms.
 template <class Op, class T>
@@ -113,29 +195,41 @@ VORM_INLINE Number settled(Number sum)
     return sum;
 }
 
-// Of numbers: term(k) of all objects that a number holds. A sum at a time grows, so that few are in registers.
-template <class Op, class Number, class Term>
+// Of numbers: term(k) of all objects that a number holds. So many terms, or sums of more, make a lane of all sums; the
+// last may be missing. Sums grow and are added one at a time, so that few are in registers.
+template <class Op, class Number, int registers, bool hasGroups, class Term>
 VORM_INLINE Number sumOfNumbers(std::ptrdiff_t n, const Term& term)
 {
     using T = Element<Number>;
-    constexpr int count = sumsOf<T>, width = narrow<T>;
-    const auto sumFrom = [&](int l) VORM_INLINE_LAMBDA {
-        if (l >= n) return Number(T(0));
-        Number sum = term(l);
-        for (std::ptrdiff_t k = l + count; k < n; k += count) sum = sum + term(k);
+    constexpr int group = sumsOf<T>, width = narrow<T>;
+    const auto sumFrom = [&](int k) VORM_INLINE_LAMBDA {
+        Number sum = term(k);
+        if constexpr (hasGroups)
+            for (std::ptrdiff_t i = k + group; i < n; i += group) sum = sum + term(i);
         return settled(sum);
     };
-    Number lane[width];
-    for (int l = 0; l < width; ++l) {
-        const Number s0 = sumFrom(l), s1 = sumFrom(l + width);
-        const Number s2 = sumFrom(l + 2 * width), s3 = sumFrom(l + 3 * width);
-        lane[l] = (s0 + s1) + (s2 + s3);
-    }
+    const auto withLast = [&](Number sum, int k) VORM_INLINE_LAMBDA {
+        if (hasGroups || k < n) sum = sum + sumFrom(k);
+        return settled(sum);
+    };
+    const auto lane = [&](int l) VORM_INLINE_LAMBDA {
+        const Number first = sumFrom(l);
+        if constexpr (registers == 2) return withLast(first, l + width);
+        const Number half = settled(first + sumFrom(l + width));
+        if constexpr (registers == 3) return withLast(half, l + 2 * width);
+        return settled(half + withLast(sumFrom(l + 2 * width), l + 3 * width));
+    };
+    const auto pair = [&](int l) VORM_INLINE_LAMBDA {
+        const Number first = lane(l);
+        return settled(first + lane(l + 1));
+    };
+    const Number first = pair(0);
     if constexpr (width == 2)
-        return Op::fromZero(lane[0] + lane[1]);
+        return Op::fromZero(first);
     else
-        return Op::fromZero((lane[0] + lane[1]) + (lane[2] + lane[3]));
+        return Op::fromZero(first + pair(2));
 }
+
 // The same, where n is a constant: the sums without a term are left out.
 template <int n, int l, class Term>
 VORM_INLINE auto sumFrom(const Term& term)
@@ -211,6 +305,6 @@ VORM_INLINE T shortMeasure(const Runs<Op, T>& runs, int n)
     }));
 }
 template <class Op, class T>
-VORM_HIDDEN T longMeasure(const Runs<Op, T>& runs, std::ptrdiff_t n);
+VORM_HIDDEN VormStatus longMeasure(Runs<Op, T> runs, std::ptrdiff_t n, T* dst);
 
 }  // namespace vorm::measures
