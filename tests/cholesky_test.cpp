@@ -5,6 +5,7 @@
 #include <lapacke.h>
 
 #include "operands.hpp"
+#include "square_matrix.hpp"
 
 namespace {
 
@@ -91,24 +92,24 @@ void checkResiduals(double factorGate, double solutionGate)
                         Wide sum = -Wide(a[std::size_t(r * n + c)]);
                         size = std::max(size, std::fabs(sum));
                         for (int k = 0; k <= c; ++k) sum += l(r, k) * l(c, k);
-                        error = std::max(error, std::fabs(sum));
+                        error = worse(error, std::fabs(sum));
                     }
                 for (T value : x) sumX += std::fabs(value);
                 for (int r = 0; r < n; ++r) {
                     Wide sum = -Wide(b[std::size_t(r)]);
                     for (int c = 0; c < n; ++c) sum += Wide(a[std::size_t(r * n + c)]) * Wide(x[std::size_t(c)]);
-                    rest = std::max(rest, std::fabs(sum));
+                    rest = worse(rest, std::fabs(sum));
                 }
                 const Wide unit = n * Wide(std::numeric_limits<T>::epsilon()) * size;
-                worstFactor = std::max(worstFactor, double(error / unit));
-                worstSolution = std::max(worstSolution, double(rest / (unit * sumX)));
+                worstFactor = worse(worstFactor, double(error / unit));
+                worstSolution = worse(worstSolution, double(rest / (unit * sumX)));
 
                 // LAPACK's factor, as far as the two can be compared: where the matrix is far from singular.
                 ASSERT_EQ(Functions<T>::theirs(LAPACK_ROW_MAJOR, 'L', n, theirs.data(), n), 0);
                 if (kind == Kind::random && n <= 12)
                     for (int r = 0; r < n; ++r)
                         for (int c = 0; c <= r; ++c)
-                            worstOpinion = std::max(
+                            worstOpinion = worse(
                                 worstOpinion, double(std::fabs(l(r, c) - Wide(theirs[std::size_t(r * n + c)])) / unit));
             }
     std::printf("%.2f, solutions %.2f, from LAPACK's %.0f, %d of %d definite\n", worstFactor, worstSolution,

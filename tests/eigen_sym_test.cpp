@@ -112,7 +112,7 @@ struct Worst : Errors {
         ++tried, off += e.isOff();
         orthogonality = worse(orthogonality, e.orthogonality);
         if (e.isOff()) return;
-        values = std::max(values, e.values), residual = std::max(residual, e.residual);
+        values = worse(values, e.values), residual = worse(residual, e.residual);
     }
 };
 template <class T>

@@ -7,6 +7,7 @@
 #include <numeric>
 
 #include "operands.hpp"
+#include "square_matrix.hpp"
 
 namespace {
 
@@ -54,10 +55,10 @@ void checkSolutions(double gate)
                     long double rest = -static_cast<long double>(b[r]);
                     for (std::size_t c = 0; c < b.size(); ++c)
                         rest += static_cast<long double>(a[r * b.size() + c]) * static_cast<long double>(x[c]);
-                    error = std::max(error, std::fabs(rest));
+                    error = worse(error, std::fabs(rest));
                 }
                 const long double unit = n * static_cast<long double>(std::numeric_limits<T>::epsilon()) * size;
-                worst = std::max(worst, double(error / (unit * sumX)));
+                worst = worse(worst, double(error / (unit * sumX)));
 
                 auto theirs = a;
                 std::vector<lapack_int> exchanges(b.size());

@@ -5,6 +5,7 @@
 #include <lapacke.h>
 
 #include "operands.hpp"
+#include "square_matrix.hpp"
 
 namespace {
 
@@ -107,7 +108,7 @@ void checkFactors(const Factors<T>& f, const std::vector<T>& a, Worst<T>& worst)
         for (int r = 0; r <= c; ++r) column[std::size_t(r)] = Real(f.packed[std::size_t(r * n + c)]);
         const auto product = f.timesQ(column);
         for (int r = 0; r < m; ++r)
-            error = std::max(error, std::fabs(product[std::size_t(r)] - Real(a[std::size_t(r * n + c)])));
+            error = worse(error, std::fabs(product[std::size_t(r)] - Real(a[std::size_t(r * n + c)])));
     }
     std::vector<std::vector<Real>> q;
     for (int c = 0; c < m; ++c) {
@@ -119,10 +120,10 @@ void checkFactors(const Factors<T>& f, const std::vector<T>& a, Worst<T>& worst)
         for (int j = 0; j <= i; ++j) {
             Real sum = i == j ? -1 : 0;
             for (std::size_t r = 0; r < q.size(); ++r) sum += q[std::size_t(i)][r] * q[std::size_t(j)][r];
-            skew = std::max(skew, std::fabs(sum));
+            skew = worse(skew, std::fabs(sum));
         }
-    worst.product = std::max(worst.product, double(error / (m * eps * largest(a))));
-    worst.orthogonality = std::max(worst.orthogonality, double(skew / (m * eps)));
+    worst.product = worse(worst.product, double(error / (m * eps * largest(a))));
+    worst.orthogonality = worse(worst.orthogonality, double(skew / (m * eps)));
 }
 
 // Of a square system max |A x - b| over n eps max |A| sum |x|; otherwise max |A'(A x - b)| over m eps |A| (|A| |x| +
@@ -142,14 +143,14 @@ void checkSolution(Shape s, const std::vector<T>& a, const std::vector<T>& b, co
         rest.push_back(sum);
     }
     if (m == n) {
-        worst.solution = std::max(worst.solution, double(largest(rest) / (m * eps * sizeOfA * sumX)));
+        worst.solution = worse(worst.solution, double(largest(rest) / (m * eps * sizeOfA * sumX)));
         return;
     }
     std::vector<Real> normal(x.size());
     for (int c = 0; c < n; ++c)
         for (int r = 0; r < m; ++r) normal[std::size_t(c)] += Real(a[std::size_t(r * n + c)]) * rest[std::size_t(r)];
     worst.leastSquares =
-        std::max(worst.leastSquares, double(largest(normal) / (m * eps * sizeOfA * (sizeOfA * sumX + sumB))));
+        worse(worst.leastSquares, double(largest(normal) / (m * eps * sizeOfA * (sizeOfA * sumX + sumB))));
 }
 
 template <class T>

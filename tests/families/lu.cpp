@@ -4,6 +4,7 @@
 
 #include "families/sums.hpp"
 #include "harness.hpp"
+#include "square_matrix.hpp"
 
 namespace {
 
@@ -90,7 +91,7 @@ std::string judge(const Call& call, int n)
             long double sum = r <= c ? factor(r, c) : 0;
             for (int k = 0; k < std::min(r, c + 1); ++k) sum += factor(r, k) * factor(k, c);
             const long double wanted = at<T>(src, n, rows.found<int>(n, r), c);
-            largest = std::max(largest, std::fabs(wanted)), error = std::max(error, std::fabs(sum - wanted));
+            largest = std::max(largest, std::fabs(wanted)), error = worse(error, std::fabs(sum - wanted));
         }
     if (error <= 1.1L * order * std::numeric_limits<T>::epsilon() * largest) return {};
     return "has residual " + std::to_string(double(error)) + " in object " + std::to_string(n);
