@@ -44,12 +44,12 @@ VORM_INLINE bool valuesOfOrderTwo(const Number* matrix, Number* re, Number* im)
 template <class Number>
 bool valuesSideBySide(Number* matrix, int n, Number* re, Number* im)
 {
-    if constexpr (registersIn < Number >> 1) {
-        if (n == 3) return iterateSideBySide(matrix, constant<3>, re, im);
-        if (n == 4) return iterateSideBySide(matrix, constant<4>, re, im);
-    } else {
+    if constexpr (registersIn<Number> == 1) {
         if (n == 1) return re[0] = matrix[0], im[0] = Number(Element<Number>(0)), true;
         if (n == 2) return valuesOfOrderTwo(matrix, re, im);
+    } else {
+        if (n == 3) return iterateSideBySide(matrix, constant<3>, re, im);
+        if (n == 4) return iterateSideBySide(matrix, constant<4>, re, im);
     }
     return iterateSideBySide(matrix, n, re, im);
 }
