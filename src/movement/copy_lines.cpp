@@ -107,12 +107,57 @@ VORM_INLINE void copyRowsInParts(const S& src, const D& dst, const ShortRows& ro
     });
 }
 
+VORM_INLINE __m128i load16(const char* p) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p)); }
+VORM_INLINE __m128i load8(const char* p) { return _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)); }
+VORM_INLINE __m128i load4(const char* p)
+{
+    std::int32_t v;
+    std::memcpy(&v, p, sizeof v);
+    return _mm_cvtsi32_si128(v);
+}
+
+// 16 bytes of rows that are to lie without gaps, from the i-th on: of one row, or of two, of which nothing but
+// themselves is read.
+template <int bytes, int i>
+VORM_INLINE __m128i packedPart(const char* rows, std::ptrdiff_t step)
+{
+    constexpr int before = i % bytes, ofFirst = bytes - before;
+    const char* const first = rows + i / bytes * step;
+    const char* const second = first + step;
+    if constexpr (ofFirst >= 16)
+        return load16(first + before);
+    else if constexpr (ofFirst == 8)
+        return _mm_unpacklo_epi64(load8(first + before), load8(second));
+    else if constexpr (bytes > 16)
+        return _mm_alignr_epi8(load16(second), load16(first + bytes - 16), 16 - ofFirst);
+    else
+        return _mm_unpacklo_epi64(load8(first), _mm_unpacklo_epi32(load4(first + 8), load4(second)));
+}
+// A square of rows that do not fill registers, to where it lies without gaps: those of the destination are filled.
+template <int order, int bytes>
+VORM_INLINE void packSquare(const char* from, std::ptrdiff_t step, char* to)
+{
+    constexpr int all = order * bytes, rest = all % 16;
+    unrolled<all / 16>([&](auto k) VORM_INLINE_LAMBDA {
+        const __m128i part = packedPart<bytes, 16 * decltype(k)::value>(from, step);
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(to + 16 * k), part);
+    });
+    if constexpr (rest > 0) copyBytes<rest>(from + (order - 1) * step + bytes - rest, to + all - rest);
+}
+
 // Squares of elements of so many bytes, written out. Says whether that is what the rows are.
 template <int order, int element, class S, class D>
 VORM_INLINE bool copySquares(const S& src, const D& dst, const ShortRows& rows, std::ptrdiff_t objects)
 {
     constexpr int bytes = order * element;
     if (rows.count != order || rows.bytes != bytes) return false;
+    if constexpr (bytes % 16 > 0)
+        if (rows.dst == bytes) {
+            eachLine(src, dst, objects, [step = rows.src](const char* from, char* to) VORM_INLINE_LAMBDA {
+                packSquare<order, bytes>(from, step, to);
+            });
+            return true;
+        }
     eachLine(src, dst, objects, [&](const char* from, char* to) VORM_INLINE_LAMBDA {
         unrolled<order>([&](auto) VORM_INLINE_LAMBDA {
             copyBytes<bytes>(from, to);
