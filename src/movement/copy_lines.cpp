@@ -10,6 +10,11 @@ namespace vorm::movement {
 
 namespace {
 
+template <class Lines>
+constexpr bool isSpaced = false;
+template <class T>
+constexpr bool isSpaced<SpacedLines<T>> = true;
+
 struct Bytes16 {
     static constexpr int size = 16;
     VORM_INLINE static void copy(const char* from, char* to)
@@ -55,25 +60,84 @@ VORM_INLINE void copyBytes(const char* from, char* to)
     if constexpr (bytes & 4) Bytes4::copy(from + bytes - 4, to + bytes - 4);
 }
 
-template <class S, class D, class CopyLine>
+// So many at a time.
+template <int together = 1, class S, class D, class CopyLine>
 VORM_INLINE void eachLine(const S& src, const D& dst, std::ptrdiff_t lines, const CopyLine& copyLine)
 {
-    for (std::ptrdiff_t j = 0; j < lines; ++j) copyLine(src.at(j), dst.at(j));
+    std::ptrdiff_t j = 0;
+    if constexpr (together > 1)
+        for (; j + together <= lines; j += together)
+            unrolled<together>([&](auto k) VORM_INLINE_LAMBDA { copyLine(src.at(j + k), dst.at(j + k)); });
+    for (; j < lines; ++j) copyLine(src.at(j), dst.at(j));
+}
+
+VORM_INLINE __m128i load16(const char* p) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p)); }
+VORM_INLINE __m128i load8(const char* p) { return _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)); }
+VORM_INLINE __m128i load4(const char* p)
+{
+    std::int32_t v;
+    std::memcpy(&v, p, sizeof v);
+    return _mm_cvtsi32_si128(v);
+}
+
+// 16 bytes of rows that are to lie without gaps, from the i-th on: of one row, or of two, of which nothing but
+// themselves is read.
+template <int bytes, int i>
+VORM_INLINE __m128i packedPart(const char* rows, std::ptrdiff_t step)
+{
+    constexpr int before = i % bytes, ofFirst = bytes - before;
+    const char* const first = rows + i / bytes * step;
+    const char* const second = first + step;
+    if constexpr (ofFirst >= 16)
+        return load16(first + before);
+    else if constexpr (ofFirst == 8)
+        return _mm_unpacklo_epi64(load8(first + before), load8(second));
+    else if constexpr (bytes > 16)
+        return _mm_alignr_epi8(load16(second), load16(first + bytes - 16), 16 - ofFirst);
+    else if constexpr (ofFirst == 12)
+        return _mm_unpacklo_epi64(load8(first), _mm_unpacklo_epi32(load4(first + 8), load4(second)));
+    else
+        return _mm_unpacklo_epi64(_mm_unpacklo_epi32(load4(first + 8), load4(second)), load8(second + 4));
+}
+// Rows that do not fill registers, to where they lie without gaps: what is stored fills them.
+template <int count, int bytes>
+VORM_INLINE void packRows(const char* from, std::ptrdiff_t step, char* to)
+{
+    constexpr int all = count * bytes, rest = all % 16;
+    unrolled<all / 16>([&](auto k) VORM_INLINE_LAMBDA {
+        const __m128i part = packedPart<bytes, 16 * decltype(k)::value>(from, step);
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(to + 16 * k), part);
+    });
+    if constexpr (rest > 0) copyBytes<rest>(from + (count - 1) * step + bytes - rest, to + all - rest);
+}
+
+// Lines of 12 or 24 bytes, to where they lie without gaps.
+template <int bytes, class S, class D>
+VORM_INLINE void packLines(const S& src, const D& dst, std::ptrdiff_t lines)
+{
+    constexpr int together = 48 / bytes;
+    std::ptrdiff_t j = 0;
+    for (; j + together <= lines; j += together) packRows<together, bytes>(src.at(j), src.step, dst.at(j));
+    for (; j < lines; ++j) copyBytes<bytes>(src.at(j), dst.at(j));
 }
 
 // Lines of more than so many parts of 16 bytes, and of one more at most.
 template <int parts, class S, class D>
 VORM_INLINE void copyInParts(const S& src, const D& dst, std::ptrdiff_t bytes, std::ptrdiff_t lines)
 {
+    constexpr int together = parts == 0 ? 2 : 1;  // a loop turns around once a cycle at most
     const auto exactly = [&](auto rest) VORM_INLINE_LAMBDA {
-        eachLine(src, dst, lines, copyBytes<parts * 16 + decltype(rest)::value>);
+        constexpr int all = parts * 16 + decltype(rest)::value;
+        if constexpr (isSpaced<S> && isSpaced<D> && (all == 12 || all == 24))
+            if (dst.step == all) return packLines<all>(src, dst, lines);
+        eachLine<together>(src, dst, lines, copyBytes<all>);
     };
     const std::ptrdiff_t rest = bytes - parts * 16;
     if (rest == 4) return exactly(constant<4>);
     if (rest == 8) return exactly(constant<8>);
     if constexpr (parts == 0)
         if (rest == 12) return exactly(constant<12>);
-    eachLine(src, dst, lines, [bytes](const char* from, char* to) VORM_INLINE_LAMBDA {
+    eachLine<together>(src, dst, lines, [bytes](const char* from, char* to) VORM_INLINE_LAMBDA {
         copyPartsAndLast<Bytes16, parts, Bytes16>(from, to, bytes);
     });
 }
@@ -107,44 +171,6 @@ VORM_INLINE void copyRowsInParts(const S& src, const D& dst, const ShortRows& ro
     });
 }
 
-VORM_INLINE __m128i load16(const char* p) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p)); }
-VORM_INLINE __m128i load8(const char* p) { return _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)); }
-VORM_INLINE __m128i load4(const char* p)
-{
-    std::int32_t v;
-    std::memcpy(&v, p, sizeof v);
-    return _mm_cvtsi32_si128(v);
-}
-
-// 16 bytes of rows that are to lie without gaps, from the i-th on: of one row, or of two, of which nothing but
-// themselves is read.
-template <int bytes, int i>
-VORM_INLINE __m128i packedPart(const char* rows, std::ptrdiff_t step)
-{
-    constexpr int before = i % bytes, ofFirst = bytes - before;
-    const char* const first = rows + i / bytes * step;
-    const char* const second = first + step;
-    if constexpr (ofFirst >= 16)
-        return load16(first + before);
-    else if constexpr (ofFirst == 8)
-        return _mm_unpacklo_epi64(load8(first + before), load8(second));
-    else if constexpr (bytes > 16)
-        return _mm_alignr_epi8(load16(second), load16(first + bytes - 16), 16 - ofFirst);
-    else
-        return _mm_unpacklo_epi64(load8(first), _mm_unpacklo_epi32(load4(first + 8), load4(second)));
-}
-// A square of rows that do not fill registers, to where it lies without gaps: those of the destination are filled.
-template <int order, int bytes>
-VORM_INLINE void packSquare(const char* from, std::ptrdiff_t step, char* to)
-{
-    constexpr int all = order * bytes, rest = all % 16;
-    unrolled<all / 16>([&](auto k) VORM_INLINE_LAMBDA {
-        const __m128i part = packedPart<bytes, 16 * decltype(k)::value>(from, step);
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(to + 16 * k), part);
-    });
-    if constexpr (rest > 0) copyBytes<rest>(from + (order - 1) * step + bytes - rest, to + all - rest);
-}
-
 // Squares of elements of so many bytes, written out. Says whether that is what the rows are.
 template <int order, int element, class S, class D>
 VORM_INLINE bool copySquares(const S& src, const D& dst, const ShortRows& rows, std::ptrdiff_t objects)
@@ -154,7 +180,7 @@ VORM_INLINE bool copySquares(const S& src, const D& dst, const ShortRows& rows, 
     if constexpr (bytes % 16 > 0)
         if (rows.dst == bytes) {
             eachLine(src, dst, objects, [step = rows.src](const char* from, char* to) VORM_INLINE_LAMBDA {
-                packSquare<order, bytes>(from, step, to);
+                packRows<order, bytes>(from, step, to);
             });
             return true;
         }

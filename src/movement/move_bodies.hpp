@@ -2,6 +2,8 @@
 // that are copied; along different ones, as lines that are turned in registers; one by one otherwise.
 #pragma once
 
+#include <cstring>
+
 #include "frame/minmax.hpp"
 #include "movement/lines.hpp"
 #include "movement/move.hpp"
@@ -52,6 +54,8 @@ VORM_INLINE void moveRows(const S& src, const D& dst, const Extents& all)
         for (int n = 0; n < all.count; ++n)
             copyLines(inBytes(alongRow(transposed(src), n, 0)), inBytes(alongRow(transposed(dst), n, 0)), bytes,
                       all.rows);
+    } else if (all.rows == 1 && all.count == 1) {
+        std::memcpy(dst.at(0), src.at(0), static_cast<std::size_t>(bytes));
     } else if (all.rows == 1) {
         copyLines(inBytes(alongObjects(src, 0, 0)), inBytes(alongObjects(dst, 0, 0)), bytes, all.count);
     } else if (all.rows <= 8 && bytes <= longestShortRow) {
@@ -104,9 +108,10 @@ VORM_INLINE void moveTurned(const S& src, const D& dst, const Extents& all)
         turnLines(alongRow(transposed(src), n, 0), alongRow(dst, n, 0), all.columns, all.rows);
 }
 
-// Elements anywhere: along objects where there are several.
+// Elements anywhere: along objects where there are several. What it is told comes by value, so that who calls it can
+// hold that in registers.
 template <class T, class S, class D>
-[[gnu::noinline]] void moveElements(const S& src, const D& dst, const Extents& all)
+[[gnu::noinline]] void moveElements(const S src, const D dst, const Extents all)
 {
     const auto each = [](const auto& from, const auto& to, std::ptrdiff_t elements) VORM_INLINE_LAMBDA {
         for (std::ptrdiff_t i = 0; i < elements; ++i) elementAt(to.at(i), 0) = elementAt(from.at(i), 0);
