@@ -39,7 +39,9 @@ VORM_INLINE void turnSmall(const RowsOfObject<const T>& src, const RowsOfObject<
             tile.v[c].store(dst.from(c));
             number(4, c);
         });
-        unrolled<5>([&](auto r) VORM_INLINE_LAMBDA { number(r, 4); });
+        const auto last = [&](int r) VORM_INLINE_LAMBDA { return loadFirst<1>(src.from(r) + 4); };
+        shuffle<0, 1, 0, 1>(interleaveLow(last(0), last(1)), interleaveLow(last(2), last(3))).store(dst.from(4));
+        number(4, 4);
     } else {
         inBands<narrow<T>>(order, order, [&]<int columns, int rows>(int c, int r) VORM_INLINE_LAMBDA {
             if constexpr (rows == 1 || columns == 1)
@@ -50,9 +52,24 @@ VORM_INLINE void turnSmall(const RowsOfObject<const T>& src, const RowsOfObject<
     }
 }
 
+// The same in doubles of an odd order to where they lie without gaps: pairs of rows as whole registers.
+template <int order>
+VORM_INLINE void turnSmallPacked(const RowsOfObject<const double>& src, double* dst)
+{
+    const auto number = [&](int i) VORM_INLINE_LAMBDA { return loadFirst<1>(src.from(i % order) + i / order); };
+    unrolled<order * order / 2>(
+        [&](auto i) VORM_INLINE_LAMBDA { shuffle<0, 0>(number(2 * i), number(2 * i + 1)).store(dst + 2 * i); });
+    dst[order * order - 1] = double{entry(src.from(order - 1), order - 1)};
+}
+
 template <int order, class T, class S, class D>
 [[gnu::noinline]] void turnSmallObjects(const S src, const D dst, int first, int count)
 {
+    if constexpr (order == 5 && sizeof(T) == sizeof(double))
+        if (dst.column == std::ptrdiff_t{order * sizeof(T)}) {
+            for (int n = first; n < count; ++n) turnSmallPacked<order>({src.at(n), src.row}, dst.at(n));
+            return;
+        }
     for (int n = first; n < count; ++n) turnSmall<order, T>({src.at(n), src.row}, {dst.at(n), dst.column});
 }
 
