@@ -122,7 +122,7 @@ void checkFactors(const Factors<T>& f, const std::vector<T>& a, Worst<T>& worst)
             for (std::size_t r = 0; r < q.size(); ++r) sum += q[std::size_t(i)][r] * q[std::size_t(j)][r];
             skew = worse(skew, std::fabs(sum));
         }
-    worst.product = worse(worst.product, double(error / (m * eps * largest(a))));
+    if (error != 0) worst.product = worse(worst.product, double(error / (m * eps * largest(a))));
     worst.orthogonality = worse(worst.orthogonality, double(skew / (m * eps)));
 }
 
