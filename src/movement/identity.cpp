@@ -23,13 +23,15 @@ struct Window {
 template <class T>
 constexpr Window<T> window;
 
-// Small squares whose rows lie side by side, from registers that hold them.
+// Small squares whose rows lie side by side, from registers that hold them: as many as fill whole registers.
 template <int order, class T>
 struct Identity {
-    T elements[order * order + narrow<T>] = {};  // a register may begin with any of them
+    static constexpr int size = order * order, together = size % narrow<T> == 0 ? 1 : narrow<T>;
+    T elements[together * size + narrow<T>] = {};  // a register may begin with any of them
     constexpr Identity()
     {
-        for (int i = 0; i < order; ++i) elements[i * order + i] = 1;
+        for (int n = 0; n < together; ++n)
+            for (int i = 0; i < order; ++i) elements[n * size + i * order + i] = 1;
     }
 };
 template <int order, class T>
@@ -45,11 +47,17 @@ VORM_INLINE void storeElements(const T* from, T* to)
 template <int order, class T, class D>
 void loadSquares(const D dst, int count)
 {
+    using Squares = Identity<order, T>;
     constexpr const T* from = identityOf<order, T>.elements;
+    int n = 0;
+    if constexpr (Squares::together > 1 && std::is_same_v<D, StridedElements<T>>)
+        if (dst.row == order * std::ptrdiff_t{sizeof(T)} && dst.object == Squares::size * std::ptrdiff_t{sizeof(T)})
+            for (; n <= count - Squares::together; n += Squares::together)
+                storeElements<Squares::together * Squares::size>(from, dst.at(n));
     if (dst.row == order * std::ptrdiff_t{sizeof(T)})
-        for (int n = 0; n < count; ++n) storeElements<order * order>(from, dst.at(n));
+        for (; n < count; ++n) storeElements<Squares::size>(from, dst.at(n));
     else
-        for (int n = 0; n < count; ++n)
+        for (; n < count; ++n)
             unrolled<order>([&, to = dst.at(n)](auto r) VORM_INLINE_LAMBDA {
                 storeElements<order>(from + r * order, advance(to, r * dst.row));
             });
