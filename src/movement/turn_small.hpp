@@ -59,7 +59,7 @@ VORM_INLINE void turnSmallPacked(const RowsOfObject<const double>& src, double* 
     const auto number = [&](int i) VORM_INLINE_LAMBDA { return loadFirst<1>(src.from(i % order) + i / order); };
     unrolled<order * order / 2>(
         [&](auto i) VORM_INLINE_LAMBDA { shuffle<0, 0>(number(2 * i), number(2 * i + 1)).store(dst + 2 * i); });
-    dst[order * order - 1] = double{entry(src.from(order - 1), order - 1)};
+    entry(dst, order * order - 1) = double{entry(src.from(order - 1), order - 1)};
 }
 
 template <int order, class T, class S, class D>
